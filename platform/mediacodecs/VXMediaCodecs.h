@@ -1,0 +1,97 @@
+#pragma once
+
+#include "VXMediaCodecsExport.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Vexlor
+{
+
+class IVXRational;
+
+// Codec identifiers. They stand in preset documents, so a number, once given, is never given again.
+
+/// No codec: the Auto codec of a codec preset, the entry of a format preset that leaves the stream out.
+inline constexpr int VXCodecID_None = 0;
+
+inline constexpr int VXCodecID_H264 = 1;
+inline constexpr int VXCodecID_HEVC = 2;
+inline constexpr int VXCodecID_MPEG4 = 3; ///< MPEG-4 Part 2, Advanced Simple Profile
+inline constexpr int VXCodecID_DIVX = 4;  ///< MPEG-4 Part 2 within the limits of DivX players
+inline constexpr int VXCodecID_MPEG1 = 5;
+inline constexpr int VXCodecID_MPEG2 = 6;
+inline constexpr int VXCodecID_VP8 = 7;
+inline constexpr int VXCodecID_VP9 = 8;
+inline constexpr int VXCodecID_AV1 = 9;
+
+inline constexpr int VXCodecID_AAC = 1001;
+inline constexpr int VXCodecID_MP3 = 1002;
+inline constexpr int VXCodecID_MP2 = 1003;
+inline constexpr int VXCodecID_AC3 = 1004;
+inline constexpr int VXCodecID_Opus = 1005;
+inline constexpr int VXCodecID_Vorbis = 1006;
+inline constexpr int VXCodecID_FLAC = 1007;
+inline constexpr int VXCodecID_PCM16 = 1008; ///< signed 16-bit little-endian samples
+
+// What GetCodecType answers.
+inline constexpr int VXCodecTypeUnknown = 0;
+inline constexpr int VXCodecTypeVideo = 1;
+inline constexpr int VXCodecTypeAudio = 2;
+
+// Pixel formats; the numbers are kept in preset documents. All others have numbers in the runtime's own
+// table.
+inline constexpr int VXPixFormat_None = -1;
+inline constexpr int VXPixFormat_YUV420P = 0; ///< planar YUV 4:2:0, 8 bits
+
+// Sample formats, as above.
+inline constexpr int VXSampleFormat_None = -1;
+inline constexpr int VXSampleFormat_FLT = 3; ///< 32-bit float, interleaved
+
+// Container names, as VXMediaCodecSupportOutputAllMediaFormats lists them.
+inline constexpr char VXFormatNameAVI[] = "AVI";
+inline constexpr char VXFormatNameMPG[] = "MPG"; ///< MPEG program stream
+
+/// Television standard of DVD, 1080i and 720p material.
+enum TVStandNorm : int
+{
+    TVStandNormPAL = 0,
+    TVStandNormNTSC = 1,
+};
+
+/// Shape of the picture on the screen.
+enum TVAspectType : int
+{
+    TVAspectType16x9 = 0,
+    TVAspectType4x3 = 1,
+};
+
+/// Every container name that can be written here, in the order in which a user would be offered them.
+VX_MEDIACODECS_API std::vector<std::string> VXMediaCodecSupportOutputAllMediaFormats();
+
+/// Display text of a size in pixels: "1920 x 1080".
+VX_MEDIACODECS_API std::string VXMediaCodecFormatResolution(int width, int height);
+/// Display text of a sample rate in Hz: "44.1 kHz".
+VX_MEDIACODECS_API std::string VXMediaCodecFormatSamplerate(int samplerate);
+/// Display name of a channel layout, a mask with one bit a loudspeaker: "Stereo", "5.1". A mask without a
+/// name of its own is named by its number of channels.
+VX_MEDIACODECS_API std::string VXChannelLayoutName(std::uint64_t layout);
+/// Display name of a pixel format; empty for a number that is not known.
+VX_MEDIACODECS_API std::string PixFormatName(int format);
+/// Display name of a sample format; empty for a number that is not known.
+VX_MEDIACODECS_API std::string SampleFormatName(int format);
+
+/// Sample aspect ratio of DVD pictures (720 x 480 NTSC, 720 x 576 PAL), a new object. A norm or aspect
+/// outside the enumerations reads as PAL or 16:9.
+VX_MEDIACODECS_API std::shared_ptr<IVXRational> VXMediaCodecDVDSampleAspectRatio(TVStandNorm norm,
+                                                                                 TVAspectType aspect);
+/// Sample aspect ratio of DVCPRO HD 1080i pictures (1280 x 1080 NTSC, 1440 x 1080 PAL); as above.
+VX_MEDIACODECS_API std::shared_ptr<IVXRational> VXMediaCodecDVHDSampleAspectRatio(TVStandNorm norm,
+                                                                                  TVAspectType aspect);
+/// Sample aspect ratio of DVCPRO HD 720p pictures (960 x 720); as above.
+VX_MEDIACODECS_API std::shared_ptr<IVXRational> VXMediaCodecDVHD720PSampleAspectRatio(TVStandNorm norm,
+                                                                                      TVAspectType aspect);
+
+} // namespace Vexlor
