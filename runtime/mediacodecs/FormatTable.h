@@ -1,0 +1,37 @@
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct AVInputFormat;
+
+namespace Vexlor
+{
+
+/// One container that has a name of ours.
+struct FormatRow
+{
+    std::string_view name;            ///< "MP4"
+    std::string_view muxer;           ///< libavformat's muxer
+    std::string_view demuxer;         ///< one of the names of libavformat's demuxer
+    std::string_view endings;         ///< file name endings, the usual one first, separated by blanks
+    std::span<const int> videoCodecs; ///< what players accept, preferred first
+    std::span<const int> audioCodecs; ///< as above
+};
+
+/// Every container with a name of ours, in the order in which a user is offered them, muxer here or not.
+std::span<const FormatRow> FormatTable();
+/// The row of a name of ours; null when there is none.
+const FormatRow* FindFormat(std::string_view name);
+/// The names of the containers whose muxer is here, in the table's order.
+std::vector<std::string> WritableFormats();
+/// Those of codecs (ours) that the container's muxer takes, in their order; none when the muxer is not here.
+std::vector<int> WritableCodecs(const FormatRow& format, std::span<const int> codecs);
+/// The name of the container that a file was opened as. Where several containers share a demuxer, the file
+/// name's ending chooses, else the first of them stands for all. Empty for a demuxer that no container of
+/// ours has.
+std::string FormatNameOf(const AVInputFormat& demuxer, std::string_view path);
+
+} // namespace Vexlor
