@@ -1,0 +1,60 @@
+#include "IVXProfilePreset.h"
+
+#include "IVXJsonValue.h"
+
+#include <utility>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+constexpr std::string_view kProfile = "profile";
+constexpr std::string_view kName = "name";
+
+class VXProfilePreset final : public IVXProfilePreset
+{
+public:
+    VXProfilePreset(int profile, std::string name) : m_profile(profile), m_name(std::move(name)) {}
+
+    int Profile() const override { return m_profile; }
+    std::string Name() const override { return m_name; }
+    std::shared_ptr<IVXProfilePreset> Clone() const override
+    {
+        return MallocProfilePreset(m_profile, m_name);
+    }
+    std::shared_ptr<IVXJsonValue> JsonValue() const override;
+
+private:
+    int m_profile;
+    std::string m_name;
+};
+
+std::shared_ptr<IVXJsonValue> VXProfilePreset::JsonValue() const
+{
+    auto json = IVXJsonValue::JsonValueNull();
+    json->SetValueInt(kProfile, m_profile);
+    json->SetValueString(kName, m_name);
+    return json;
+}
+
+} // namespace
+
+std::shared_ptr<IVXProfilePreset> IVXProfilePreset::MallocProfilePreset()
+{
+    return MallocProfilePreset(0, {});
+}
+
+std::shared_ptr<IVXProfilePreset> IVXProfilePreset::MallocProfilePreset(int profile, const std::string& name)
+{
+    return std::make_shared<VXProfilePreset>(profile, name);
+}
+
+std::shared_ptr<IVXProfilePreset>
+IVXProfilePreset::MallocProfilePreset(const std::shared_ptr<const IVXJsonValue>& json)
+{
+    return MallocProfilePreset(json->GetValueInt(kProfile), json->GetValueString(kName));
+}
+
+} // namespace Vexlor

@@ -1,0 +1,67 @@
+#include "IVXResolutionPreset.h"
+
+#include "IVXJsonValue.h"
+#include "VXMediaCodecs.h"
+
+namespace Vexlor
+{
+
+namespace
+{
+
+constexpr std::string_view kWidth = "width";
+constexpr std::string_view kHeight = "height";
+
+class VXResolutionPreset final : public IVXResolutionPreset
+{
+public:
+    VXResolutionPreset(int width, int height) : m_width(width), m_height(height) {}
+
+    int Width() const override { return m_width; }
+    int Height() const override { return m_height; }
+    std::shared_ptr<IVXResolutionPreset> Clone() const override
+    {
+        return MallocResolutionPreset(m_width, m_height);
+    }
+    std::shared_ptr<IVXJsonValue> JsonValue() const override;
+
+private:
+    int m_width;
+    int m_height;
+};
+
+std::shared_ptr<IVXJsonValue> VXResolutionPreset::JsonValue() const
+{
+    auto json = IVXJsonValue::JsonValueNull();
+    json->SetValueInt(kWidth, m_width);
+    json->SetValueInt(kHeight, m_height);
+    return json;
+}
+
+} // namespace
+
+// A 1920 x 0 preset is Auto: one missing side leaves nothing to scale to.
+bool IVXResolutionPreset::IsAutoValue() const { return Width() < 1 || Height() < 1; }
+
+std::string IVXResolutionPreset::FormatResolution() const
+{
+    return IsAutoValue() ? "Auto" : VXMediaCodecFormatResolution(Width(), Height());
+}
+
+std::shared_ptr<IVXResolutionPreset> IVXResolutionPreset::MallocResolutionPreset()
+{
+    return MallocResolutionPreset(0, 0);
+}
+
+std::shared_ptr<IVXResolutionPreset> IVXResolutionPreset::MallocResolutionPreset(int width, int height)
+{
+    return std::make_shared<VXResolutionPreset>(width, height);
+}
+
+std::shared_ptr<IVXResolutionPreset>
+IVXResolutionPreset::MallocResolutionPreset(const std::shared_ptr<const IVXJsonValue>& json)
+{
+    return MallocResolutionPreset(json->GetValueInt(kWidth), json->GetValueInt(kHeight));
+}
+
+} // namespace Vexlor
