@@ -299,7 +299,9 @@ private:
     void MatchForFramerate(Output& output, const Source& source) const;
     void MatchForSamplerate(Output& output, const Source& source) const;
     void MatchForChannelLayout(Output& output, const Source& source) const;
+    void MatchForFormat(Output& output) const;
     void MatchForQuality(Output& output, const Source& source, int maxBitrate, int minBitrate) const;
+    void SetProfileLevelAspect(Output& output) const;
 };
 
 } // namespace Vexlor
