@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <optional>
 #include <span>
 
@@ -15,6 +17,8 @@ extern "C"
 #define VX_AV_PROFILE(name) FF_PROFILE_##name
 #endif
 
+struct AVStream;
+
 namespace Vexlor
 {
 
@@ -27,5 +31,9 @@ struct EncoderLists
     std::span<const AVChannelLayout> layouts;
 };
 EncoderLists ListsOf(const AVCodec& encoder);
+
+/// The matrix that turns a stream's picture upright, as libavutil's display functions take it; empty when the
+/// container has none.
+std::optional<std::array<std::int32_t, 9>> DisplayMatrixOf(const AVStream& stream);
 
 } // namespace Vexlor
