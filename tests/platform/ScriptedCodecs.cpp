@@ -159,6 +159,7 @@ private:
     static std::vector<int> NumbersOf(const std::vector<ScriptedCodec::Number>& named)
     {
         std::vector<int> numbers;
+        numbers.reserve(named.size());
         for (const auto& [number, name] : named)
             numbers.push_back(number);
         return numbers;

@@ -185,7 +185,7 @@ std::string Quoted(const std::string& text)
 
 struct Writer
 {
-    std::string operator()(std::monostate) const { return "null"; }
+    std::string operator()(std::monostate /*null*/) const { return "null"; }
     std::string operator()(bool truth) const { return truth ? "true" : "false"; }
     std::string operator()(const Value::Number& number) const { return number.literal; }
     std::string operator()(const std::string& text) const { return Quoted(text); }

@@ -1,7 +1,9 @@
 #include "tests/platform/ScriptedJson.h"
 
+#include <array>
 #include <gtest/gtest.h>
 #include <stdexcept>
+#include <string>
 
 namespace Vexlor
 {
@@ -11,7 +13,7 @@ namespace
 
 TEST(ScriptedJson, TextGivesBackWhatJsonRead)
 {
-    const auto text = R"({"a":-1.5,"list":[true,null,{"text":"q\"\\"}],"empty":{},"none":[]})";
+    const std::string text = R"({"a":-1.5,"list":[true,null,{"text":"q\"\\"}],"empty":{},"none":[]})";
     EXPECT_EQ(text, Text(Json(text)));
 }
 
@@ -67,13 +69,13 @@ TEST_P(ScriptedJsonNumber, ReadsAs)
     EXPECT_EQ(GetParam().asInt64, value->GetValueInt64("n"));
 }
 
-constexpr NumberCase kNumbers[] = {
-    {"Whole", R"({"n": 42})", 42, 42},
-    {"Fraction", R"({"n": -1.9})", -1, -1},
-    {"Exponent", R"({"n": 1e3})", 1000, 1000},
-    {"BeyondInt", R"({"n": 4294967296})", 0, 4294967296},
-    {"AllBits", R"({"n": 18446744073709551615})", 0, -1},
-    {"BeyondInt64", R"({"n": 18446744073709551616})", 0, 0},
+const std::array kNumbers{
+    NumberCase{"Whole", R"({"n": 42})", 42, 42},
+    NumberCase{"Fraction", R"({"n": -1.9})", -1, -1},
+    NumberCase{"Exponent", R"({"n": 1e3})", 1000, 1000},
+    NumberCase{"BeyondInt", R"({"n": 4294967296})", 0, 4294967296},
+    NumberCase{"AllBits", R"({"n": 18446744073709551615})", 0, -1},
+    NumberCase{"BeyondInt64", R"({"n": 18446744073709551616})", 0, 0},
 };
 
 INSTANTIATE_TEST_SUITE_P(Numbers, ScriptedJsonNumber, testing::ValuesIn(kNumbers),

@@ -8,7 +8,7 @@ namespace Vexlor
 namespace
 {
 
-ScriptedPlatform* g_current = nullptr; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+ScriptedPlatform* g_current = nullptr;
 
 } // namespace
 
