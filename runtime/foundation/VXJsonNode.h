@@ -1,0 +1,128 @@
+#pragma once
+
+#include "IVXJsonValue.h"
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Vexlor
+{
+
+enum class JsonKind : std::uint8_t
+{
+    Absent,
+    Null,
+    Bool,
+    Int64,
+    Uint64, ///< beyond what a signed integer holds
+    Double,
+    String,
+    Array,
+    Object,
+};
+
+class VXJsonNode;
+
+/// What stands behind a member's name or at an element's place: a scalar itself, or where to find a
+/// container.
+struct JsonItem
+{
+    JsonKind kind = JsonKind::Absent;
+    std::uint64_t bits = 0;           ///< of Bool, Int64, Uint64 and Double
+    std::string_view text;            ///< of String
+    const VXJsonNode* node = nullptr; ///< of Array and Object
+};
+
+/// What parsed and built values have in common beyond their interface: they can be walked.
+class VXJsonNode : public IVXJsonValue
+{
+public:
+    virtual JsonItem Self() const = 0;
+    /// Number of elements of an array or of members of an object; 0 for a scalar.
+    virtual std::size_t Count() const = 0;
+    /// index is below Count().
+    virtual JsonItem ItemAt(std::size_t index) const = 0;
+    /// index is below Count() of an object.
+    virtual std::string_view NameAt(std::size_t index) const = 0;
+
+protected:
+    ~VXJsonNode() = default;
+};
+
+/// Null and the empty array; they belong to no document and need no owner.
+std::shared_ptr<const IVXJsonValue> JsonNull();
+std::shared_ptr<const IVXJsonValue> JsonEmptyArray();
+
+/// The integer part of a finite number; 0 where Integer cannot hold it.
+template <class Integer>
+Integer IntegerPart(double number)
+{
+    // Both bounds are outside the range: -2^63 may stand for any literal that rounds to it.
+    constexpr double kLowest = static_cast<double>(std::numeric_limits<Integer>::min());
+    constexpr double kBelow = sizeof(Integer) < sizeof(std::int64_t) ? kLowest - 1 : kLowest;
+    return number > kBelow && number < -kLowest ? static_cast<Integer>(number) : 0;
+}
+
+/// The getters, once for both kinds of values: Derived tells what an item holds (Find).
+template <class Derived>
+class VXJsonGetters : public VXJsonNode
+{
+public:
+    bool HasKey(std::string_view name) const final { return Item(name).kind != JsonKind::Absent; }
+
+    std::string GetValueString(std::string_view name) const final { return std::string(Item(name).text); }
+
+    int GetValueInt(std::string_view name) const final
+    {
+        const JsonItem item = Item(name);
+        if (item.kind == JsonKind::Double)
+            return IntegerPart<int>(std::bit_cast<double>(item.bits));
+        const auto value = std::bit_cast<std::int64_t>(item.bits);
+        return item.kind == JsonKind::Int64 && value == static_cast<int>(value) ? static_cast<int>(value) : 0;
+    }
+
+    std::int64_t GetValueInt64(std::string_view name) const final
+    {
+        const JsonItem item = Item(name);
+        if (item.kind == JsonKind::Double)
+            return IntegerPart<std::int64_t>(std::bit_cast<double>(item.bits));
+        const bool isInteger = item.kind == JsonKind::Int64 || item.kind == JsonKind::Uint64;
+        return isInteger ? std::bit_cast<std::int64_t>(item.bits) : 0;
+    }
+
+    bool GetValueBool(std::string_view name) const final
+    {
+        const JsonItem item = Item(name);
+        return item.kind == JsonKind::Bool && item.bits != 0;
+    }
+
+protected:
+    ~VXJsonGetters() = default;
+
+private:
+    JsonItem Item(std::string_view name) const { return static_cast<const Derived&>(*this).Find(name); }
+};
+
+/// A value that only reads: setting members on it does nothing.
+template <class Derived>
+class VXJsonReadOnly : public VXJsonGetters<Derived>
+{
+public:
+    void SetValueInt(std::string_view, int) final {}
+    void SetValueInt64(std::string_view, std::int64_t) final {}
+    void SetValueBool(std::string_view, bool) final {}
+    void SetValueString(std::string_view, const std::string&) final {}
+    void SetValueObject(std::string_view, const std::shared_ptr<IVXJsonValue>&) final {}
+    void SetValueArray(std::string_view, const std::vector<std::shared_ptr<IVXJsonValue>>&) final {}
+
+protected:
+    ~VXJsonReadOnly() = default;
+};
+
+} // namespace Vexlor
