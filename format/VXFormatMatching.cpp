@@ -38,7 +38,10 @@ int Limited(int size, int max, int min)
 }
 
 /// The current preset or, where that is no codec, the one that stands in for it.
-Codec OrSecond(Codec current, Codec second) { return current && current->IsAutoValue() ? second : current; }
+Codec OrSecond(const Codec& current, const Codec& second)
+{
+    return current && current->IsAutoValue() ? second : current;
+}
 
 std::shared_ptr<IVXCodecParameter> DefaultParameter(const Codec& preset)
 {
@@ -48,7 +51,7 @@ std::shared_ptr<IVXCodecParameter> DefaultParameter(const Codec& preset)
 } // namespace
 
 std::shared_ptr<IVXFormatParameter>
-IVXFormatPreset::MatchForSource(std::shared_ptr<const IVXFormatParameter> source) const
+IVXFormatPreset::MatchForSource(const std::shared_ptr<const IVXFormatParameter>& source) const
 {
     auto output = IVXFormatParameter::MallocFormatParameter(FormatName(), FormatHint());
     if (!source)

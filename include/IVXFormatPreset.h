@@ -185,7 +185,7 @@ public:
     /// The size bounds act only when both largest sides are given, and on each side alone: the picture's
     /// shape is deliberately not kept.
     std::shared_ptr<IVXFormatParameter>
-    MatchForSource(std::shared_ptr<const IVXFormatParameter> source) const;
+    MatchForSource(const std::shared_ptr<const IVXFormatParameter>& source) const;
     /// The parameters to write with when no source is known; no bounds are applied. A stream without a
     /// current codec preset is left out. A new object; never empty.
     std::shared_ptr<IVXFormatParameter> DefaultFormatParameter() const;

@@ -122,8 +122,8 @@ std::shared_ptr<IVXFormatNode> IVXFormatNode::MallocFormatNode(std::shared_ptr<I
     auto node = std::make_shared<VXFormatNode>();
     if (parent)
     {
-        node->SetParent(parent);
         parent->AddChild(node);
+        node->SetParent(std::move(parent));
     }
     return node;
 }

@@ -30,7 +30,9 @@ std::shared_ptr<IVXJsonValue> WriteNode(const IVXFormatNode& node,
                                         const std::vector<std::shared_ptr<IVXJsonValue>>& children)
 {
     std::vector<std::shared_ptr<IVXJsonValue>> presets;
-    for (int i = 0; i < node.FormatPresetCount(); ++i)
+    const int count = node.FormatPresetCount();
+    presets.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
         presets.push_back(node.GetFormatPreset(i)->JsonValue());
     auto json = IVXJsonValue::JsonValueNull();
     json->SetValueString(kName, node.Name());

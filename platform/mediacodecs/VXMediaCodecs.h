@@ -51,8 +51,8 @@ inline constexpr int VXSampleFormat_None = -1;
 inline constexpr int VXSampleFormat_FLT = 3; ///< 32-bit float, interleaved
 
 // Container names, as VXMediaCodecSupportOutputAllMediaFormats lists them.
-inline constexpr char VXFormatNameAVI[] = "AVI";
-inline constexpr char VXFormatNameMPG[] = "MPG"; ///< MPEG program stream
+inline constexpr const char* VXFormatNameAVI = "AVI";
+inline constexpr const char* VXFormatNameMPG = "MPG"; ///< MPEG program stream
 
 /// Television standard of DVD, 1080i and 720p material.
 enum TVStandNorm : int

@@ -2,6 +2,7 @@
 
 #include "CodecTable.h"
 #include "IVXCodecParameter.h"
+#include "IVXCodecs.h"
 #include "IVXRational.h"
 #include "VXMediaCodecs.h"
 
@@ -13,7 +14,7 @@ namespace Vexlor
 class VXCodecParameter final : public IVXCodecParameter
 {
 public:
-    explicit VXCodecParameter(int codecID);
+    explicit VXCodecParameter(int codecID) : m_codecID(codecID) {}
 
     /// Sets the size that GetDisplayWidth and GetDisplayHeight answer; 0 x 0 has them computed again.
     void SetDisplaySize(int width, int height) { m_display = {width, height}; }
@@ -63,9 +64,9 @@ private:
     PictureSize m_display;
     std::shared_ptr<const IVXRational> m_aspect = IVXRational::MallocRational(1, 1);
     std::shared_ptr<const IVXRational> m_frameRate = IVXRational::MallocRational(0, 1);
-    int m_format;
-    int m_profile;
-    int m_level;
+    int m_format = VXPixFormat_None; // VXSampleFormat_None is the same number
+    int m_profile = IVXCodecs::VXProfileUnknown;
+    int m_level = IVXCodecs::VXLevelUnknown;
     int m_bitrate = 0;
     int m_maxBitrate = 0;
     int m_minBitrate = 0;

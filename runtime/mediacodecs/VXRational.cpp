@@ -1,5 +1,7 @@
 #include "IVXRational.h"
 
+#include "DisplayNames.h"
+
 #include <limits>
 
 namespace Vexlor
@@ -35,7 +37,12 @@ double VXRational::GetDoubleValue() const
     return m_num > 0 ? Limits::infinity() : -Limits::infinity();
 }
 
-std::string VXRational::FormatAsFramerate() const { return {}; }
+std::string VXRational::FormatAsFramerate() const
+{
+    // Two decimals tell all coded rates apart but 23.976, which nobody writes as 23.98.
+    const auto rate = GetDoubleValue();
+    return FormatDecimal(rate, rate > 23.97 && rate < 23.98 ? 3 : 2) + " fps";
+}
 
 } // namespace
 
