@@ -1,0 +1,88 @@
+#include "tests/media/ClipRecipes.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <iterator>
+#include <stdexcept>
+
+namespace Vexlor::Media
+{
+
+namespace
+{
+
+// Writes a quarter turn into the header of an MP4's first track. Done by hand, since the option for it
+// differs between the versions of the ffmpeg program.
+void TurnFirstTrack(std::string& bytes)
+{
+    constexpr std::size_t matrixOffset = 44; // behind the box's name: times, identifiers, layer, volume
+    constexpr std::array<std::uint32_t, 9> quarterTurn = {0, 0x10000, 0, 0xFFFF0000, 0, 0, 0, 0, 0x40000000};
+    const auto box = bytes.find("tkhd");
+    if (box == std::string::npos || box + matrixOffset + sizeof(quarterTurn) > bytes.size())
+        throw std::runtime_error("no track header to turn");
+    auto at = box + matrixOffset;
+    for (const auto value : quarterTurn)
+        for (int shift = 24; shift >= 0; shift -= 8)
+            bytes[at++] = static_cast<char>(value >> shift & 0xFF);
+}
+
+constexpr ClipRecipe kRecipes[] = {
+    {"film.mp4", "size=1920x1080:rate=30:duration=1", "sample_rate=48000:duration=1",
+     "-c:v libx264 -preset superfast -profile:v main -c:a aac -b:a 96k -ac 2"},
+    {"film.mkv", "size=640x360:rate=24000/1001:duration=2", "sample_rate=48000:duration=2",
+     "-c:v libx264 -preset ultrafast -c:a libopus -b:a 64k -ac 2"},
+    {"film.webm", "size=320x180:rate=25:duration=1", "sample_rate=48000:duration=1",
+     "-c:v libvpx-vp9 -deadline realtime -cpu-used 8 -c:a libopus -ac 2"},
+    {"film.avi", "size=320x240:rate=25:duration=1", "sample_rate=44100:duration=1",
+     "-c:v mpeg4 -tag:v XVID -c:a libmp3lame -b:a 128k -ac 2"},
+    {"film.ts", "size=320x180:rate=25:duration=2", "sample_rate=48000:duration=2",
+     "-c:v libx264 -preset ultrafast -c:a aac -ac 2"},
+    {"anamorphic.mp4", "size=720x576:rate=25:duration=1", "",
+     "-c:v libx264 -preset ultrafast -vf setsar=64/45"},
+    {"rotated.mp4", "size=1920x1080:rate=30:duration=0.5", "sample_rate=48000:duration=0.5",
+     "-c:v libx264 -preset ultrafast -c:a aac -ac 1", TurnFirstTrack},
+    {"turned.mp4", "size=720x576:rate=25:duration=1", "", "-c:v libx264 -preset ultrafast -vf setsar=64/45",
+     TurnFirstTrack},
+    {"tenbit.mp4", "size=640x360:rate=25:duration=0.4", "",
+     "-c:v libx265 -preset ultrafast -x265-params log-level=none -pix_fmt yuv420p10le -tag:v hvc1"},
+    {"surround.mp4", "size=320x180:rate=25:duration=1", "sample_rate=48000:duration=1",
+     "-c:v libx264 -preset ultrafast -c:a aac -af pan=5.1|FL=c0|FR=c0|FC=c0|LFE=c0|BL=c0|BR=c0"},
+    {"silent.mp4", "size=320x180:rate=25:duration=1", "", "-c:v libx264 -preset ultrafast"},
+    {"uneven.mp4", "size=320x180:rate=30:duration=0.667", "",
+     "-c:v libx264 -preset ultrafast -fps_mode vfr -vf setpts='if(lt(N,10),N,2*N-10)/30/TB'"},
+    {"prores.mov", "size=640x360:rate=25:duration=0.4", "sample_rate=48000:duration=0.4",
+     "-c:v prores_ks -c:a pcm_s16le -ac 2"},
+    {"music.mp3", "size=64x64:rate=1:duration=1", "sample_rate=44100:duration=2",
+     "-map 0:v -map 1:a -c:v png -disposition:v attached_pic -c:a libmp3lame -b:a 128k -ac 2"},
+    {"music.flac", "", "sample_rate=44100:duration=1", "-ac 2"},
+    {"count.au", "", "sample_rate=48000:duration=0.5",
+     "-c:a pcm_s16be -af pan=5.1|FL=c0|FR=c0|FC=c0|LFE=c0|BL=c0|BR=c0"},
+    {"subtitles.mkv", "", "",
+     "-f srt -i data:text/plain;base64,MQowMDowMDowMCwwMDAgLS0+IDAwOjAwOjAxLDAwMApIZWxsbwoK"},
+    {"picture.png", "size=64x64:rate=1:duration=1", "", "-frames:v 1"},
+    {"streamed.mp4", "size=320x180:rate=25:duration=1", "",
+     "-c:v libx264 -preset ultrafast -movflags +faststart"},
+};
+
+} // namespace
+
+const ClipRecipe& FindRecipe(std::string_view name)
+{
+    const auto* recipe = std::ranges::find(kRecipes, name, &ClipRecipe::name);
+    if (recipe == std::end(kRecipes))
+        throw std::invalid_argument("no clip is called " + std::string(name));
+    return *recipe;
+}
+
+std::string ArgumentsOf(const ClipRecipe& recipe)
+{
+    std::string arguments;
+    if (!recipe.picture.empty())
+        arguments += "-f lavfi -i testsrc2=" + std::string(recipe.picture) + ' ';
+    if (!recipe.tone.empty())
+        arguments += "-f lavfi -i sine=" + std::string(recipe.tone) + ' ';
+    return arguments += recipe.arguments;
+}
+
+} // namespace Vexlor::Media

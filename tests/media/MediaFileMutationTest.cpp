@@ -1,0 +1,109 @@
+#include "runtime/mediacodecs/VXMediaFile.h"
+
+#include "IVXCodecParameter.h"
+#include "IVXFormatParameter.h"
+#include "IVXRational.h"
+#include "tests/media/MediaMaker.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+constexpr int kMutations = 300;
+
+class Mutator final
+{
+public:
+    explicit Mutator(std::string bytes) : m_bytes(std::move(bytes)) {}
+
+    std::string Next()
+    {
+        auto bytes = m_bytes;
+        switch (Below(4))
+        {
+        case 0:
+            bytes.resize(Below(bytes.size()));
+            break;
+        case 1:
+            std::fill_n(bytes.begin() + Place(), 8, '\xFF');
+            break;
+        case 2:
+            std::fill_n(bytes.begin() + Place(), 8, '\0');
+            break;
+        default:
+            for (int i = 0; i < 8; ++i)
+                bytes[static_cast<std::size_t>(Place())] = static_cast<char>(Below(256));
+        }
+        return bytes;
+    }
+
+private:
+    std::size_t Below(std::size_t bound) { return m_random() % bound; }
+
+    // Mostly in the file's description, which stands first.
+    std::ptrdiff_t Place()
+    {
+        const auto whole = m_bytes.size() - 8;
+        return static_cast<std::ptrdiff_t>(Below(Below(4) > 0 ? std::min<std::size_t>(whole, 1500) : whole));
+    }
+
+    std::string m_bytes;
+    std::mt19937 m_random{20240229};
+};
+
+void ExpectSane(const IVXCodecParameter& video)
+{
+    EXPECT_GT(video.GetWidth(), 0);
+    EXPECT_GT(video.GetHeight(), 0);
+    EXPECT_GT(video.GetDisplayWidth(), 0);
+    EXPECT_GT(video.GetDisplayHeight(), 0);
+    EXPECT_GE(video.GetFrameRate()->GetDoubleValue(), 0);
+    EXPECT_GE(video.GetBitrate(), 0);
+}
+
+void ExpectSane(const VXMediaFile& file)
+{
+    EXPECT_NE(file.parameter == nullptr, file.error.empty());
+    if (!file.parameter)
+        return;
+    const auto video = file.parameter->GetVideoCodecParameter();
+    const auto audio = file.parameter->GetAudioCodecParameter();
+    EXPECT_TRUE(video || audio);
+    if (video)
+        ExpectSane(*video);
+    EXPECT_TRUE(!audio || audio->GetSampleRate() > 0);
+}
+
+class MediaFileMutation : public testing::TestWithParam<const char*>
+{
+};
+
+TEST_P(MediaFileMutation, ReadsSanelyOrIsRefused)
+{
+    const Media::ScratchFolder scratch;
+    Mutator mutator(Media::BytesOf(Media::Clip(GetParam())));
+    for (int i = 0; i < kMutations; ++i)
+    {
+        SCOPED_TRACE(i);
+        ExpectSane(ReadMediaFile(scratch.Write("clip", mutator.Next())));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, MediaFileMutation, testing::Values("streamed.mp4", "film.webm", "film.ts"),
+                         [](const auto& test)
+                         {
+                             std::string name = test.param;
+                             std::ranges::replace(name, '.', '_');
+                             return name;
+                         });
+
+} // namespace
+
+} // namespace Vexlor
