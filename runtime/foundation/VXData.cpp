@@ -1,5 +1,7 @@
 #include "IVXData.h"
 
+#include <cstring>
+#include <functional>
 #include <limits>
 #include <stdexcept>
 #include <vector>
@@ -26,10 +28,14 @@ public:
             return;
         if (size > std::numeric_limits<std::uint32_t>::max() - Size())
             throw std::length_error("IVXData: a buffer holds less than 4 GiB");
-        // The bytes may be our own: a copy of them stays where it is while the buffer grows.
         const auto* first = static_cast<const std::uint8_t*>(bytes);
-        const std::vector<std::uint8_t> added(first, first + size);
-        m_bytes.insert(m_bytes.end(), added.begin(), added.end());
+        // The bytes may be our own, which move when the buffer grows.
+        const bool areOurs =
+            !std::less<>()(first, m_bytes.data()) && std::less<>()(first, m_bytes.data() + Size());
+        const auto offset = areOurs ? first - m_bytes.data() : 0;
+        const std::size_t end = m_bytes.size();
+        m_bytes.resize(end + size);
+        std::memcpy(m_bytes.data() + end, areOurs ? m_bytes.data() + offset : first, size);
     }
 
     void AppendData(const std::shared_ptr<const IVXData>& data) override

@@ -163,13 +163,13 @@ std::shared_ptr<const IVXJsonValue> VXJsonView::At(int index) const
     return index >= 0 && index < Size() ? Child(static_cast<std::size_t>(index)).Handle() : JsonNull();
 }
 
-simdjson::error_code VXJsonDocument::Parse(const char* text, std::size_t length)
+simdjson::error_code VXJsonDocument::Parse(std::string_view text)
 {
     simdjson::dom::parser parser;
     // simdjson counts the document itself as a level.
-    if (const auto error = parser.allocate(length, kJsonMaxDepth + 1))
+    if (const auto error = parser.allocate(text.size(), kJsonMaxDepth + 1))
         return error;
-    if (const auto error = parser.parse_into_document(m_document, text, length, false).error())
+    if (const auto error = parser.parse_into_document(m_document, text.data(), text.size(), false).error())
         return error;
     return BuildViews();
 }

@@ -56,8 +56,8 @@ static_assert(sizeof(VXJsonView) <= 32, "a document holds a view for each of its
 class VXJsonDocument final : public std::enable_shared_from_this<VXJsonDocument>
 {
 public:
-    /// Reads length bytes, behind which lie simdjson::SIMDJSON_PADDING more.
-    simdjson::error_code Parse(const char* text, std::size_t length);
+    /// Behind the text lie simdjson::SIMDJSON_PADDING more bytes.
+    simdjson::error_code Parse(std::string_view text);
 
     /// After a successful Parse.
     std::shared_ptr<const IVXJsonValue> Root() const { return m_views.front().Handle(); }
@@ -73,7 +73,7 @@ private:
     std::vector<VXJsonView> m_views;
 };
 
-/// Reads a whole text, as ParseJson.
-std::shared_ptr<const IVXJsonValue> ParsePadded(const simdjson::padded_string& text, std::string* error);
+/// Reads a whole text, as ParseJson; behind it lie simdjson::SIMDJSON_PADDING more bytes.
+std::shared_ptr<const IVXJsonValue> ParsePadded(std::string_view text, std::string* error);
 
 } // namespace Vexlor

@@ -2,11 +2,16 @@
 #include "runtime/foundation/VXJsonDocument.h"
 #include "runtime/foundation/VXJsonScan.h"
 
+#include <new>
+#include <utility>
+
 namespace Vexlor
 {
 
 namespace
 {
+
+constexpr const char* kNoMemory = "1:1: not enough memory";
 
 using Value = std::shared_ptr<const IVXJsonValue>;
 
@@ -17,46 +22,51 @@ Value Fail(std::string* error, std::string message)
     return {};
 }
 
-// simdjson refuses integers beyond 64 bits, but not the same number with a fraction.
-simdjson::padded_string WithFractions(std::string_view text, const std::vector<std::size_t>& ends)
+// Room behind the text, which the parser reads in blocks.
+std::string WithRoomFor(std::size_t size)
 {
-    std::string result;
-    result.reserve(text.size() + 2 * ends.size());
+    std::string text;
+    text.reserve(size + simdjson::SIMDJSON_PADDING);
+    return text;
+}
+
+// simdjson refuses integers beyond 64 bits, but not the same number with a fraction.
+std::string WithFractions(std::string_view text, const std::vector<std::size_t>& ends)
+{
+    std::string result = WithRoomFor(text.size() + 2 * ends.size());
     std::size_t from = 0;
     for (const std::size_t end : ends)
     {
         result.append(text, from, end - from).append(".0");
         from = end;
     }
-    result.append(text, from);
-    return simdjson::padded_string(result);
+    return result.append(text, from);
 }
 
 // The slow way, for texts that the parser refused: finds the reason, or what makes the text acceptable.
 Value ParseCarefully(std::string_view text, simdjson::error_code refusal, std::string* error)
 {
     if (refusal == simdjson::MEMALLOC)
-        return Fail(error, "1:1: not enough memory");
+        return Fail(error, kNoMemory);
     const JsonScan scan = ScanJson(text);
     if (!scan.reason.empty())
         return Fail(error, JsonPlace(text, scan.offset) + ": " + scan.reason);
     const auto document = std::make_shared<VXJsonDocument>();
     const auto fractions = WithFractions(text, scan.longIntegers);
-    if (document->Parse(fractions.data(), fractions.size()) != simdjson::SUCCESS)
+    if (document->Parse(fractions) != simdjson::SUCCESS)
         return Fail(error, JsonPlace(text, text.size()) + ": not valid JSON");
     return document->Root();
 }
 
 } // namespace
 
-Value ParsePadded(const simdjson::padded_string& padded, std::string* error)
+Value ParsePadded(std::string_view text, std::string* error)
 {
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-    std::string_view text = padded;
     if (text.substr(0, kByteOrderMark.size()) == kByteOrderMark)
         text.remove_prefix(kByteOrderMark.size());
     const auto document = std::make_shared<VXJsonDocument>();
-    const auto refusal = document->Parse(text.data(), text.size());
+    const auto refusal = document->Parse(text);
     return refusal == simdjson::SUCCESS ? document->Root() : ParseCarefully(text, refusal, error);
 }
 
@@ -64,7 +74,14 @@ Value ParseJson(std::string_view text, std::string* error)
 {
     if (text.size() > simdjson::SIMDJSON_MAXSIZE_BYTES)
         return Fail(error, "1:1: the document is larger than 4 GiB");
-    return ParsePadded(simdjson::padded_string(text), error);
+    try
+    {
+        return ParsePadded(WithRoomFor(text.size()).append(text), error);
+    }
+    catch (const std::bad_alloc&)
+    {
+        return Fail(error, kNoMemory);
+    }
 }
 
 } // namespace Vexlor
