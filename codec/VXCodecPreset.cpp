@@ -1,7 +1,7 @@
 #include "codec/VXCodecPreset.h"
 
 #include "codec/VXCodecDefaults.h"
-#include "codec/VXWrapping.h"
+#include "presets/VXWrapping.h"
 
 #include "IVXCodecs.h"
 #include "IVXJsonValue.h"

@@ -1,6 +1,6 @@
 #include "IVXCodecPreset.h"
 
-#include "codec/VXWrapping.h"
+#include "presets/VXWrapping.h"
 
 #include "IVXCodecParameter.h"
 #include "IVXCodecQualityPreset.h"

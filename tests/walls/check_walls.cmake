@@ -5,7 +5,7 @@ cmake_minimum_required(VERSION 3.25)
 # The library's folders and the public headers include the standard library, the platform's interfaces, the library's
 # own interfaces and each other, each only what stands at or below its own place in the order. Only artwork/ sees Qt.
 
-set(order presets codec format tree)
+set(order presets codec format tree artwork)
 file(GLOB_RECURSE files RELATIVE ${ROOT} ${ROOT}/include/*.h ${ROOT}/platform/*.h ${ROOT}/presets/* ${ROOT}/codec/*
      ${ROOT}/format/* ${ROOT}/tree/* ${ROOT}/artwork/*)
 list(FILTER files INCLUDE REGEX "\\.(h|cpp)$")
