@@ -94,9 +94,13 @@ void IVXCodecPreset::MatchForResolution(Output& output, const Source& source) co
     auto current = CurrentResolution();
     if (IsOpen(current) && !source)
         current = FirstConcrete(ResolutionPresets(), current);
-    const bool fromSource = IsOpen(current) && source;
-    const int width = fromSource ? source->GetDisplayWidth() : current ? current->Width() : 0;
-    const int height = fromSource ? source->GetDisplayHeight() : current ? current->Height() : 0;
+    int width = current ? current->Width() : 0;
+    int height = current ? current->Height() : 0;
+    if (IsOpen(current) && source)
+    {
+        width = source->GetDisplayWidth();
+        height = source->GetDisplayHeight();
+    }
 
     const auto codecs = IVXCodecs::MallocCodecs(CodecID(), true);
     if (!codecs)
@@ -126,8 +130,9 @@ void IVXCodecPreset::MatchForSamplerate(Output& output, const Source& source) co
     auto current = CurrentSamplerate();
     if (IsOpen(current) && !source)
         current = FirstConcrete(SampleratePresets(), current);
-    const bool fromSource = IsOpen(current) && source;
-    const int rate = fromSource ? source->GetSampleRate() : current ? current->Samplerate() : 0;
+    int rate = current ? current->Samplerate() : 0;
+    if (IsOpen(current) && source)
+        rate = source->GetSampleRate();
 
     if (const auto codecs = IVXCodecs::MallocCodecs(CodecID(), true))
         output->SetSampleRate(codecs->BestSampleRateForInput(rate, {}));
@@ -138,8 +143,9 @@ void IVXCodecPreset::MatchForChannelLayout(Output& output, const Source& source)
     auto current = CurrentChannelLayout();
     if (IsOpen(current) && !source)
         current = FirstConcrete(ChannelLayoutPresets(), current);
-    const bool fromSource = IsOpen(current) && source;
-    const std::uint64_t layout = fromSource ? source->GetChannelLayout() : current ? current->Layout() : 0;
+    std::uint64_t layout = current ? current->Layout() : 0;
+    if (IsOpen(current) && source)
+        layout = source->GetChannelLayout();
 
     if (const auto codecs = IVXCodecs::MallocCodecs(CodecID(), true))
         output->SetChannelLayout(codecs->BestChannelLayoutForInput(layout, {}));
