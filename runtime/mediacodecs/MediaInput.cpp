@@ -28,15 +28,15 @@ struct RefusedKind
     std::string_view what;
 };
 
-constexpr RefusedKind kRefusedKinds[] = {
-    {"concat", "a playlist"},
-    {"dash", "a playlist"},
-    {"hls", "a playlist"},
-    {"ico", "a still picture"},
-    {"image2", "a still picture"},
-    {"imf", "a playlist"},
-    {"sdp", "the description of a network stream"},
-    {"tty", "text"},
+constexpr std::array kRefusedKinds{
+    RefusedKind{"concat", "a playlist"},
+    RefusedKind{"dash", "a playlist"},
+    RefusedKind{"hls", "a playlist"},
+    RefusedKind{"ico", "a still picture"},
+    RefusedKind{"image2", "a still picture"},
+    RefusedKind{"imf", "a playlist"},
+    RefusedKind{"sdp", "the description of a network stream"},
+    RefusedKind{"tty", "text"},
 };
 
 // What the file is, when it is of a kind that is not read; empty when it is read.
@@ -45,7 +45,7 @@ std::string_view Refused(std::string_view demuxer)
     if (demuxer.ends_with("_pipe"))
         return "a still picture";
     const auto* row = std::ranges::find(kRefusedKinds, demuxer, &RefusedKind::demuxer);
-    return row != std::end(kRefusedKinds) ? row->what : std::string_view();
+    return row != kRefusedKinds.end() ? row->what : std::string_view();
 }
 
 std::string ReasonOf(int error)
@@ -55,7 +55,11 @@ std::string ReasonOf(int error)
     return text.data();
 }
 
-std::string Damaged(int error) { return "is damaged or cut off (" + ReasonOf(error) + ")"; }
+std::string Damaged(const BoundedFile& file, int error)
+{
+    return file.Exhausted() ? "is damaged or cut off (its description has no end)"
+                            : "is damaged or cut off (" + ReasonOf(error) + ")";
+}
 
 int RefuseToOpen(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**)
 {
@@ -87,7 +91,7 @@ std::string MediaInput::Open()
         return "is not a media file of a known kind";
     if (error >= 0)
         error = avformat_find_stream_info(m_context.get(), nullptr);
-    return error < 0 ? Damaged(error) : std::string();
+    return error < 0 ? Damaged(m_file, error) : std::string();
 }
 
 int MediaInput::OpenAs(const AVInputFormat& format)

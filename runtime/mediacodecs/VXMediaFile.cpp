@@ -23,7 +23,7 @@ VXMediaFile Unread(const std::string& path, const std::string& reason)
 std::string ContainerName(const MediaInput& input, const std::string& path)
 {
     const auto& demuxer = *input.Context().iformat;
-    const auto name = FormatNameOf(demuxer, path);
+    auto name = FormatNameOf(demuxer, path);
     if (!name.empty())
         return name;
     const std::string names = demuxer.name; // separated by commas

@@ -27,42 +27,42 @@ void TurnFirstTrack(std::string& bytes)
             bytes[at++] = static_cast<char>(value >> shift & 0xFF);
 }
 
-constexpr ClipRecipe kRecipes[] = {
-    {"film.mp4", "size=1920x1080:rate=30:duration=1", "sample_rate=48000:duration=1",
-     "-c:v libx264 -preset superfast -profile:v main -c:a aac -b:a 96k -ac 2"},
-    {"film.mkv", "size=640x360:rate=24000/1001:duration=2", "sample_rate=48000:duration=2",
-     "-c:v libx264 -preset ultrafast -c:a libopus -b:a 64k -ac 2"},
-    {"film.webm", "size=320x180:rate=25:duration=1", "sample_rate=48000:duration=1",
-     "-c:v libvpx-vp9 -deadline realtime -cpu-used 8 -c:a libopus -ac 2"},
-    {"film.avi", "size=320x240:rate=25:duration=1", "sample_rate=44100:duration=1",
-     "-c:v mpeg4 -tag:v XVID -c:a libmp3lame -b:a 128k -ac 2"},
-    {"film.ts", "size=320x180:rate=25:duration=2", "sample_rate=48000:duration=2",
-     "-c:v libx264 -preset ultrafast -c:a aac -ac 2"},
-    {"anamorphic.mp4", "size=720x576:rate=25:duration=1", "",
-     "-c:v libx264 -preset ultrafast -vf setsar=64/45"},
-    {"rotated.mp4", "size=1920x1080:rate=30:duration=0.5", "sample_rate=48000:duration=0.5",
-     "-c:v libx264 -preset ultrafast -c:a aac -ac 1", TurnFirstTrack},
-    {"turned.mp4", "size=720x576:rate=25:duration=1", "", "-c:v libx264 -preset ultrafast -vf setsar=64/45",
-     TurnFirstTrack},
-    {"tenbit.mp4", "size=640x360:rate=25:duration=0.4", "",
-     "-c:v libx265 -preset ultrafast -x265-params log-level=none -pix_fmt yuv420p10le -tag:v hvc1"},
-    {"surround.mp4", "size=320x180:rate=25:duration=1", "sample_rate=48000:duration=1",
-     "-c:v libx264 -preset ultrafast -c:a aac -af pan=5.1|FL=c0|FR=c0|FC=c0|LFE=c0|BL=c0|BR=c0"},
-    {"silent.mp4", "size=320x180:rate=25:duration=1", "", "-c:v libx264 -preset ultrafast"},
-    {"uneven.mp4", "size=320x180:rate=30:duration=0.667", "",
-     "-c:v libx264 -preset ultrafast -fps_mode vfr -vf setpts='if(lt(N,10),N,2*N-10)/30/TB'"},
-    {"prores.mov", "size=640x360:rate=25:duration=0.4", "sample_rate=48000:duration=0.4",
-     "-c:v prores_ks -c:a pcm_s16le -ac 2"},
-    {"music.mp3", "size=64x64:rate=1:duration=1", "sample_rate=44100:duration=2",
-     "-map 0:v -map 1:a -c:v png -disposition:v attached_pic -c:a libmp3lame -b:a 128k -ac 2"},
-    {"music.flac", "", "sample_rate=44100:duration=1", "-ac 2"},
-    {"count.au", "", "sample_rate=48000:duration=0.5",
-     "-c:a pcm_s16be -af pan=5.1|FL=c0|FR=c0|FC=c0|LFE=c0|BL=c0|BR=c0"},
-    {"subtitles.mkv", "", "",
-     "-f srt -i data:text/plain;base64,MQowMDowMDowMCwwMDAgLS0+IDAwOjAwOjAxLDAwMApIZWxsbwoK"},
-    {"picture.png", "size=64x64:rate=1:duration=1", "", "-frames:v 1"},
-    {"streamed.mp4", "size=320x180:rate=25:duration=1", "",
-     "-c:v libx264 -preset ultrafast -movflags +faststart"},
+constexpr std::array kRecipes{
+    ClipRecipe{"film.mp4", "size=1920x1080:rate=30:duration=1", "sample_rate=48000:duration=1",
+               "-c:v libx264 -preset superfast -profile:v main -c:a aac -b:a 96k -ac 2"},
+    ClipRecipe{"film.mkv", "size=640x360:rate=24000/1001:duration=2", "sample_rate=48000:duration=2",
+               "-c:v libx264 -preset ultrafast -c:a libopus -b:a 64k -ac 2"},
+    ClipRecipe{"film.webm", "size=320x180:rate=25:duration=1", "sample_rate=48000:duration=1",
+               "-c:v libvpx-vp9 -deadline realtime -cpu-used 8 -c:a libopus -ac 2"},
+    ClipRecipe{"film.avi", "size=320x240:rate=25:duration=1", "sample_rate=44100:duration=1",
+               "-c:v mpeg4 -tag:v XVID -c:a libmp3lame -b:a 128k -ac 2"},
+    ClipRecipe{"film.ts", "size=320x180:rate=25:duration=2", "sample_rate=48000:duration=2",
+               "-c:v libx264 -preset ultrafast -c:a aac -ac 2"},
+    ClipRecipe{"anamorphic.mp4", "size=720x576:rate=25:duration=1", "",
+               "-c:v libx264 -preset ultrafast -vf setsar=64/45"},
+    ClipRecipe{"rotated.mp4", "size=1920x1080:rate=30:duration=0.5", "sample_rate=48000:duration=0.5",
+               "-c:v libx264 -preset ultrafast -c:a aac -ac 1", TurnFirstTrack},
+    ClipRecipe{"turned.mp4", "size=720x576:rate=25:duration=1", "",
+               "-c:v libx264 -preset ultrafast -vf setsar=64/45", TurnFirstTrack},
+    ClipRecipe{"tenbit.mp4", "size=640x360:rate=25:duration=0.4", "",
+               "-c:v libx265 -preset ultrafast -x265-params log-level=none -pix_fmt yuv420p10le -tag:v hvc1"},
+    ClipRecipe{"surround.mp4", "size=320x180:rate=25:duration=1", "sample_rate=48000:duration=1",
+               "-c:v libx264 -preset ultrafast -c:a aac -af pan=5.1|FL=c0|FR=c0|FC=c0|LFE=c0|BL=c0|BR=c0"},
+    ClipRecipe{"silent.mp4", "size=320x180:rate=25:duration=1", "", "-c:v libx264 -preset ultrafast"},
+    ClipRecipe{"uneven.mp4", "size=320x180:rate=30:duration=0.667", "",
+               "-c:v libx264 -preset ultrafast -fps_mode vfr -vf setpts='if(lt(N,10),N,2*N-10)/30/TB'"},
+    ClipRecipe{"prores.mov", "size=640x360:rate=25:duration=0.4", "sample_rate=48000:duration=0.4",
+               "-c:v prores_ks -c:a pcm_s16le -ac 2"},
+    ClipRecipe{"music.mp3", "size=64x64:rate=1:duration=1", "sample_rate=44100:duration=2",
+               "-map 0:v -map 1:a -c:v png -disposition:v attached_pic -c:a libmp3lame -b:a 128k -ac 2"},
+    ClipRecipe{"music.flac", "", "sample_rate=44100:duration=1", "-ac 2"},
+    ClipRecipe{"count.au", "", "sample_rate=48000:duration=0.5",
+               "-c:a pcm_s16be -af pan=5.1|FL=c0|FR=c0|FC=c0|LFE=c0|BL=c0|BR=c0"},
+    ClipRecipe{"subtitles.mkv", "", "",
+               "-f srt -i data:text/plain;base64,MQowMDowMDowMCwwMDAgLS0+IDAwOjAwOjAxLDAwMApIZWxsbwoK"},
+    ClipRecipe{"picture.png", "size=64x64:rate=1:duration=1", "", "-frames:v 1"},
+    ClipRecipe{"streamed.mp4", "size=320x180:rate=25:duration=1", "",
+               "-c:v libx264 -preset ultrafast -movflags +faststart"},
 };
 
 } // namespace
@@ -70,7 +70,7 @@ constexpr ClipRecipe kRecipes[] = {
 const ClipRecipe& FindRecipe(std::string_view name)
 {
     const auto* recipe = std::ranges::find(kRecipes, name, &ClipRecipe::name);
-    if (recipe == std::end(kRecipes))
+    if (recipe == kRecipes.end())
         throw std::invalid_argument("no clip is called " + std::string(name));
     return *recipe;
 }

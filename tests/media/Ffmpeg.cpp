@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <sstream>
 #include <stdexcept>
 #include <vector>
@@ -50,10 +51,8 @@ private:
 
 bool Run(std::vector<std::string> words, const std::string& log)
 {
-    std::vector<char*> arguments;
-    for (auto& word : words)
-        arguments.push_back(word.data());
-    arguments.push_back(nullptr);
+    std::vector<char*> arguments(words.size() + 1); // a null pointer ends them
+    std::ranges::transform(words, arguments.begin(), [](std::string& word) { return word.data(); });
     const Redirections redirections(log);
     pid_t child = 0;
     if (posix_spawnp(&child, arguments[0], redirections.Actions(), nullptr, arguments.data(), environ) != 0)

@@ -58,27 +58,22 @@ private:
     std::mt19937 m_random{20240229};
 };
 
-void ExpectSane(const IVXCodecParameter& video)
+bool IsSane(const IVXCodecParameter& video)
 {
-    EXPECT_GT(video.GetWidth(), 0);
-    EXPECT_GT(video.GetHeight(), 0);
-    EXPECT_GT(video.GetDisplayWidth(), 0);
-    EXPECT_GT(video.GetDisplayHeight(), 0);
-    EXPECT_GE(video.GetFrameRate()->GetDoubleValue(), 0);
-    EXPECT_GE(video.GetBitrate(), 0);
+    return video.GetWidth() > 0 && video.GetHeight() > 0 && video.GetDisplayWidth() > 0 &&
+           video.GetDisplayHeight() > 0 && video.GetFrameRate()->GetDoubleValue() >= 0 &&
+           video.GetBitrate() >= 0;
 }
 
-void ExpectSane(const VXMediaFile& file)
+// A file is either refused or read, and then it has a stream, and every stream what a preset matches.
+bool IsSane(const VXMediaFile& file)
 {
-    EXPECT_NE(file.parameter == nullptr, file.error.empty());
     if (!file.parameter)
-        return;
+        return !file.error.empty();
     const auto video = file.parameter->GetVideoCodecParameter();
     const auto audio = file.parameter->GetAudioCodecParameter();
-    EXPECT_TRUE(video || audio);
-    if (video)
-        ExpectSane(*video);
-    EXPECT_TRUE(!audio || audio->GetSampleRate() > 0);
+    return file.error.empty() && (video || audio) && (!video || IsSane(*video)) &&
+           (!audio || audio->GetSampleRate() > 0);
 }
 
 class MediaFileMutation : public testing::TestWithParam<const char*>
@@ -91,8 +86,8 @@ TEST_P(MediaFileMutation, ReadsSanelyOrIsRefused)
     Mutator mutator(Media::BytesOf(Media::Clip(GetParam())));
     for (int i = 0; i < kMutations; ++i)
     {
-        SCOPED_TRACE(i);
-        ExpectSane(ReadMediaFile(scratch.Write("clip", mutator.Next())));
+        const auto file = ReadMediaFile(scratch.Write("clip", mutator.Next()));
+        ASSERT_TRUE(IsSane(file)) << "mutation " << i << ": " << file.error;
     }
 }
 

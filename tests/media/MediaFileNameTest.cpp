@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <filesystem>
 
 namespace Vexlor
@@ -18,20 +19,20 @@ struct NameCase
     const char* file;
 };
 
-constexpr NameCase kNames[] = {
-    {"Blanks", " a clip .mp4"},
-    {"LeadingDash", "-i.mp4"},
-    {"Colon", "pipe:0"},
-    {"Protocol", "file:clip.mp4"},
-    {"List", "concat:a.mp4|b.mp4"},
-    {"Pattern", "clip%03d*?[a].mp4"},
-    {"LineEnd", "a\nb.mp4"},
-    {"Umlauts", "M\xC3\xA4rchen.mp4"},
-    {"FarAway", "\xE6\x98\xA0\xE7\x94\xBB \xF0\x9F\x8E\xAC.mp4"},
-    {"NotUTF8", "\xFF\xFE.mp4"},
-    {"NoEnding", "clip"},
-    {"WrongEnding", "clip.txt"},
-    {"EndingOfAPicture", "clip.png"},
+constexpr std::array kNames{
+    NameCase{"Blanks", " a clip .mp4"},
+    NameCase{"LeadingDash", "-i.mp4"},
+    NameCase{"Colon", "pipe:0"},
+    NameCase{"Protocol", "file:clip.mp4"},
+    NameCase{"List", "concat:a.mp4|b.mp4"},
+    NameCase{"Pattern", "clip%03d*?[a].mp4"},
+    NameCase{"LineEnd", "a\nb.mp4"},
+    NameCase{"Umlauts", "M\xC3\xA4rchen.mp4"},
+    NameCase{"FarAway", "\xE6\x98\xA0\xE7\x94\xBB \xF0\x9F\x8E\xAC.mp4"},
+    NameCase{"NotUTF8", "\xFF\xFE.mp4"},
+    NameCase{"NoEnding", "clip"},
+    NameCase{"WrongEnding", "clip.txt"},
+    NameCase{"EndingOfAPicture", "clip.png"},
 };
 
 class MediaFileName : public testing::TestWithParam<NameCase>
@@ -75,12 +76,12 @@ TEST_P(MediaFileRelativeName, IsOnlyAName)
 INSTANTIATE_TEST_SUITE_P(Names, MediaFileRelativeName, testing::ValuesIn(kNames),
                          [](const auto& test) { return test.param.name; });
 
-constexpr NameCase kAddresses[] = {
-    {"Web", "http://127.0.0.1:9/clip.mp4"},
-    {"Pipe", "pipe:0"},
-    {"Data", "data:video/mp4;base64,AAAA"},
-    {"Generator", "testsrc2"},
-    {"Stdin", "-"},
+constexpr std::array kAddresses{
+    NameCase{"Web", "http://127.0.0.1:9/clip.mp4"},
+    NameCase{"Pipe", "pipe:0"},
+    NameCase{"Data", "data:video/mp4;base64,AAAA"},
+    NameCase{"Generator", "testsrc2"},
+    NameCase{"Stdin", "-"},
 };
 
 class MediaFileAddress : public testing::TestWithParam<NameCase>

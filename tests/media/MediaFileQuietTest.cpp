@@ -9,8 +9,8 @@ extern "C"
 #include <libavutil/log.h>
 }
 
+#include <array>
 #include <thread>
-#include <vector>
 
 namespace Vexlor
 {
@@ -61,13 +61,11 @@ TEST_F(MediaFileQuiet, GivesTheLevelBack)
 TEST_F(MediaFileQuiet, GivesTheLevelBackAfterReadersInSeveralThreads)
 {
     av_log_set_level(AV_LOG_WARNING);
-    {
-        std::vector<std::thread> readers;
-        for (int i = 0; i < 4; ++i)
-            readers.emplace_back([this] { static_cast<void>(ReadMediaFile(m_clip)); });
-        for (auto& reader : readers)
-            reader.join();
-    }
+    std::array<std::thread, 4> readers;
+    for (auto& reader : readers)
+        reader = std::thread([this] { static_cast<void>(ReadMediaFile(m_clip)); });
+    for (auto& reader : readers)
+        reader.join();
     EXPECT_EQ(AV_LOG_WARNING, av_log_get_level());
 }
 

@@ -9,6 +9,7 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <filesystem>
 #include <sstream>
 
@@ -71,24 +72,29 @@ struct ClipCase
     const char* outline;
 };
 
-constexpr ClipCase kClips[] = {
-    {"FilmInMP4", "film.mp4", "MP4, video 1 1920x1080 shown 1920x1080 at 30/1, audio 1001 48000 Hz 0x3"},
-    {"FilmInMKV", "film.mkv", "MKV, video 1 640x360 shown 640x360 at 24000/1001, audio 1005 48000 Hz 0x3"},
-    {"FilmInWEBM", "film.webm", "WEBM, video 8 320x180 shown 320x180 at 25/1, audio 1005 48000 Hz 0x3"},
-    {"FilmInAVI", "film.avi", "AVI, video 3 320x240 shown 320x240 at 25/1, audio 1002 44100 Hz 0x3"},
-    {"FilmInAContainerWithoutANameOfOurs", "film.ts",
-     "mpegts, video 1 320x180 shown 320x180 at 25/1, audio 1001 48000 Hz 0x3"},
-    {"WidePixels", "anamorphic.mp4", "MP4, video 1 720x576 shown 1024x576 at 25/1"},
-    {"QuarterTurn", "rotated.mp4", "MP4, video 1 1920x1080 shown 1080x1920 at 30/1, audio 1001 48000 Hz 0x4"},
-    {"QuarterTurnOfWidePixels", "turned.mp4", "MP4, video 1 720x576 shown 576x1024 at 25/1"},
-    {"TenBits", "tenbit.mp4", "MP4, video 2 640x360 shown 640x360 at 25/1"},
-    {"Surround", "surround.mp4", "MP4, video 1 320x180 shown 320x180 at 25/1, audio 1001 48000 Hz 0x3f"},
-    {"VideoOnly", "silent.mp4", "MP4, video 1 320x180 shown 320x180 at 25/1"},
-    {"CodecWithoutAnIdentifier", "prores.mov",
-     "MOV, video 0 640x360 shown 640x360 at 25/1, audio 1008 48000 Hz 0x3"},
-    {"CoverPictureIsNoVideo", "music.mp3", "MP3, audio 1002 44100 Hz 0x3"},
-    {"AudioOnly", "music.flac", "FLAC, audio 1007 44100 Hz 0x3"},
-    {"NumberOfChannelsOnly", "count.au", "au, audio 0 48000 Hz 0x3f"},
+constexpr std::array kClips{
+    ClipCase{"FilmInMP4", "film.mp4",
+             "MP4, video 1 1920x1080 shown 1920x1080 at 30/1, audio 1001 48000 Hz 0x3"},
+    ClipCase{"FilmInMKV", "film.mkv",
+             "MKV, video 1 640x360 shown 640x360 at 24000/1001, audio 1005 48000 Hz 0x3"},
+    ClipCase{"FilmInWEBM", "film.webm",
+             "WEBM, video 8 320x180 shown 320x180 at 25/1, audio 1005 48000 Hz 0x3"},
+    ClipCase{"FilmInAVI", "film.avi", "AVI, video 3 320x240 shown 320x240 at 25/1, audio 1002 44100 Hz 0x3"},
+    ClipCase{"FilmInAContainerWithoutANameOfOurs", "film.ts",
+             "mpegts, video 1 320x180 shown 320x180 at 25/1, audio 1001 48000 Hz 0x3"},
+    ClipCase{"WidePixels", "anamorphic.mp4", "MP4, video 1 720x576 shown 1024x576 at 25/1"},
+    ClipCase{"QuarterTurn", "rotated.mp4",
+             "MP4, video 1 1920x1080 shown 1080x1920 at 30/1, audio 1001 48000 Hz 0x4"},
+    ClipCase{"QuarterTurnOfWidePixels", "turned.mp4", "MP4, video 1 720x576 shown 576x1024 at 25/1"},
+    ClipCase{"TenBits", "tenbit.mp4", "MP4, video 2 640x360 shown 640x360 at 25/1"},
+    ClipCase{"Surround", "surround.mp4",
+             "MP4, video 1 320x180 shown 320x180 at 25/1, audio 1001 48000 Hz 0x3f"},
+    ClipCase{"VideoOnly", "silent.mp4", "MP4, video 1 320x180 shown 320x180 at 25/1"},
+    ClipCase{"CodecWithoutAnIdentifier", "prores.mov",
+             "MOV, video 0 640x360 shown 640x360 at 25/1, audio 1008 48000 Hz 0x3"},
+    ClipCase{"CoverPictureIsNoVideo", "music.mp3", "MP3, audio 1002 44100 Hz 0x3"},
+    ClipCase{"AudioOnly", "music.flac", "FLAC, audio 1007 44100 Hz 0x3"},
+    ClipCase{"NumberOfChannelsOnly", "count.au", "au, audio 0 48000 Hz 0x3f"},
 };
 
 class MediaFileOutline : public testing::TestWithParam<ClipCase>
