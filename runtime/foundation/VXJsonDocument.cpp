@@ -68,19 +68,8 @@ const std::uint64_t* Behind(const std::uint64_t* tape, const std::uint64_t* word
     return word + (HasSecondWord(*word) ? 2 : 1);
 }
 
-std::size_t ChildCount(const std::uint64_t* tape, const std::uint64_t* container)
-{
-    constexpr std::size_t kOrMore = 0xFFFFFF;
-    const std::size_t stored = (*container >> 32) & kOrMore;
-    if (stored != kOrMore)
-        return stored;
-    const int name = Type(*container) == '{' ? 1 : 0;
-    const std::uint64_t* const end = Behind(tape, container) - 1;
-    std::size_t count = 0;
-    for (const std::uint64_t* word = container + 1; word < end; word = Behind(tape, word + name))
-        ++count;
-    return count;
-}
+// How many children a container has; the tape holds no more than 24 bits of it.
+std::size_t LeastChildren(std::uint64_t container) { return (container >> 32) & 0xFFFFFF; }
 
 } // namespace
 
@@ -176,53 +165,48 @@ simdjson::error_code VXJsonDocument::Parse(std::string_view text)
 
 simdjson::error_code VXJsonDocument::BuildViews()
 {
-    std::size_t count = 0;
+    std::size_t count = 1;
     // An empty container inside the deepest one is no level to simdjson, but it is one to us.
-    if (CountViews(count) > kJsonMaxDepth)
+    if (Depth(count) > kJsonMaxDepth)
         return simdjson::DEPTH_ERROR;
     m_views.reserve(count);
     m_views.emplace_back(this, m_document.tape.get() + 1);
     for (std::size_t parent = 0; parent < m_views.size(); ++parent)
-        AppendChildren(m_views[parent]);
+        AppendChildren(parent);
     return simdjson::SUCCESS;
 }
 
-// Answers how deep the containers are nested.
-int VXJsonDocument::CountViews(std::size_t& count) const
+// How deep the containers are nested; adds to count how many values they hold, as far as they tell.
+int VXJsonDocument::Depth(std::size_t& count) const
 {
     const std::uint64_t* const tape = m_document.tape.get();
     const std::uint64_t* const end = tape + static_cast<std::uint32_t>(tape[0]) - 1;
     int depth = 0;
     int deepest = 0;
-    count = 1;
     for (const std::uint64_t* word = tape + 1; word < end; word += HasSecondWord(*word) ? 2 : 1)
-    {
         if (IsStart(*word))
         {
-            count += ChildCount(tape, word);
+            count += LeastChildren(*word);
             deepest = std::max(deepest, ++depth);
         }
         else if (IsEnd(*word))
             --depth;
-    }
     return deepest;
 }
 
-void VXJsonDocument::AppendChildren(VXJsonView& parent)
+void VXJsonDocument::AppendChildren(std::size_t parent)
 {
-    if (!IsStart(*parent.m_word))
+    const std::uint64_t* const start = m_views[parent].m_word;
+    if (!IsStart(*start))
         return;
     const std::uint64_t* const tape = m_document.tape.get();
-    const bool named = parent.IsA('{');
-    parent.m_first = static_cast<std::uint32_t>(m_views.size());
-    const std::uint64_t* word = parent.m_word + 1;
-    for (const std::uint64_t* const end = Behind(tape, parent.m_word) - 1; word < end;
-         word = Behind(tape, word))
-    {
-        word += named ? 1 : 0;
-        m_views.emplace_back(this, word);
-    }
-    parent.m_count = static_cast<std::uint32_t>(m_views.size() - parent.m_first);
+    const std::uint64_t* const end = Behind(tape, start) - 1;
+    const int name = m_views[parent].IsA('{') ? 1 : 0;
+    const std::size_t first = m_views.size();
+    for (const std::uint64_t* word = start + 1; word < end; word = Behind(tape, word + name))
+        m_views.emplace_back(this, word + name);
+    m_views[parent].m_first = static_cast<std::uint32_t>(first);
+    m_views[parent].m_count = static_cast<std::uint32_t>(m_views.size() - first);
 }
 
 } // namespace Vexlor

@@ -66,8 +66,8 @@ private:
     friend class VXJsonView;
 
     simdjson::error_code BuildViews();
-    int CountViews(std::size_t& count) const;
-    void AppendChildren(VXJsonView& parent);
+    int Depth(std::size_t& count) const;
+    void AppendChildren(std::size_t parent);
 
     simdjson::dom::document m_document;
     std::vector<VXJsonView> m_views;

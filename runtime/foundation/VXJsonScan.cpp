@@ -141,6 +141,15 @@ std::string ReasonAt(std::string_view text, std::size_t offset, rapidjson::Parse
     return ReasonOf(code);
 }
 
+// RapidJSON stops at the first letter that is none of null, true or false; a person looks for the word.
+std::size_t PlaceOf(std::string_view text, std::size_t offset, rapidjson::ParseErrorCode code)
+{
+    const bool isWord = code == rapidjson::kParseErrorValueInvalid && offset < text.size();
+    while (isWord && offset > 0 && text[offset - 1] >= 'a' && text[offset - 1] <= 'z')
+        --offset;
+    return offset;
+}
+
 // Where text that both parsers should agree on still differs: something behind a NUL, a low surrogate.
 void FindHiddenFault(std::string_view text, std::size_t end, JsonScan& scan)
 {
@@ -172,7 +181,7 @@ JsonScan ScanJson(std::string_view text)
         FindHiddenFault(text, stream.Tell(), scan);
     else if (scan.reason.empty())
     {
-        scan.offset = reader.GetErrorOffset();
+        scan.offset = PlaceOf(text, reader.GetErrorOffset(), reader.GetParseErrorCode());
         scan.reason = ReasonAt(text, scan.offset, reader.GetParseErrorCode());
     }
     return scan;

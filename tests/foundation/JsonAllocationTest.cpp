@@ -1,0 +1,87 @@
+#include "IVXJsonValue.h"
+#include "runtime/foundation/VXJson.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+namespace
+{
+
+std::atomic<int> theAllocations = 0;
+
+} // namespace
+
+void* operator new(std::size_t size)
+{
+    ++theAllocations;
+    if (void* memory = std::malloc(size))
+        return memory;
+    throw std::bad_alloc();
+}
+
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+
+namespace Vexlor
+{
+
+namespace
+{
+
+template <class Operation>
+int AllocationsOf(Operation operation)
+{
+    const int before = theAllocations;
+    operation();
+    return theAllocations - before;
+}
+
+class JsonAllocation : public testing::Test
+{
+protected:
+    std::shared_ptr<const IVXJsonValue> m_value = ParseJson(
+        R"({"a name too long to lie inside a string": {"n": 1}, "n": 2, "list": [1, {"m": true}]})");
+};
+
+} // namespace
+
+TEST_F(JsonAllocation, IsCounted)
+{
+    EXPECT_EQ(1, AllocationsOf([] { EXPECT_TRUE(IVXJsonValue::JsonValueNull()); }));
+}
+
+TEST_F(JsonAllocation, MembersAreFoundWithoutAny)
+{
+    EXPECT_EQ(0, AllocationsOf([&] { EXPECT_TRUE((*m_value)["a name too long to lie inside a string"]); }));
+    EXPECT_EQ(0, AllocationsOf([&] { EXPECT_TRUE((*m_value)["absent"]); }));
+    EXPECT_EQ(0, AllocationsOf([&] { EXPECT_TRUE(m_value->HasKey("n")); }));
+}
+
+TEST_F(JsonAllocation, ArraysAreWalkedWithoutAny)
+{
+    EXPECT_EQ(0, AllocationsOf([&] { EXPECT_EQ(2, m_value->GetValueArray("list")->Size()); }));
+    EXPECT_EQ(0,
+              AllocationsOf([&] { EXPECT_TRUE(m_value->GetValueArray("list")->At(1)->GetValueBool("m")); }));
+    EXPECT_EQ(0, AllocationsOf([&] { EXPECT_TRUE(m_value->GetValueArray("absent")->At(5)); }));
+}
+
+TEST_F(JsonAllocation, NumbersAreReadWithoutAny)
+{
+    EXPECT_EQ(0, AllocationsOf([&] { EXPECT_EQ(2, m_value->GetValueInt("n")); }));
+    EXPECT_EQ(0, AllocationsOf([&] { EXPECT_EQ(2, m_value->GetValueInt64("n")); }));
+}
+
+TEST_F(JsonAllocation, MembersOfABuiltValueAreFoundWithoutAny)
+{
+    const auto value = IVXJsonValue::JsonValueNull();
+    value->SetValueObject("child", IVXJsonValue::JsonValueNull());
+    value->SetValueArray("list", {nullptr});
+    EXPECT_EQ(0, AllocationsOf([&] { EXPECT_TRUE((*value)["child"]); }));
+    EXPECT_EQ(0, AllocationsOf([&] { EXPECT_EQ(1, value->GetValueArray("list")->Size()); }));
+    EXPECT_EQ(0, AllocationsOf([&] { EXPECT_TRUE(value->GetValueArray("list")->At(0)); }));
+}
+
+} // namespace Vexlor

@@ -1,0 +1,140 @@
+#include "runtime/foundation/VXJson.h"
+
+#include "IVXJsonValue.h"
+
+#include <gtest/gtest.h>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+constexpr std::size_t kFar = 100000;
+
+std::string Times(std::size_t count, std::string_view text)
+{
+    std::string result;
+    for (std::size_t time = 0; time < count; ++time)
+        result += text;
+    return result;
+}
+
+std::string Arrays(std::size_t depth, std::string_view inside = "")
+{
+    return Times(depth, "[").append(inside) + Times(depth, "]");
+}
+
+std::shared_ptr<IVXJsonValue> Object(std::string_view name, const std::shared_ptr<IVXJsonValue>& value)
+{
+    auto object = IVXJsonValue::JsonValueNull();
+    object->SetValueObject(name, value);
+    return object;
+}
+
+std::shared_ptr<IVXJsonValue> DeepObject(std::size_t depth)
+{
+    auto value = IVXJsonValue::JsonValueNull();
+    for (std::size_t level = 0; level < depth; ++level)
+        value = Object("a", value);
+    return value;
+}
+
+std::shared_ptr<IVXJsonValue> DeepArrays(std::size_t depth)
+{
+    auto value = IVXJsonValue::JsonValueNull();
+    for (std::size_t level = 0; level < depth; ++level)
+    {
+        auto object = IVXJsonValue::JsonValueNull();
+        object->SetValueArray("a", {value});
+        value = std::move(object);
+    }
+    return value;
+}
+
+} // namespace
+
+TEST(JsonDepth, TheDeepestTextReadsBack)
+{
+    for (const auto* inside : {"", "1", "\"x\""})
+    {
+        const auto text = Arrays(kJsonMaxDepth, inside);
+        const auto value = ParseJson(text);
+        ASSERT_TRUE(value);
+        EXPECT_EQ(text, JsonText(*value));
+    }
+}
+
+TEST(JsonDepth, OneLevelMoreIsRefused)
+{
+    for (const auto* inside : {"", "1", "{}"})
+    {
+        std::string error;
+        EXPECT_FALSE(ParseJson(Arrays(kJsonMaxDepth + 1, inside), &error));
+        EXPECT_EQ("1:1025: nested deeper than 1024 levels", error);
+    }
+}
+
+TEST(JsonDepth, MembersCountAsElementsDo)
+{
+    std::string error;
+    EXPECT_FALSE(ParseJson(Times(600, "{\"a\":[\n") + Times(600, "]}"), &error));
+    EXPECT_EQ("513:1: nested deeper than 1024 levels", error);
+}
+
+TEST(JsonDepth, TheDepthIsToldBeforeWhatFollows)
+{
+    std::string error;
+    EXPECT_FALSE(ParseJson(Times(kFar, "["), &error));
+    EXPECT_EQ("1:1025: nested deeper than 1024 levels", error);
+}
+
+TEST(JsonDepth, BreadthIsNoDepth)
+{
+    const auto value = ParseJson("[" + Times(kFar, "[[]],") + "[[]]]");
+    ASSERT_TRUE(value);
+    EXPECT_EQ(static_cast<int>(kFar) + 1, value->Size());
+}
+
+TEST(JsonDepth, ABuiltValueOfAnyDepthIsWrittenAndDestroyed)
+{
+    EXPECT_EQ(Times(kFar, "{\"a\":") + "null" + Times(kFar, "}"), JsonText(*DeepObject(kFar)));
+    EXPECT_EQ(Times(kFar, "{\"a\":[") + "null" + Times(kFar, "]}"), JsonText(*DeepArrays(kFar)));
+}
+
+TEST(JsonDepth, TheIndentedTextOfADeepValueStaysInProportion)
+{
+    EXPECT_LT(JsonText(*DeepObject(kFar), JsonStyle::Indented).size(), 300 * kFar);
+}
+
+TEST(JsonDepth, AReplacedDeepValueIsDestroyed)
+{
+    const auto value = Object("a", DeepObject(kFar));
+    value->SetValueInt("a", 1);
+    EXPECT_EQ("{\"a\":1}", JsonText(*value));
+}
+
+TEST(JsonDepth, APartOfADeepValueOutlivesTheWhole)
+{
+    auto part = DeepObject(3);
+    static_cast<void>(Object("whole", Object("b", part)));
+    EXPECT_EQ("{\"a\":{\"a\":{\"a\":null}}}", JsonText(*part));
+}
+
+TEST(JsonDepth, AValueBelowItselfHasNoText)
+{
+    const auto value = IVXJsonValue::JsonValueNull();
+    value->SetValueArray("twice", {value, value});
+    EXPECT_EQ("", JsonText(*value));
+    value->SetValueInt("twice", 0); // or it would hold itself for ever
+}
+
+TEST(JsonDepth, AValueInTwoPlacesIsWrittenTwice)
+{
+    const auto leaf = DeepObject(kJsonMaxDepth + 1);
+    const auto value = IVXJsonValue::JsonValueNull();
+    value->SetValueArray("twice", {leaf, leaf});
+    EXPECT_EQ("{\"twice\":[" + JsonText(*leaf) + ',' + JsonText(*leaf) + "]}", JsonText(*value));
+}
+
+} // namespace Vexlor
