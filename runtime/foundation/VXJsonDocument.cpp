@@ -152,6 +152,8 @@ std::shared_ptr<const IVXJsonValue> VXJsonView::At(int index) const
     return index >= 0 && index < Size() ? Child(static_cast<std::size_t>(index)).Handle() : JsonNull();
 }
 
+std::shared_ptr<const IVXJsonValue> VXJsonDocument::Root() const { return m_views.front().Handle(); }
+
 simdjson::error_code VXJsonDocument::Parse(std::string_view text)
 {
     simdjson::dom::parser parser;

@@ -60,7 +60,7 @@ public:
     simdjson::error_code Parse(std::string_view text);
 
     /// After a successful Parse.
-    std::shared_ptr<const IVXJsonValue> Root() const { return m_views.front().Handle(); }
+    std::shared_ptr<const IVXJsonValue> Root() const;
 
 private:
     friend class VXJsonView;
