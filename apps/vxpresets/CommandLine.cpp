@@ -1,0 +1,93 @@
+#include "CommandLine.h"
+
+#include "Failure.h"
+#include "Text.h"
+
+#include <CLI/CLI.hpp>
+
+namespace Vexlor::Tool
+{
+
+namespace
+{
+
+constexpr char kAbout[] =
+    "Output presets of a media converter: what they offer, and what a media file becomes in one of them.";
+constexpr char kFooter[] = "Exit codes: 0 done, 1 failed, 2 wrong usage.";
+constexpr char kPresetHelp[] =
+    "Path of names (\"Video/MP4\"; \"\\/\" stands for a slash inside a name), or an "
+    "unambiguous part of one";
+
+// Every option is taken before the command as well as behind it.
+void AddCommonOptions(CLI::App& app, Request& request)
+{
+    app.add_flag("--json", request.asJson, "Print JSON, for programs");
+    app.add_option("--document", request.document, "Preset document to use in place of the built-in tree")
+        ->type_name("FILE");
+    app.footer(kFooter);
+}
+
+CLI::App* AddCommand(CLI::App& app, Request& request, const char* name, const char* help, Command command)
+{
+    auto* sub = app.add_subcommand(name, help);
+    AddCommonOptions(*sub, request);
+    sub->callback([&request, command] { request.command = command; });
+    return sub;
+}
+
+void AddCommands(CLI::App& app, Request& request)
+{
+    AddCommand(app, request, "tree", "Print the tree of presets, with the number of presets in each category",
+               TreeCommand);
+    AddCommand(app, request, "show", "Print a preset: every list, the current entry in brackets", ShowCommand)
+        ->add_option("PRESET", request.preset, kPresetHelp)
+        ->required();
+    auto* match =
+        AddCommand(app, request, "match", "Print what a media file becomes in a preset", MatchCommand);
+    match->add_option("MEDIA", request.media, "Media file")->required();
+    match->add_option("--preset", request.preset, kPresetHelp)->type_name("PRESET")->required();
+    AddCommand(app, request, "formats", "Print the containers and the codecs that each takes",
+               FormatsCommand);
+    AddCommand(app, request, "codecs", "Print the codecs and what each accepts", CodecsCommand)
+        ->add_option("CODEC", request.codec, "Name or number of the only codec to print, in full");
+}
+
+/// What is wrong. A word that is no command would otherwise go unmentioned: only that there is none is told.
+std::string ReasonOf(const CLI::App& app, const CLI::ParseError& error)
+{
+    const auto rest = app.remaining();
+    if (app.get_subcommands().empty() && !rest.empty())
+        return "no command " + Quoted(rest.front());
+    return error.what();
+}
+
+} // namespace
+
+CommandLine ReadCommandLine(int argc, const char* const* argv)
+{
+    CommandLine line;
+    CLI::App app(kAbout, "vxpresets");
+    app.set_version_flag("--version", "vxpresets " VX_VERSION);
+    app.require_subcommand(1);
+    AddCommonOptions(app, line.request);
+    AddCommands(app, line.request);
+    try
+    {
+        app.parse(argc, argv);
+    }
+    catch (const CLI::CallForHelp&)
+    {
+        line.text = app.help();
+    }
+    catch (const CLI::CallForVersion& version)
+    {
+        line.text = std::string(version.what()) + '\n';
+    }
+    catch (const CLI::ParseError& error)
+    {
+        throw WrongUsage(ReasonOf(app, error) + "; see vxpresets --help");
+    }
+    return line;
+}
+
+} // namespace Vexlor::Tool

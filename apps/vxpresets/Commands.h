@@ -1,0 +1,39 @@
+#pragma once
+
+#include "Catalogue.h"
+#include "Style.h"
+
+#include <optional>
+#include <string>
+
+namespace Vexlor::Tool
+{
+
+struct Request;
+
+/// What a command answers on standard output. Throws Failure.
+using Command = std::string (*)(const Request& request, const Catalogue& catalogue, const Style& style);
+
+/// What the user asks for.
+struct Request
+{
+    Command command = nullptr;
+    bool asJson = false;
+    std::optional<std::string> document;
+    std::string preset;
+    std::string media;
+    std::optional<std::string> codec;
+};
+
+/// The tree with the number of presets in each category, or the preset document.
+std::string TreeCommand(const Request& request, const Catalogue& catalogue, const Style& style);
+/// One format preset: every list of its codec presets with the current entry marked.
+std::string ShowCommand(const Request& request, const Catalogue& catalogue, const Style& style);
+/// What a media file becomes in a format preset.
+std::string MatchCommand(const Request& request, const Catalogue& catalogue, const Style& style);
+/// The containers that can be written, and the codecs that each takes.
+std::string FormatsCommand(const Request& request, const Catalogue& catalogue, const Style& style);
+/// The codecs, and what each accepts.
+std::string CodecsCommand(const Request& request, const Catalogue& catalogue, const Style& style);
+
+} // namespace Vexlor::Tool
