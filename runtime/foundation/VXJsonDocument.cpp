@@ -1,8 +1,10 @@
 #include "runtime/foundation/VXJsonDocument.h"
 
 #include "runtime/foundation/VXJson.h"
+#include "runtime/foundation/VXLargePages.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace Vexlor
@@ -49,27 +51,26 @@ JsonKind KindOf(char type)
     }
 }
 
-bool IsStart(std::uint64_t word) { return Type(word) == '{' || Type(word) == '['; }
-
-bool IsEnd(std::uint64_t word) { return Type(word) == '}' || Type(word) == ']'; }
-
-// Numbers have their bits there.
-bool HasSecondWord(std::uint64_t word)
+// How many words a value takes, by its type: numbers have their bits in a second one. 0 for containers.
+constexpr std::array<std::uint8_t, 256> LengthTable()
 {
-    const char type = Type(word);
-    return type == 'l' || type == 'u' || type == 'd';
+    std::array<std::uint8_t, 256> table{};
+    table.fill(1);
+    table['l'] = table['u'] = table['d'] = 2;
+    table['{'] = table['['] = 0;
+    return table;
 }
 
-// The word behind a value; a container says where it ends.
+constexpr auto kLengths = LengthTable();
+
+bool IsContainer(std::uint64_t word) { return kLengths[word >> 56] == 0; }
+
+// The word behind a value; a container says where that is.
 const std::uint64_t* Behind(const std::uint64_t* tape, const std::uint64_t* word)
 {
-    if (IsStart(*word))
-        return tape + static_cast<std::uint32_t>(*word);
-    return word + (HasSecondWord(*word) ? 2 : 1);
+    const std::size_t length = kLengths[*word >> 56];
+    return length == 0 ? tape + static_cast<std::uint32_t>(*word) : word + length;
 }
-
-// How many children a container has; the tape holds no more than 24 bits of it.
-std::size_t LeastChildren(std::uint64_t container) { return (container >> 32) & 0xFFFFFF; }
 
 } // namespace
 
@@ -102,7 +103,7 @@ inline const VXJsonView* VXJsonView::FindView(std::string_view name) const
     return child == end ? nullptr : child;
 }
 
-inline std::shared_ptr<const IVXJsonValue> VXJsonView::Handle() const
+std::shared_ptr<const IVXJsonValue> VXJsonView::Handle() const
 {
     return {m_document->shared_from_this(), this};
 }
@@ -160,6 +161,10 @@ simdjson::error_code VXJsonDocument::Parse(std::string_view text)
     // simdjson counts the document itself as a level.
     if (const auto error = parser.allocate(text.size(), kJsonMaxDepth + 1))
         return error;
+    if (const auto error = m_document.allocate(text.size()))
+        return error;
+    UseLargePages(m_document.tape.get(), text.size() * sizeof(std::uint64_t));
+    UseLargePages(m_document.string_buf.get(), text.size());
     if (const auto error = parser.parse_into_document(m_document, text.data(), text.size(), false).error())
         return error;
     return BuildViews();
@@ -167,41 +172,33 @@ simdjson::error_code VXJsonDocument::Parse(std::string_view text)
 
 simdjson::error_code VXJsonDocument::BuildViews()
 {
-    std::size_t count = 1;
-    // An empty container inside the deepest one is no level to simdjson, but it is one to us.
-    if (Depth(count) > kJsonMaxDepth)
-        return simdjson::DEPTH_ERROR;
-    m_views.reserve(count);
-    m_views.emplace_back(this, m_document.tape.get() + 1);
-    for (std::size_t parent = 0; parent < m_views.size(); ++parent)
-        AppendChildren(parent);
-    return simdjson::SUCCESS;
-}
-
-// How deep the containers are nested; adds to count how many values they hold, as far as they tell.
-int VXJsonDocument::Depth(std::size_t& count) const
-{
     const std::uint64_t* const tape = m_document.tape.get();
-    const std::uint64_t* const end = tape + static_cast<std::uint32_t>(tape[0]) - 1;
+    const auto words = static_cast<std::uint32_t>(tape[0]);
+    m_views.reserve(words / 2); // most values take two words and more, with their names or ends
+    UseLargePages(m_views.data(), m_views.capacity() * sizeof(VXJsonView));
+    m_views.emplace_back(this, tape + 1);
     int depth = 0;
-    int deepest = 0;
-    for (const std::uint64_t* word = tape + 1; word < end; word += HasSecondWord(*word) ? 2 : 1)
-        if (IsStart(*word))
+    for (std::size_t parent = 0, nextLevel = 0; parent < m_views.size(); ++parent)
+    {
+        if (parent == nextLevel)
         {
-            count += LeastChildren(*word);
-            deepest = std::max(deepest, ++depth);
+            nextLevel = m_views.size();
+            ++depth;
         }
-        else if (IsEnd(*word))
-            --depth;
-    return deepest;
+        if (!IsContainer(*m_views[parent].m_word))
+            continue;
+        // simdjson does not count an empty container inside the deepest one.
+        if (depth > kJsonMaxDepth)
+            return simdjson::DEPTH_ERROR;
+        AppendChildren(parent);
+    }
+    return simdjson::SUCCESS;
 }
 
 void VXJsonDocument::AppendChildren(std::size_t parent)
 {
-    const std::uint64_t* const start = m_views[parent].m_word;
-    if (!IsStart(*start))
-        return;
     const std::uint64_t* const tape = m_document.tape.get();
+    const std::uint64_t* const start = m_views[parent].m_word;
     const std::uint64_t* const end = Behind(tape, start) - 1;
     const int name = m_views[parent].IsA('{') ? 1 : 0;
     const std::size_t first = m_views.size();

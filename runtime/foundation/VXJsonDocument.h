@@ -66,7 +66,6 @@ private:
     friend class VXJsonView;
 
     simdjson::error_code BuildViews();
-    int Depth(std::size_t& count) const;
     void AppendChildren(std::size_t parent);
 
     simdjson::dom::document m_document;

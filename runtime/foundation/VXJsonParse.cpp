@@ -1,6 +1,7 @@
 #include "runtime/foundation/VXJson.h"
 #include "runtime/foundation/VXJsonDocument.h"
 #include "runtime/foundation/VXJsonScan.h"
+#include "runtime/foundation/VXLargePages.h"
 
 #include <new>
 #include <utility>
@@ -27,6 +28,7 @@ std::string WithRoomFor(std::size_t size)
 {
     std::string text;
     text.reserve(size + simdjson::SIMDJSON_PADDING);
+    UseLargePages(text.data(), text.capacity());
     return text;
 }
 
