@@ -1,8 +1,8 @@
-#include "runtime/foundation/VXJsonNode.h"
+#include "runtime/foundation/VXJsonMembers.h"
 
-#include <algorithm>
+#include <iterator>
+#include <typeinfo>
 #include <utility>
-#include <variant>
 
 namespace Vexlor
 {
@@ -12,13 +12,6 @@ namespace
 
 using Handle = std::shared_ptr<IVXJsonValue>; // an empty one stands for null
 using Handles = std::vector<Handle>;
-using Value = std::variant<std::int64_t, bool, std::string, Handle>;
-
-struct Member
-{
-    std::string name;
-    Value value;
-};
 
 // Lets go of children without the destructors of deep values calling each other: the first of them on this
 // thread empties a list in a loop, those that it runs only add to that list.
@@ -39,54 +32,28 @@ void LetGo(Handles children)
     waiting = nullptr;
 }
 
-JsonItem ItemOf(const Handle& handle)
-{
-    const auto* node = dynamic_cast<const VXJsonNode*>(handle.get());
-    return node ? node->Self() : JsonItem{.kind = JsonKind::Null, .bits = 0, .text = {}, .node = nullptr};
-}
-
-JsonItem ItemOf(const Value& value)
-{
-    if (const auto* number = std::get_if<std::int64_t>(&value))
-        return {.kind = JsonKind::Int64,
-                .bits = std::bit_cast<std::uint64_t>(*number),
-                .text = {},
-                .node = nullptr};
-    if (const auto* text = std::get_if<std::string>(&value))
-        return {.kind = JsonKind::String, .bits = 0, .text = *text, .node = nullptr};
-    if (const auto* handle = std::get_if<Handle>(&value))
-        return ItemOf(*handle);
-    return {.kind = JsonKind::Bool, .bits = std::get<bool>(value), .text = {}, .node = nullptr};
-}
-
 std::shared_ptr<const IVXJsonValue> OrNull(const Handle& handle)
 {
     return handle ? std::shared_ptr<const IVXJsonValue>(handle) : JsonNull();
 }
 
+JsonItem ItemOf(const Handle& handle);
+
 // A scalar member as it was when it was looked up.
 class VXJsonScalar final : public VXJsonReadOnly<VXJsonScalar>
 {
 public:
-    explicit VXJsonScalar(Value value) : m_value(std::move(value)) {}
-
-    static JsonItem Find(std::string_view) { return {}; }
-
-    JsonItem Self() const override { return ItemOf(m_value); }
-    std::size_t Count() const override { return 0; }
-    JsonItem ItemAt(std::size_t) const override { return {}; }
-    std::string_view NameAt(std::size_t) const override { return {}; }
-
-    std::shared_ptr<const IVXJsonValue> operator[](std::string_view) const override { return JsonNull(); }
-    std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view) const override
+    explicit VXJsonScalar(const JsonMember& member)
+        : m_kind(member.kind), m_bits(member.bits), m_text(member.text)
     {
-        return JsonEmptyArray();
     }
-    int Size() const override { return 0; }
-    std::shared_ptr<const IVXJsonValue> At(int) const override { return JsonNull(); }
+
+    JsonItem Self() const override { return {.kind = m_kind, .bits = m_bits, .text = m_text, .node = this}; }
 
 private:
-    Value m_value;
+    JsonKind m_kind;
+    std::uint64_t m_bits;
+    std::string m_text;
 };
 
 class VXJsonArray final : public VXJsonReadOnly<VXJsonArray>
@@ -97,23 +64,16 @@ public:
     VXJsonArray& operator=(const VXJsonArray&) = delete;
     ~VXJsonArray() { LetGo(std::move(m_elements)); }
 
-    static JsonItem Find(std::string_view) { return {}; }
-
     JsonItem Self() const override { return {.kind = JsonKind::Array, .bits = 0, .text = {}, .node = this}; }
-    std::size_t Count() const override { return m_elements.size(); }
-    JsonItem ItemAt(std::size_t index) const override { return ItemOf(m_elements[index]); }
-    std::string_view NameAt(std::size_t) const override { return {}; }
+    bool Next(std::size_t& cursor, JsonEntry& entry) const override
+    {
+        if (cursor == m_elements.size())
+            return false;
+        entry.item = ItemOf(m_elements[cursor++]);
+        return true;
+    }
 
-    std::shared_ptr<const IVXJsonValue> operator[](std::string_view) const override { return JsonNull(); }
-    std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view) const override
-    {
-        return JsonEmptyArray();
-    }
-    int Size() const override
-    {
-        constexpr std::size_t kMost = std::numeric_limits<int>::max();
-        return static_cast<int>(std::min(m_elements.size(), kMost));
-    }
+    int Size() const override { return SizeOf(m_elements.size()); }
     std::shared_ptr<const IVXJsonValue> At(int index) const override
     {
         return index >= 0 && index < Size() ? OrNull(m_elements[static_cast<std::size_t>(index)])
@@ -131,86 +91,110 @@ public:
     VXJsonObject() = default;
     VXJsonObject(const VXJsonObject&) = delete;
     VXJsonObject& operator=(const VXJsonObject&) = delete;
-    ~VXJsonObject();
+    ~VXJsonObject()
+    {
+        if (!m_children.empty())
+            LetGo(std::move(m_children));
+    }
 
     JsonItem Find(std::string_view name) const
     {
-        const Member* member = FindMember(name);
-        return member ? ItemOf(member->value) : JsonItem();
+        JsonMember member;
+        return m_members.Find(name, member) ? Item(member) : JsonItem();
     }
 
     JsonItem Self() const override
     {
-        const auto kind = m_members.empty() ? JsonKind::Null : JsonKind::Object;
+        const auto kind = m_members.Empty() ? JsonKind::Null : JsonKind::Object;
         return {.kind = kind, .bits = 0, .text = {}, .node = this};
     }
-    std::size_t Count() const override { return m_members.size(); }
-    JsonItem ItemAt(std::size_t index) const override { return ItemOf(m_members[index].value); }
-    std::string_view NameAt(std::size_t index) const override { return m_members[index].name; }
+
+    bool Next(std::size_t& cursor, JsonEntry& entry) const override
+    {
+        JsonMember member;
+        if (!m_members.Next(cursor, member))
+            return false;
+        entry = {.name = member.name, .item = Item(member)};
+        return true;
+    }
 
     std::shared_ptr<const IVXJsonValue> operator[](std::string_view name) const override;
-    std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view name) const override;
-    int Size() const override { return 0; }
-    std::shared_ptr<const IVXJsonValue> At(int) const override { return JsonNull(); }
+    std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view name) const override
+    {
+        return Find(name).kind == JsonKind::Array ? (*this)[name] : JsonEmptyArray();
+    }
 
-    void SetValueInt(std::string_view name, int value) override { Set(name, std::int64_t{value}); }
-    void SetValueInt64(std::string_view name, std::int64_t value) override { Set(name, value); }
-    void SetValueBool(std::string_view name, bool value) override { Set(name, value); }
-    void SetValueString(std::string_view name, const std::string& value) override { Set(name, value); }
-    void SetValueObject(std::string_view name, const Handle& value) override { Set(name, value); }
+    void SetValueInt(std::string_view name, int value) override { SetValueInt64(name, value); }
+    void SetValueInt64(std::string_view name, std::int64_t value) override
+    {
+        Set({.name = name, .kind = JsonKind::Int64, .bits = std::bit_cast<std::uint64_t>(value), .text = {}});
+    }
+    void SetValueBool(std::string_view name, bool value) override
+    {
+        Set({.name = name, .kind = JsonKind::Bool, .bits = value, .text = {}});
+    }
+    void SetValueString(std::string_view name, const std::string& value) override
+    {
+        Set({.name = name, .kind = JsonKind::String, .bits = 0, .text = value});
+    }
+    void SetValueObject(std::string_view name, const Handle& value) override;
     void SetValueArray(std::string_view name, const Handles& values) override
     {
-        Set(name, Handle(std::make_shared<VXJsonArray>(values)));
+        SetValueObject(name, std::make_shared<VXJsonArray>(values));
     }
 
 private:
-    const Member* FindMember(std::string_view name) const
+    static constexpr JsonKind kChild = JsonKind::Object; // of whatever kind: the child itself knows
+
+    JsonItem Item(const JsonMember& member) const
     {
-        const auto member = std::ranges::find(m_members, name, &Member::name);
-        return member == m_members.end() ? nullptr : &*member;
+        if (member.kind == kChild)
+            return ItemOf(m_children[member.bits]);
+        return {.kind = member.kind, .bits = member.bits, .text = member.text, .node = nullptr};
     }
 
-    void Set(std::string_view name, Value value)
+    void Set(const JsonMember& member)
     {
-        constexpr std::size_t kUsual = 4;
-        const auto member = std::ranges::find(m_members, name, &Member::name);
-        if (member != m_members.end())
-        {
-            member->value = std::move(value);
-            return;
-        }
-        if (m_members.empty())
-            m_members.reserve(kUsual);
-        m_members.push_back({std::string(name), std::move(value)});
+        const JsonMember before = m_members.Set(member);
+        if (before.kind == kChild)
+            m_children[before.bits].reset();
     }
 
-    std::vector<Member> m_members;
+    VXJsonMembers m_members;
+    Handles m_children;
 };
-
-VXJsonObject::~VXJsonObject()
-{
-    Handles children;
-    for (Member& member : m_members)
-        if (auto* child = std::get_if<Handle>(&member.value))
-            children.push_back(std::move(*child));
-    if (!children.empty())
-        LetGo(std::move(children));
-}
 
 std::shared_ptr<const IVXJsonValue> VXJsonObject::operator[](std::string_view name) const
 {
-    const Member* member = FindMember(name);
-    if (!member)
+    JsonMember member;
+    if (!m_members.Find(name, member))
         return JsonNull();
-    if (const auto* child = std::get_if<Handle>(&member->value))
-        return OrNull(*child);
-    return std::make_shared<VXJsonScalar>(member->value);
+    if (member.kind == kChild)
+        return OrNull(m_children[member.bits]);
+    return std::make_shared<VXJsonScalar>(member);
 }
 
-std::shared_ptr<const IVXJsonValue> VXJsonObject::GetValueArray(std::string_view name) const
+void VXJsonObject::SetValueObject(std::string_view name, const Handle& value)
 {
-    const Member* member = FindMember(name);
-    return member && ItemOf(member->value).kind == JsonKind::Array ? (*this)[name] : JsonEmptyArray();
+    JsonMember before;
+    if (m_members.Find(name, before) && before.kind == kChild)
+    {
+        m_children[before.bits] = value;
+        return;
+    }
+    m_children.push_back(value);
+    Set({.name = name, .kind = kChild, .bits = m_children.size() - 1, .text = {}});
+}
+
+JsonItem ItemOf(const Handle& handle)
+{
+    if (!handle)
+        return {.kind = JsonKind::Null, .bits = 0, .text = {}, .node = nullptr};
+    const IVXJsonValue& value = *handle;
+    if (typeid(value) == typeid(VXJsonObject)) // nearly always, and far cheaper to ask than the cast
+        return static_cast<const VXJsonObject&>(value).Self();
+    const auto* node = dynamic_cast<const VXJsonNode*>(&value);
+    return node ? node->Self() : ItemOf(nullptr);
 }
 
 } // namespace

@@ -126,9 +126,15 @@ JsonItem VXJsonView::Find(std::string_view name) const
     return member ? member->Self() : JsonItem();
 }
 
-JsonItem VXJsonView::ItemAt(std::size_t index) const { return Child(index).Self(); }
-
-std::string_view VXJsonView::NameAt(std::size_t index) const { return Text(Child(index).m_word[-1]); }
+bool VXJsonView::Next(std::size_t& cursor, JsonEntry& entry) const
+{
+    if (cursor == m_count)
+        return false;
+    const VXJsonView& child = Child(cursor++);
+    entry.name = IsA('{') ? Text(child.m_word[-1]) : std::string_view();
+    entry.item = child.Self();
+    return true;
+}
 
 std::shared_ptr<const IVXJsonValue> VXJsonView::operator[](std::string_view name) const
 {
@@ -142,11 +148,7 @@ std::shared_ptr<const IVXJsonValue> VXJsonView::GetValueArray(std::string_view n
     return member && member->IsA('[') ? member->Handle() : JsonEmptyArray();
 }
 
-int VXJsonView::Size() const
-{
-    constexpr std::uint32_t kMost = std::numeric_limits<int>::max();
-    return IsA('[') ? static_cast<int>(std::min(m_count, kMost)) : 0;
-}
+int VXJsonView::Size() const { return IsA('[') ? SizeOf(m_count) : 0; }
 
 std::shared_ptr<const IVXJsonValue> VXJsonView::At(int index) const
 {

@@ -25,9 +25,7 @@ public:
     JsonItem Find(std::string_view name) const;
 
     JsonItem Self() const override;
-    std::size_t Count() const override { return m_count; }
-    JsonItem ItemAt(std::size_t index) const override;
-    std::string_view NameAt(std::size_t index) const override;
+    bool Next(std::size_t& cursor, JsonEntry& entry) const override;
 
     std::shared_ptr<const IVXJsonValue> operator[](std::string_view name) const override;
     std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view name) const override;

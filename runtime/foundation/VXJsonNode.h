@@ -2,6 +2,7 @@
 
 #include "IVXJsonValue.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -39,25 +40,36 @@ struct JsonItem
     const VXJsonNode* node = nullptr; ///< of Array and Object
 };
 
-/// What parsed and built values have in common beyond their interface: they can be walked.
-class VXJsonNode : public IVXJsonValue
+struct JsonEntry
 {
-public:
-    virtual JsonItem Self() const = 0;
-    /// Number of elements of an array or of members of an object; 0 for a scalar.
-    virtual std::size_t Count() const = 0;
-    /// index is below Count().
-    virtual JsonItem ItemAt(std::size_t index) const = 0;
-    /// index is below Count() of an object.
-    virtual std::string_view NameAt(std::size_t index) const = 0;
-
-protected:
-    ~VXJsonNode() = default;
+    std::string_view name; ///< empty for an element
+    JsonItem item;
 };
 
 /// Null and the empty array; they belong to no document and need no owner.
 std::shared_ptr<const IVXJsonValue> JsonNull();
 std::shared_ptr<const IVXJsonValue> JsonEmptyArray();
+
+/// What parsed and built values have in common beyond their interface: they can be walked. A scalar unless
+/// the derived class says more.
+class VXJsonNode : public IVXJsonValue
+{
+public:
+    virtual JsonItem Self() const = 0;
+    /// The element or member at cursor, which moves on; 0 is the first, false when there is none.
+    virtual bool Next(std::size_t& /*cursor*/, JsonEntry& /*entry*/) const { return false; }
+
+    std::shared_ptr<const IVXJsonValue> operator[](std::string_view) const override { return JsonNull(); }
+    std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view) const override
+    {
+        return JsonEmptyArray();
+    }
+    int Size() const override { return 0; }
+    std::shared_ptr<const IVXJsonValue> At(int) const override { return JsonNull(); }
+
+protected:
+    ~VXJsonNode() = default;
+};
 
 /// The integer part of a finite number; 0 where Integer cannot hold it.
 template <class Integer>
@@ -69,7 +81,13 @@ Integer IntegerPart(double number)
     return number > kBelow && number < -kLowest ? static_cast<Integer>(number) : 0;
 }
 
-/// The getters, once for both kinds of values: Derived tells what an item holds (Find).
+/// A count of elements as the interface tells it.
+inline int SizeOf(std::size_t count)
+{
+    return static_cast<int>(std::min<std::size_t>(count, std::numeric_limits<int>::max()));
+}
+
+/// The getters, once for both kinds of values: Derived::Find tells what a name stands for.
 template <class Derived>
 class VXJsonGetters : public VXJsonNode
 {
@@ -114,6 +132,8 @@ template <class Derived>
 class VXJsonReadOnly : public VXJsonGetters<Derived>
 {
 public:
+    static JsonItem Find(std::string_view /*name*/) { return {}; }
+
     void SetValueInt(std::string_view, int) final {}
     void SetValueInt64(std::string_view, std::int64_t) final {}
     void SetValueBool(std::string_view, bool) final {}

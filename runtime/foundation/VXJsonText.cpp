@@ -135,8 +135,7 @@ private:
     {
         const VXJsonNode* node;
         bool named;
-        std::size_t next;
-        std::size_t count;
+        std::size_t cursor;
     };
 
     void WriteItem(const JsonItem& item)
@@ -150,18 +149,19 @@ private:
     void WriteNext()
     {
         Container& container = m_open.back();
-        if (container.next == container.count)
+        const bool isFirst = container.cursor == 0;
+        JsonEntry entry;
+        if (!container.node->Next(container.cursor, entry))
             return Close();
-        if (container.next > 0)
+        if (!isFirst)
             m_text += ',';
         StartLine();
-        const std::size_t index = container.next++;
         if (container.named)
         {
-            AppendString(m_text, container.node->NameAt(index));
+            AppendString(m_text, entry.name);
             m_text.append(m_indented ? ": " : ":");
         }
-        WriteItem(container.node->ItemAt(index));
+        WriteItem(entry.item);
     }
 
     void Open(const VXJsonNode& node, bool named)
@@ -170,7 +170,7 @@ private:
         if (m_open.size() >= kJsonMaxDepth && !m_deep.insert(&node).second)
             m_isCyclic = true;
         m_text += named ? '{' : '[';
-        m_open.push_back({.node = &node, .named = named, .next = 0, .count = node.Count()});
+        m_open.push_back({.node = &node, .named = named, .cursor = 0});
     }
 
     void Close()
@@ -179,7 +179,7 @@ private:
         m_open.pop_back();
         if (m_open.size() >= kJsonMaxDepth)
             m_deep.erase(container.node);
-        if (container.count > 0)
+        if (container.cursor > 0)
             StartLine();
         m_text += container.named ? '}' : ']';
     }
