@@ -19,6 +19,7 @@ using Grade = IVXCodecs::QualityLevel;
 constexpr double kReferenceRate = 30.0;
 constexpr double kUsualPixels = 1280.0 * 720.0;
 constexpr int kUsualSampleRate = 48000;
+constexpr double kLeastKbps = 1.0; // encoders that count in kb/s read less as no bitrate at all
 
 std::size_t IndexOf(Grade level)
 {
@@ -76,11 +77,12 @@ int SampleRateOf(const SoundStream& stream)
 
 int ChannelCountOf(const SoundStream& stream) { return stream.layout ? ChannelsOf(stream.layout) : 2; }
 
-// A subwoofer's channel carries next to nothing.
-int FullChannelsOf(const SoundStream& stream)
+// A subwoofer's channel carries next to nothing, which not every encoder makes use of.
+int PaidChannelsOf(const SoundStream& stream, const AudioBitrateRow& row)
 {
     const auto channels = ChannelCountOf(stream);
-    return channels > 1 && (stream.layout & kLowFrequency) ? channels - 1 : channels;
+    const bool free = channels > 1 && (stream.layout & kLowFrequency) && !row.countsSubwoofer;
+    return free ? channels - 1 : channels;
 }
 
 double NearestLegal(double kbps, std::span<const int> legal)
@@ -95,7 +97,7 @@ double LossyKbps(const AudioBitrateRow& row, const SoundStream& stream, std::siz
     const auto rate = SampleRateOf(stream);
     const auto channels = ChannelCountOf(stream);
     const double bandwidth = std::min(1.0, rate / 44100.0); // hearing ends where 44.1 kHz does
-    const double wanted = row.perChannel.at(grade) * bandwidth * FullChannelsOf(stream);
+    const double wanted = row.perChannel.at(grade) * bandwidth * PaidChannelsOf(stream, row);
     const double kept =
         std::clamp(wanted, double(row.minPerChannel) * channels, double(row.maxPerChannel) * channels);
     return NearestLegal(std::min(kept, double(row.maxTotal)), LegalKbps(row.codecID, rate, channels));
@@ -126,9 +128,11 @@ Grade NearestGrade(int bitrate, Rate rateOf)
 int VideoBitrate(const CodecCapabilities& codec, const PictureStream& stream, Grade level)
 {
     const auto* row = FindVideoBitrate(codec.codec->id);
+    if (!row)
+        return 1;
     const double kbps = AlongLadder(ReferenceLadder(IndexOf(level)), PixelsOf(stream)) *
-                        RateFactor(stream.frameRate) * FormatFactor(stream.format);
-    return row ? ToBitrate(kbps * row->factor * 1000.0, double(row->maxBitrate)) : 1;
+                        RateFactor(stream.frameRate) * FormatFactor(stream.format) * row->factor;
+    return ToBitrate(std::max(kbps, kLeastKbps) * 1000.0, double(row->maxBitrate));
 }
 
 int AudioBitrate(const CodecCapabilities& codec, const SoundStream& stream, Grade level)

@@ -77,6 +77,7 @@ constexpr std::array kAudio{
     AudioBitrateRow{.codecID = VXCodecID_Vorbis,
                     .kind = AudioBitrateKind::Lossy,
                     .perChannel = {48, 64, 96, 160},
+                    .countsSubwoofer = true,
                     .minPerChannel = 14,
                     .maxPerChannel = 240},
     AudioBitrateRow{.codecID = VXCodecID_FLAC, .kind = AudioBitrateKind::Lossless, .share = 0.6},

@@ -40,9 +40,10 @@ struct AudioBitrateRow
     AudioBitrateKind kind;
     std::array<double, kGrades> perChannel = {}; ///< kb/s of one channel at 44.1 kHz or more
     double share = 1.0;                          ///< of the samples' own bitrate, for a lossless codec
-    int minPerChannel = 1;                       ///< kb/s
-    int maxPerChannel = 100'000;                 ///< kb/s
-    int maxTotal = 2'000'000;                    ///< kb/s
+    bool countsSubwoofer = false; ///< whether the subwoofer's channel is given bits as any other
+    int minPerChannel = 1;        ///< kb/s
+    int maxPerChannel = 100'000;  ///< kb/s
+    int maxTotal = 2'000'000;     ///< kb/s
 };
 
 /// The points of H.264 at 30 frames a second for a grade from 0 to 3, smallest picture first.

@@ -90,7 +90,7 @@ constexpr std::array kTable{
         .avID = AV_CODEC_ID_HEVC,
         .encoders = "libx265 libkvazaar hevc_videotoolbox hevc_mf",
         .formats = kOffered<k420, k420x10, k422, k422x10, k444, k444x10, k420x12, k422x12, k444x12>,
-        .video = {.min = {64, 64}, .max = {16384, 16384}, .maxArea = kLevel62Area}}, // one coding tree unit
+        .video = {.min = {16, 16}, .max = {16384, 16384}, .maxArea = kLevel62Area}},
     CodecRow{.id = VXCodecID_MPEG4, // sizes have 13 bits, time increments 16: ISO/IEC 14496-2 6.2.3
              .name = "MPEG-4",
              .type = VXCodecTypeVideo,
@@ -132,7 +132,7 @@ constexpr std::array kTable{
              .type = VXCodecTypeVideo,
              .avID = AV_CODEC_ID_VP8,
              .encoders = "libvpx",
-             .formats = kOffered<k420, kPixFormatYUVA420P>,
+             .formats = kOffered<k420>,
              .video = {.min = {16, 16}, .max = {16382, 16382}}},
     CodecRow{.id = VXCodecID_VP9,
              .name = "VP9",

@@ -46,7 +46,7 @@ constexpr std::array kPixelFormats{
     PixelFormatRow{46, AV_PIX_FMT_YUV420P16, "YUV 4:2:0 16-bit"},
     PixelFormatRow{47, AV_PIX_FMT_YUV422P16, "YUV 4:2:2 16-bit"},
     PixelFormatRow{48, AV_PIX_FMT_YUV444P16, "YUV 4:4:4 16-bit"},
-    PixelFormatRow{kPixFormatYUVA420P, AV_PIX_FMT_YUVA420P, "YUV 4:2:0 with alpha"},
+    PixelFormatRow{50, AV_PIX_FMT_YUVA420P, "YUV 4:2:0 with alpha"},
     PixelFormatRow{51, AV_PIX_FMT_YUVA422P, "YUV 4:2:2 with alpha"},
     PixelFormatRow{52, AV_PIX_FMT_YUVA444P, "YUV 4:4:4 with alpha"},
     PixelFormatRow{53, AV_PIX_FMT_YUVA422P10, "YUV 4:2:2 10-bit with alpha"},

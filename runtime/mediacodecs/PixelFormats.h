@@ -27,7 +27,6 @@ inline constexpr int kPixFormatYUV444P10 = 22;
 inline constexpr int kPixFormatYUV420P12 = 30;
 inline constexpr int kPixFormatYUV422P12 = 31;
 inline constexpr int kPixFormatYUV444P12 = 32;
-inline constexpr int kPixFormatYUVA420P = 50;
 inline constexpr int kPixFormatGray8 = 80;
 inline constexpr int kPixFormatGBRP = 96;
 

@@ -1,0 +1,91 @@
+#include "runtime/mediacodecs/CodecCapabilities.h"
+#include "CodecLists.h"
+#include "VXMediaCodecs.h"
+#include "runtime/mediacodecs/ChannelLayouts.h"
+#include "runtime/mediacodecs/FFmpegCompat.h"
+#include "runtime/mediacodecs/SampleFormats.h"
+
+#include <gmock/gmock.h>
+
+#include <future>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+
+TEST(CodecCapabilities, AreSharedByAllWhoAsk)
+{
+    EXPECT_EQ(CapabilitiesOf(VXCodecID_H264), CapabilitiesOf(VXCodecID_H264));
+    const auto* elsewhere = std::async(std::launch::async, CapabilitiesOf, VXCodecID_H264).get();
+    EXPECT_EQ(elsewhere, CapabilitiesOf(VXCodecID_H264));
+}
+
+TEST(CodecCapabilities, AreNoneForOtherNumbers)
+{
+    EXPECT_EQ(nullptr, CapabilitiesOf(VXCodecID_None));
+    EXPECT_EQ(nullptr, CapabilitiesOf(-3));
+}
+
+TEST(CodecCapabilities, EncodersAndDecodersAreHere)
+{
+    for (const auto& codec : CodecTable())
+    {
+        for (const auto& name : CapabilitiesOf(codec.id)->encoders)
+            EXPECT_NE(nullptr, avcodec_find_encoder_by_name(name.c_str())) << name;
+        for (const auto& name : CapabilitiesOf(codec.id)->decoders)
+            EXPECT_NE(nullptr, avcodec_find_decoder_by_name(name.c_str())) << name;
+    }
+}
+
+TEST(CodecCapabilities, WithoutAnEncoderTheTableAnswers)
+{
+    for (const auto& codec : CodecTable())
+        EXPECT_FALSE(CapabilitiesOf(codec.id)->formats.empty()) << codec.name;
+}
+
+TEST(CodecCapabilities, PicturesOfEightBitsAndHalfChromaAreOfferedFirst)
+{
+    for (const int id : CodecIDs(VXCodecTypeVideo))
+        EXPECT_EQ(VXPixFormat_YUV420P, CapabilitiesOf(id)->formats.front()) << id;
+}
+
+TEST(CodecCapabilities, AreNarrowedToWhatTheEncoderTakes)
+{
+    const auto* av1 = CapabilitiesOf(VXCodecID_AV1);
+    if (av1->encoders.empty() || av1->encoders.front() != "libsvtav1")
+        GTEST_SKIP() << "another AV1 encoder is here";
+    EXPECT_THAT(av1->formats, ElementsAre(VXPixFormat_YUV420P, kPixFormatYUV420P10));
+    EXPECT_THAT(av1->profiles, ElementsAre(0));
+}
+
+TEST(CodecCapabilities, StereoIsOfferedFirst)
+{
+    for (const int id : CodecIDs(VXCodecTypeAudio))
+        EXPECT_EQ(kStereo, CapabilitiesOf(id)->layouts.front()) << id;
+}
+
+TEST(CodecCapabilities, HeAacIsOfferedOnlyWithAnEncoderForIt)
+{
+    const auto* aac = CapabilitiesOf(VXCodecID_AAC);
+    if (aac->encoders.empty() || aac->encoders.front() != "aac")
+        GTEST_SKIP() << "another AAC encoder is here";
+    EXPECT_THAT(aac->profiles, ElementsAre(2));
+}
+
+TEST(CodecCapabilities, Mp3TakesTheRatesOfThreeVersionsOfMpeg)
+{
+    const auto& rates = CapabilitiesOf(VXCodecID_MP3)->sampleRates;
+    EXPECT_EQ(48000, rates.front());
+    EXPECT_THAT(rates, Contains(8000));
+    EXPECT_THAT(rates, Not(Contains(96000)));
+}
+
+} // namespace
+
+} // namespace Vexlor

@@ -1,0 +1,81 @@
+#include "runtime/mediacodecs/ProfileTable.h"
+#include "Columns.h"
+#include "IVXCodecs.h"
+#include "VXMediaCodecs.h"
+#include "runtime/mediacodecs/CodecTable.h"
+#include "runtime/mediacodecs/FFmpegCompat.h"
+#include "runtime/mediacodecs/Lookup.h"
+
+#include <gtest/gtest.h>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+TEST(ProfileTable, NumbersAndNamesAreGivenOnceACodec)
+{
+    for (const auto& codec : CodecTable())
+    {
+        const auto profiles = ProfilesOf(codec.id);
+        EXPECT_EQ(profiles.size(), DifferentValues(profiles, &ProfileRow::number)) << codec.name;
+        EXPECT_EQ(profiles.size(), DifferentValues(profiles, &ProfileRow::name)) << codec.name;
+        const auto levels = LevelsOf(codec.id);
+        EXPECT_EQ(levels.size(), DifferentValues(levels, &LevelRow::number)) << codec.name;
+        EXPECT_EQ(levels.size(), DifferentValues(levels, &LevelRow::name)) << codec.name;
+    }
+}
+
+TEST(ProfileTable, EncodersOfAProfileAreEncodersOfItsCodec)
+{
+    for (const auto& codec : CodecTable())
+        for (const auto& profile : ProfilesOf(codec.id))
+            ForEachWord(profile.encoders, [&](std::string_view encoder)
+                        { EXPECT_TRUE(HasWord(codec.encoders, encoder)) << codec.name << ' ' << encoder; });
+}
+
+TEST(ProfileTable, NoNumberStandsForUnknown)
+{
+    for (const auto& codec : CodecTable())
+    {
+        EXPECT_EQ(IVXCodecs::VXProfileUnknown, ProfileNumberOf(codec.id, -99)) << codec.name;
+        EXPECT_EQ(IVXCodecs::VXLevelUnknown, LevelNumberOf(codec.id, -99)) << codec.name;
+    }
+}
+
+TEST(ProfileTable, ReadsTheProfilesOfLibavcodec)
+{
+    EXPECT_EQ(100, ProfileNumberOf(VXCodecID_H264, VX_AV_PROFILE(H264_HIGH)));
+    EXPECT_EQ(1066, ProfileNumberOf(VXCodecID_H264, VX_AV_PROFILE(H264_CONSTRAINED_BASELINE)));
+    EXPECT_EQ(2, ProfileNumberOf(VXCodecID_HEVC, VX_AV_PROFILE(HEVC_MAIN_10)));
+    EXPECT_EQ(4, ProfileNumberOf(VXCodecID_HEVC, VX_AV_PROFILE(HEVC_REXT)));
+    EXPECT_EQ(2, ProfileNumberOf(VXCodecID_AAC, VX_AV_PROFILE(AAC_LOW)));
+    EXPECT_EQ(128, ProfileNumberOf(VXCodecID_MPEG2, VX_AV_PROFILE(MPEG2_422)));
+    EXPECT_EQ(15, ProfileNumberOf(VXCodecID_DIVX, VX_AV_PROFILE(MPEG4_ADVANCED_SIMPLE)));
+}
+
+TEST(ProfileTable, ReadsALevelAsOneOfTheMainTier)
+{
+    EXPECT_EQ(123, LevelNumberOf(VXCodecID_HEVC, 123));
+    EXPECT_EQ(41, LevelNumberOf(VXCodecID_H264, 41));
+}
+
+TEST(ProfileTable, H264HasTheLevelsFrom1To62)
+{
+    const auto levels = LevelsOf(VXCodecID_H264);
+    EXPECT_EQ(20U, levels.size());
+    EXPECT_EQ("1", levels.front().name);
+    EXPECT_EQ("6.2", levels.back().name);
+}
+
+TEST(ProfileTable, ACodecWithoutProfilesHasNone)
+{
+    EXPECT_TRUE(ProfilesOf(VXCodecID_VP8).empty());
+    EXPECT_TRUE(LevelsOf(VXCodecID_AAC).empty());
+    EXPECT_TRUE(LevelsOf(-1).empty());
+}
+
+} // namespace
+
+} // namespace Vexlor

@@ -1,0 +1,106 @@
+#include "IVXRational.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <clocale>
+#include <cmath>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+TEST(Rational, WithoutArgumentsIsInvalid)
+{
+    const auto none = IVXRational::MallocRational();
+    EXPECT_FALSE(none->IsValid());
+    EXPECT_EQ(0, none->Num());
+    EXPECT_EQ(0, none->Den());
+}
+
+TEST(Rational, KeepsItsTermsUnreduced)
+{
+    const auto rate = IVXRational::MallocRational(60, 2);
+    EXPECT_EQ(60, rate->Num());
+    EXPECT_EQ(2, rate->Den());
+    EXPECT_DOUBLE_EQ(30.0, rate->GetDoubleValue());
+}
+
+TEST(Rational, OverZeroIsInfiniteWithTheNumeratorsSign)
+{
+    EXPECT_EQ(HUGE_VAL, IVXRational::MallocRational(1, 0)->GetDoubleValue());
+    EXPECT_EQ(-HUGE_VAL, IVXRational::MallocRational(-1, 0)->GetDoubleValue());
+}
+
+TEST(Rational, OfTwoZeroesIsNotANumber)
+{
+    EXPECT_TRUE(std::isnan(IVXRational::MallocRational(0, 0)->GetDoubleValue()));
+}
+
+TEST(Rational, DividesTheLargestTermsWithoutOverflow)
+{
+    EXPECT_DOUBLE_EQ(2147483648.0, IVXRational::MallocRational(INT_MIN, -1)->GetDoubleValue());
+}
+
+TEST(Rational, CloneIsAnotherObjectOfTheSameTerms)
+{
+    const auto rate = IVXRational::MallocRational(30000, 1001);
+    const auto clone = rate->Clone();
+    EXPECT_NE(rate, clone);
+    EXPECT_EQ(30000, clone->Num());
+    EXPECT_EQ(1001, clone->Den());
+}
+
+struct RateText
+{
+    const char* name;
+    int num;
+    int den;
+    const char* text;
+};
+
+class FramerateText : public testing::TestWithParam<RateText>
+{
+};
+
+TEST_P(FramerateText, IsAsPeopleWriteIt)
+{
+    const auto& [name, num, den, text] = GetParam();
+    EXPECT_EQ(text, IVXRational::MallocRational(num, den)->FormatAsFramerate());
+}
+
+constexpr RateText kRateTexts[] = {
+    {"Film", 24000, 1001, "23.976 fps"},
+    {"Cinema", 24, 1, "24 fps"},
+    {"Pal", 25, 1, "25 fps"},
+    {"Ntsc", 30000, 1001, "29.97 fps"},
+    {"Thirty", 30, 1, "30 fps"},
+    {"ThirtyUnreduced", 60, 2, "30 fps"},
+    {"NtscDoubled", 60000, 1001, "59.94 fps"},
+    {"PalFilm", 25000, 1001, "24.98 fps"},
+    {"Half", 25, 2, "12.5 fps"},
+    {"Hundred", 100, 1, "100 fps"},
+    {"Zero", 0, 1, "0 fps"},
+    {"Invalid", 0, 0, "nan fps"},
+    {"Infinite", 1, 0, "inf fps"},
+    {"Largest", INT_MAX, 1, "2147483647 fps"},
+};
+INSTANTIATE_TEST_SUITE_P(Rates, FramerateText, testing::ValuesIn(kRateTexts),
+                         [](const auto& test) { return test.param.name; });
+
+TEST(Rational, TextHasADecimalPointInEveryLocale)
+{
+    const std::string before = std::setlocale(LC_ALL, nullptr);
+    const bool comma = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
+    const auto text = IVXRational::MallocRational(30000, 1001)->FormatAsFramerate();
+    std::setlocale(LC_ALL, before.c_str());
+    if (!comma)
+        GTEST_SKIP() << "no locale with a decimal comma here";
+    EXPECT_EQ("29.97 fps", text);
+}
+
+} // namespace
+
+} // namespace Vexlor
