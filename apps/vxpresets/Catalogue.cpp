@@ -17,7 +17,7 @@ namespace Vexlor::Tool
 namespace
 {
 
-constexpr char kTool[] = "vxpresets";
+constexpr auto* kTool = "vxpresets";
 
 std::string Escaped(const std::string& name)
 {

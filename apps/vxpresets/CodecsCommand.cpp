@@ -71,6 +71,7 @@ template <typename Values, typename Display>
 std::vector<std::string> TextsOf(const Values& values, Display display)
 {
     std::vector<std::string> texts;
+    texts.reserve(values.size());
     for (const auto& value : values)
         texts.push_back(display(value));
     return texts;
@@ -138,9 +139,7 @@ std::string CodecText(const Codec& codec, const Style& style)
     auto text = Strong(codec.model->GetCodecName(), style) + '\n';
     text += ListText({"Number", {std::to_string(codec.id)}}, style);
     text += ListText({"Type", {codec.Type()}}, style);
-    text += ListText({"Encoders", codec.model->Names().empty() ? std::vector<std::string>{"none here"}
-                                                               : codec.model->Names()},
-                     style);
+    text += ListText({"Encoders", codec.model->Names()}, style);
     for (const auto& list : Accepts(codec))
         text += ListText(list, style);
     return text;

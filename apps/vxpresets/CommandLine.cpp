@@ -11,10 +11,10 @@ namespace Vexlor::Tool
 namespace
 {
 
-constexpr char kAbout[] =
+constexpr auto* kAbout =
     "Output presets of a media converter: what they offer, and what a media file becomes in one of them.";
-constexpr char kFooter[] = "Exit codes: 0 done, 1 failed, 2 wrong usage.";
-constexpr char kPresetHelp[] =
+constexpr auto* kFooter = "Exit codes: 0 done, 1 failed, 2 wrong usage.";
+constexpr auto* kPresetHelp =
     "Path of names (\"Video/MP4\"; \"\\/\" stands for a slash inside a name), or an "
     "unambiguous part of one";
 
@@ -52,12 +52,13 @@ void AddCommands(CLI::App& app, Request& request)
         ->add_option("CODEC", request.codec, "Name or number of the only codec to print, in full");
 }
 
-/// What is wrong. A word that is no command would otherwise go unmentioned: only that there is none is told.
+/// What is wrong. A wrong word in front would otherwise go unmentioned: only that there is no command is
+/// told.
 std::string ReasonOf(const CLI::App& app, const CLI::ParseError& error)
 {
     const auto rest = app.remaining();
     if (app.get_subcommands().empty() && !rest.empty())
-        return "no command " + Quoted(rest.front());
+        return (rest.front().starts_with('-') ? "no option " : "no command ") + Quoted(rest.front());
     return error.what();
 }
 

@@ -25,6 +25,7 @@ template <typename Entries, typename Make>
 std::vector<Json> JsonElements(const Entries& entries, Make make)
 {
     std::vector<Json> elements;
+    elements.reserve(entries.size());
     for (const auto& entry : entries)
         elements.push_back(make(entry));
     return elements;

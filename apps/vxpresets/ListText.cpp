@@ -14,21 +14,24 @@ constexpr int kLineWidth = 100;
 
 std::string Blanks(int count) { return Padded({}, count); }
 
+std::string Bracketed(const std::string& entry, bool isCurrent)
+{
+    return isCurrent ? '[' + entry + ']' : entry;
+}
+
 } // namespace
 
 std::string ListText(const NamedList& list, const Style& style)
 {
     std::string text = Blanks(kIndent) + Padded(OneLine(list.name), kNameWidth);
-    int column = DisplayWidth(text);
+    int column = kIndent + kNameWidth;
     for (std::size_t i = 0; i < list.entries.size(); ++i)
     {
         const bool isCurrent = static_cast<int>(i) == list.current;
         const bool isLast = i + 1 == list.entries.size();
-        const auto plain = OneLine(list.entries[i]);
-        const auto entry = (isCurrent ? '[' + plain + ']' : plain) + (isLast ? "" : ",");
+        const auto entry = Bracketed(OneLine(list.entries[i]), isCurrent) + (isLast ? "" : ",");
         const int width = DisplayWidth(entry) + 1;
-        const bool isFirst = i == 0;
-        if (!isFirst && column + width > kLineWidth)
+        if (i > 0 && column + width > kLineWidth)
         {
             column = kIndent + kNameWidth;
             text += '\n' + Blanks(column);
@@ -36,7 +39,7 @@ std::string ListText(const NamedList& list, const Style& style)
         text += ' ' + (isCurrent ? Strong(entry, style) : entry);
         column += width;
     }
-    return text + '\n';
+    return text + (list.entries.empty() ? " none\n" : "\n");
 }
 
 } // namespace Vexlor::Tool

@@ -16,7 +16,8 @@ struct NamedList
     int current = -1;
 };
 
-/// The name, and behind it the entries on as many lines as they need, the current one in brackets.
+/// The name, and behind it the entries on as many lines as they need, the current one in brackets; "none" for
+/// an empty list.
 std::string ListText(const NamedList& list, const Style& style);
 
 } // namespace Vexlor::Tool

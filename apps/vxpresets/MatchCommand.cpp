@@ -25,7 +25,7 @@ namespace
 
 using Parameter = IVXCodecParameter;
 
-constexpr char kAbsent[] = "-";
+constexpr auto* kAbsent = "-";
 
 std::string StoredSize(const Parameter& stream) { return SizeText(stream.GetWidth(), stream.GetHeight()); }
 std::string DisplaySize(const Parameter& stream)

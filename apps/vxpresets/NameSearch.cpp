@@ -29,29 +29,30 @@ Positions Where(const std::vector<Candidate>& candidates, Matches matches)
     return positions;
 }
 
+std::size_t KindsOf(const std::vector<Candidate>& candidates)
+{
+    return candidates.empty() ? 0 : candidates.front().names.size();
+}
+
 Positions WithWholeName(const std::vector<Candidate>& candidates, std::string_view text,
                         std::string (*form)(std::string_view))
 {
-    const auto kinds = candidates.empty() ? 0 : candidates.front().names.size();
-    for (std::size_t kind = 0; kind < kinds; ++kind)
-    {
-        auto found = Where(candidates, [&](const Candidate& candidate)
-                           { return form(candidate.names[kind]) == form(text); });
-        if (!found.empty())
-            return found;
-    }
-    return {};
+    Positions found;
+    for (std::size_t kind = 0; found.empty() && kind < KindsOf(candidates); ++kind)
+        found = Where(candidates,
+                      [&](const Candidate& candidate) { return form(candidate.names[kind]) == form(text); });
+    return found;
 }
 
+// The loosest kind of name first: a part of what the thing itself is called says more than one of its path.
 Positions WithPartOfName(const std::vector<Candidate>& candidates, std::string_view text)
 {
     const auto part = Folded(text);
-    return Where(candidates,
-                 [&part](const Candidate& candidate)
-                 {
-                     return std::ranges::any_of(candidate.names, [&part](const std::string& name)
-                                                { return Folded(name).find(part) != std::string::npos; });
-                 });
+    Positions found;
+    for (auto kind = KindsOf(candidates); found.empty() && kind > 0; --kind)
+        found = Where(candidates, [&](const Candidate& candidate)
+                      { return Folded(candidate.names[kind - 1]).find(part) != std::string::npos; });
+    return found;
 }
 
 Positions Meant(const std::vector<Candidate>& candidates, std::string_view text)

@@ -36,6 +36,7 @@ Cell::Cell(const std::string& content, bool standsOut) : text(OneLine(content)),
 Table::Table(const std::vector<std::string>& heading) : m_hasHeading(true)
 {
     std::vector<Cell> row;
+    row.reserve(heading.size());
     for (const auto& title : heading)
         row.emplace_back(title, true);
     Add(std::move(row));

@@ -50,6 +50,7 @@ std::string LayoutText(std::uint64_t layout)
 std::vector<std::string> CodecNames(const std::vector<int>& codecIDs)
 {
     std::vector<std::string> names;
+    names.reserve(codecIDs.size());
     for (const int codecID : codecIDs)
         names.push_back(IVXCodecs::DefaultCodecName(codecID, true));
     return names;

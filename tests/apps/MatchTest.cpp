@@ -1,0 +1,243 @@
+#include "Documents.h"
+
+namespace Vexlor::Apps
+{
+
+namespace
+{
+
+std::string LittleEndian(std::uint32_t number, int bytes)
+{
+    std::string text;
+    for (int i = 0; i < bytes; ++i)
+        text += static_cast<char>(number >> static_cast<unsigned>(8 * i) & 0xFFU);
+    return text;
+}
+
+/// A second of silence: 16-bit stereo samples at 48 kHz.
+std::string Silence()
+{
+    constexpr std::uint32_t kRate = 48'000;
+    constexpr std::uint32_t kBytes = kRate * 4;
+    return "RIFF" + LittleEndian(kBytes + 36, 4) + "WAVEfmt " + LittleEndian(16, 4) + LittleEndian(1, 2) +
+           LittleEndian(2, 2) + LittleEndian(kRate, 4) + LittleEndian(kBytes, 4) + LittleEndian(4, 2) +
+           LittleEndian(16, 2) + "data" + LittleEndian(kBytes, 4) + std::string(kBytes, '\0');
+}
+
+std::shared_ptr<const IVXJsonValue> MatchJson(const char* clip, const char* preset)
+{
+    return RunForJson({"match", Media::Clip(clip), "--preset", preset});
+}
+
+/// Every member of both streams of one side, in order, a line each.
+std::string Names(const IVXJsonValue& stream)
+{
+    const auto text = JsonText(stream, JsonStyle::Indented);
+    std::string names;
+    for (std::size_t at = text.find("\n  \""); at != std::string::npos; at = text.find("\n  \"", at + 1))
+        names += text.substr(at + 4, text.find('"', at + 4) - at - 4) + ' ';
+    return names;
+}
+
+constexpr std::string_view kSilenceOnCD = R"(silence.wav (WAV) -> Disc/CD (WAV)
+
+Video            none in the source
+
+Audio          Source      Output
+Codec          PCM 16-bit  PCM 16-bit
+Sample rate    48 kHz      44.1 kHz
+Channels       Stereo      Stereo
+Sample format  16-bit      16-bit
+)";
+
+TEST(MatchCommand, PrintsTheOutputBesideTheSource)
+{
+    const Media::ScratchFolder folder;
+    const auto media = folder.Write("silence.wav", Silence());
+    const auto run = RunOn(kShortDocument, {"match", media, "--preset", "CD"});
+    const auto start = run.out.find("silence.wav");
+    ASSERT_NE(std::string::npos, start) << run.err;
+    EXPECT_EQ(kSilenceOnCD, run.out.substr(start, kSilenceOnCD.size()));
+    EXPECT_EQ("", run.err);
+    EXPECT_EQ(0, run.exitCode);
+}
+
+TEST(MatchCommand, PrintsBothStreamsOfAFilm)
+{
+    const auto text = RunTool({"match", Media::Clip("film.mp4"), "--preset", "Video/WEBM"}).out;
+    EXPECT_NE(std::string::npos, text.find("Codec          H.264        VP9\n")) << text;
+    EXPECT_NE(std::string::npos, text.find("Size           1920 x 1080  1920 x 1080\n"));
+    EXPECT_NE(std::string::npos, text.find("Frame rate     30 fps       30 fps\n"));
+    EXPECT_NE(std::string::npos, text.find("Codec          AAC                  Opus\n"));
+}
+
+TEST(MatchCommand, TellsThatAStreamIsLeftOut)
+{
+    const auto text = RunTool({"match", Media::Clip("film.mp4"), "--preset", "Audio/MP3"}).out;
+    EXPECT_NE(std::string::npos, text.find("Codec          H.264        left out\n")) << text;
+}
+
+TEST(MatchCommand, JsonHasExactlyTheseMembers)
+{
+    const auto json = MatchJson("film.mp4", "Video/MP4");
+    const std::string video =
+        "codec codecID width height displayWidth displayHeight frameRate pixelFormat profile "
+        "level sampleAspect bitrate maxBitrate minBitrate bitrateMode codecTag ";
+    const std::string audio = "codec codecID sampleRate channelLayout channels sampleFormat profile bitrate "
+                              "maxBitrate minBitrate bitrateMode codecTag ";
+    EXPECT_EQ("format hint source output ", Names(*json));
+    for (const auto* side : {"source", "output"})
+    {
+        EXPECT_EQ("video audio ", Names(*(*json)[side]));
+        EXPECT_EQ(video, Names(*(*(*json)[side])["video"]));
+        EXPECT_EQ(audio, Names(*(*(*json)[side])["audio"]));
+    }
+}
+
+TEST(MatchCommand, JsonTellsTheSourcesVideo)
+{
+    const auto source = (*MatchJson("film.mp4", "Video/MP4"))["source"];
+    const auto video = (*source)["video"];
+    EXPECT_EQ("H.264", video->GetValueString("codec"));
+    EXPECT_EQ(1, video->GetValueInt("codecID"));
+    EXPECT_EQ(1920, video->GetValueInt("width"));
+    EXPECT_EQ(1080, video->GetValueInt("height"));
+    EXPECT_EQ("30 1", Elements(*video->GetValueArray("frameRate")));
+    EXPECT_EQ("YUV 4:2:0", video->GetValueString("pixelFormat"));
+    EXPECT_EQ("avc1", video->GetValueString("codecTag"));
+    EXPECT_GT(video->GetValueInt("bitrate"), 0);
+}
+
+TEST(MatchCommand, JsonTellsTheSourcesAudio)
+{
+    const auto source = (*MatchJson("surround.mp4", "Video/MP4"))["source"];
+    const auto audio = (*source)["audio"];
+    EXPECT_EQ("AAC", audio->GetValueString("codec"));
+    EXPECT_EQ(1001, audio->GetValueInt("codecID"));
+    EXPECT_EQ(48'000, audio->GetValueInt("sampleRate"));
+    EXPECT_EQ("5.1", audio->GetValueString("channelLayout"));
+    EXPECT_EQ(6, audio->GetValueInt("channels"));
+    EXPECT_EQ("32-bit float planar", audio->GetValueString("sampleFormat"));
+    EXPECT_EQ("LC", audio->GetValueString("profile"));
+}
+
+TEST(MatchCommand, JsonTellsTheOutput)
+{
+    const auto json = MatchJson("film.mp4", "Video/WEBM");
+    const auto video = (*(*json)["output"])["video"];
+    const auto audio = (*(*json)["output"])["audio"];
+    EXPECT_EQ("WEBM", json->GetValueString("format"));
+    EXPECT_EQ("VP9", video->GetValueString("codec"));
+    EXPECT_EQ(1920, video->GetValueInt("width"));
+    EXPECT_EQ("30 1", Elements(*video->GetValueArray("frameRate")));
+    EXPECT_EQ("1 1", Elements(*video->GetValueArray("sampleAspect")));
+    EXPECT_GT(video->GetValueInt("bitrate"), 0);
+    EXPECT_EQ("Opus", audio->GetValueString("codec"));
+    EXPECT_EQ(48'000, audio->GetValueInt("sampleRate"));
+    EXPECT_EQ(2, audio->GetValueInt("channels"));
+}
+
+TEST(MatchCommand, TakesTheDisplaySizeOfAnAnamorphicSource)
+{
+    const auto json = MatchJson("anamorphic.mp4", "Video/MP4");
+    const auto source = (*(*json)["source"])["video"];
+    const auto output = (*(*json)["output"])["video"];
+    EXPECT_EQ("64 45", Elements(*source->GetValueArray("sampleAspect")));
+    EXPECT_EQ(720, source->GetValueInt("width"));
+    EXPECT_EQ(1024, source->GetValueInt("displayWidth"));
+    EXPECT_EQ(1024, output->GetValueInt("width"));
+    EXPECT_EQ(576, output->GetValueInt("height"));
+}
+
+TEST(MatchCommand, StaysWithinTheBoundsOfAPreset)
+{
+    const auto json = MatchJson("film.mp4", "Devices/Phone");
+    const auto video = (*(*json)["output"])["video"];
+    EXPECT_EQ(1280, video->GetValueInt("width"));
+    EXPECT_EQ(720, video->GetValueInt("height"));
+    EXPECT_LE(video->GetValueInt("bitrate"), 14'000'000);
+}
+
+TEST(MatchCommand, TagsMPEG4InAVI)
+{
+    const auto output = (*MatchJson("film.mp4", "Video/AVI"))["output"];
+    EXPECT_EQ("XVID", (*output)["video"]->GetValueString("codecTag"));
+}
+
+struct AbsentCase
+{
+    const char* what;
+    const char* clip;
+    const char* preset;
+    const char* side;
+    const char* stream;
+};
+
+void PrintTo(const AbsentCase& test, std::ostream* out) { *out << test.what; }
+
+class AbsentStream : public testing::TestWithParam<AbsentCase>
+{
+};
+
+TEST_P(AbsentStream, IsNull)
+{
+    const auto& test = GetParam();
+    const auto side = (*MatchJson(test.clip, test.preset))[test.side];
+    EXPECT_TRUE(side->HasKey(test.stream));
+    EXPECT_EQ("null", JsonText(*(*side)[test.stream]));
+}
+
+constexpr AbsentCase kAbsent[] = {
+    {"SourceWithoutSound", "silent.mp4", "Video/MP4", "source", "audio"},
+    {"OutputOfASourceWithoutSound", "silent.mp4", "Video/MP4", "output", "audio"},
+    {"SourceWithoutPictures", "music.flac", "Video/MP4", "source", "video"},
+    {"OutputOfASourceWithoutPictures", "music.flac", "Video/MP4", "output", "video"},
+    {"ContainerWithoutPictures", "film.mp4", "Audio/MP3", "output", "video"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Streams, AbsentStream, testing::ValuesIn(kAbsent),
+                         [](const auto& test) { return test.param.what; });
+
+TEST(MatchCommand, NamesACodecThatHasNoNumberHere)
+{
+    const auto video = (*(*MatchJson("prores.mov", "Video/MP4"))["source"])["video"];
+    EXPECT_EQ(0, video->GetValueInt("codecID"));
+    EXPECT_EQ("prores", video->GetValueString("codec"));
+}
+
+void ExpectFailure(const std::string& media)
+{
+    const auto run = RunTool({"match", media, "--preset", "Video/MP4"});
+    EXPECT_EQ(1, run.exitCode);
+    EXPECT_EQ("", run.out);
+    EXPECT_EQ(0U, run.err.find(media + ": ")) << run.err;
+    EXPECT_GT(run.err.size(), media.size() + 3);
+    EXPECT_EQ(run.err.size() - 1, run.err.find('\n'));
+}
+
+TEST(MatchCommand, FailsOnAMissingFile) { ExpectFailure("/no/such/holiday.mov"); }
+
+TEST(MatchCommand, FailsOnADirectory) { ExpectFailure("/tmp"); }
+
+TEST(MatchCommand, FailsOnAText)
+{
+    const Media::ScratchFolder folder;
+    ExpectFailure(folder.Write("notes.mp4", "Bread, milk, butter.\n"));
+}
+
+TEST(MatchCommand, FailsOnAnEmptyFile)
+{
+    const Media::ScratchFolder folder;
+    ExpectFailure(folder.Write("empty.mp4", ""));
+}
+
+TEST(MatchCommand, FailsOnAnUnknownPresetBeforeItReadsTheMedia)
+{
+    const auto run = RunTool({"match", "/no/such/holiday.mov", "--preset", "zzz"});
+    EXPECT_EQ(0U, run.err.find("vxpresets: no preset \"zzz\"; nearest: ")) << run.err;
+    EXPECT_EQ(1, run.exitCode);
+}
+
+} // namespace
+
+} // namespace Vexlor::Apps
