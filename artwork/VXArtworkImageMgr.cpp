@@ -7,7 +7,7 @@
 #include "IVXLogConfig.h"
 
 #include <algorithm>
-#include <optional>
+#include <exception>
 
 namespace Vexlor
 {
@@ -22,6 +22,19 @@ int g_lastAutomaticFaceID = 0;
 
 using Group = std::shared_ptr<IVXArtworkImageGroup>;
 using ReadOnlyGroup = std::shared_ptr<const IVXArtworkImageGroup>;
+
+/// The group as the file holds it; empty when it is larger than a buffer or than memory.
+std::shared_ptr<IVXData> BlobOf(const IVXArtworkImageGroup& group)
+{
+    try
+    {
+        return group.ToData();
+    }
+    catch (const std::exception&)
+    {
+        return {};
+    }
+}
 
 class VXArtworkImageMgr final : public IVXArtworkImageMgr
 {
@@ -49,7 +62,7 @@ private:
     int NextAutomaticFaceID() const;
     bool HasRoomFor(std::size_t entries) const { return m_writable && entries <= kMostArtworkEntries; }
     ReadOnlyGroup Load(const VXArtworkEntry& entry) const;
-    VXArtworkEntry Store(const IVXArtworkImageGroup& group, int faceID);
+    VXArtworkEntry Store(const std::shared_ptr<const IVXData>& blob, int faceID);
     void SetUp();
     void WriteTable();
 
@@ -140,11 +153,12 @@ int VXArtworkImageMgr::NextAutomaticFaceID() const
 
 int VXArtworkImageMgr::AddArtworkImageGroup(Group group, int faceID)
 {
-    if (!group || !HasRoomFor(m_table.size() + 1))
+    const auto blob = group && HasRoomFor(m_table.size() + 1) ? BlobOf(*group) : nullptr;
+    if (!blob)
         return 0;
     if (faceID == kAutomatic)
         faceID = g_lastAutomaticFaceID = NextAutomaticFaceID();
-    m_table.push_back(Store(*group, faceID));
+    m_table.push_back(Store(blob, faceID));
     WriteTable();
     return faceID;
 }
@@ -152,18 +166,20 @@ int VXArtworkImageMgr::AddArtworkImageGroup(Group group, int faceID)
 void VXArtworkImageMgr::ReplaceArtworkImageGroup(Group group, int faceID)
 {
     const int idx = IndexOf(faceID);
-    if (!group || !HasRoomFor(m_table.size() + (idx < 0 ? 1 : 0)))
-        return;
     if (idx < 0)
     {
+        const auto entries = m_table.size();
         AddArtworkImageGroup(std::move(group), faceID);
+        if (m_table.size() > entries)
+            WriteTable();
+        return;
     }
-    else
-    {
-        // Deliberately under a new identifier: whoever kept the old one must not get another picture by it.
-        g_lastAutomaticFaceID = NextAutomaticFaceID();
-        m_table[static_cast<std::size_t>(idx)] = Store(*group, g_lastAutomaticFaceID);
-    }
+    const auto blob = group && HasRoomFor(m_table.size()) ? BlobOf(*group) : nullptr;
+    if (!blob)
+        return;
+    // Deliberately under a new identifier: whoever kept the old one must not get another picture by it.
+    g_lastAutomaticFaceID = NextAutomaticFaceID();
+    m_table[static_cast<std::size_t>(idx)] = Store(blob, g_lastAutomaticFaceID);
     WriteTable();
 }
 
@@ -175,25 +191,25 @@ void VXArtworkImageMgr::RemoveArtworkImageGroup(int idx)
     WriteTable();
 }
 
-/// Writes the group behind all others; the table that names it is written afterwards.
-VXArtworkEntry VXArtworkImageMgr::Store(const IVXArtworkImageGroup& group, int faceID)
+/// Writes the blob behind all others; the table that names it is written afterwards.
+VXArtworkEntry VXArtworkImageMgr::Store(const std::shared_ptr<const IVXData>& blob, int faceID)
 {
-    const auto data = group.ToData();
     m_storage->SeekToEnd();
     // A file that was cut inside its head: a group there would be overwritten by the table.
     if (m_storage->Position() < kArtworkHeadSize)
         m_storage->Seek(kArtworkHeadSize);
     const auto offset = m_storage->Position();
-    m_storage->WriteData(data);
-    return {faceID, offset, data->Size()};
+    m_storage->WriteData(blob);
+    return {faceID, offset, blob->Size()};
 }
 
 // One write for the whole table, so that a process that ends between two of them leaves a table that can be
 // read.
 void VXArtworkImageMgr::WriteTable()
 {
-    m_storage->Seek(0);
-    m_storage->WriteData(ArtworkHead(m_table));
+    // Anywhere but at the start it would overwrite groups.
+    if (m_storage->Seek(0)->Succeed())
+        m_storage->WriteData(ArtworkHead(m_table));
 }
 
 } // namespace

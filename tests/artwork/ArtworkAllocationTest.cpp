@@ -1,0 +1,134 @@
+#include "tests/artwork/ArtworkFixture.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdlib>
+#include <limits>
+#include <new>
+
+namespace
+{
+
+// Each block begins with its size, in a header that keeps the alignment.
+constexpr std::size_t kHeader = alignof(std::max_align_t);
+
+std::size_t theBytesInUse = 0;
+std::size_t theMostBytesInUse = 0;
+
+} // namespace
+
+void* operator new(std::size_t size)
+{
+    auto* block = static_cast<std::byte*>(std::malloc(size + kHeader));
+    if (!block)
+        throw std::bad_alloc();
+    *reinterpret_cast<std::size_t*>(block) = size;
+    theBytesInUse += size;
+    theMostBytesInUse = std::max(theMostBytesInUse, theBytesInUse);
+    return block + kHeader;
+}
+
+void operator delete(void* memory) noexcept
+{
+    if (!memory)
+        return;
+    auto* block = static_cast<std::byte*>(memory) - kHeader;
+    theBytesInUse -= *reinterpret_cast<std::size_t*>(block);
+    std::free(block);
+}
+
+void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
+
+namespace Vexlor
+{
+
+namespace
+{
+
+constexpr int kMost = std::numeric_limits<int>::max();
+constexpr std::size_t kFree = 4096; // what a file of nothing may cost
+
+/// The most bytes in use at any time during the operation, beyond those in use before it.
+template <class Operation>
+std::size_t MostBytesOf(Operation operation)
+{
+    const auto before = theMostBytesInUse = theBytesInUse;
+    operation();
+    return theMostBytesInUse - before;
+}
+
+using ArtworkMemory = ArtworkFileTest;
+
+TEST_F(ArtworkMemory, IsCounted)
+{
+    EXPECT_EQ(1000U, MostBytesOf([] { delete[] new std::byte[1000]; }));
+}
+
+TEST_F(ArtworkMemory, ACountThatLiesCostsNoMoreThanTheFile)
+{
+    for (const std::size_t size : {15, 47, 1024, 51200, 1 << 20})
+    {
+        FileBytes() = Head(kMost, {});
+        FileBytes().resize(size);
+        EXPECT_LE(
+            MostBytesOf([&] { EXPECT_EQ((size - 15) / 32, std::size_t(Open()->ArtworkImageGroupCount())); }),
+            4 * size + kFree)
+            << size;
+    }
+}
+
+TEST_F(ArtworkMemory, ASizeThatLiesCostsNoMoreThanTheFile)
+{
+    FileBytes() = Head(1, {Entry(7, 47, 0xFFFFFFFFU)});
+    FileBytes().resize(1024);
+    const auto manager = Open();
+    EXPECT_LE(MostBytesOf([&] { manager->GetArtworkImageGroup(0); }), 4 * 1024 + kFree);
+}
+
+TEST_F(ArtworkMemory, ALengthThatLiesCostsNoMoreThanTheBlob)
+{
+    FileBytes() =
+        FileOf({{7, Joined({{'I', 'G', 0}, Little(kMost), Little(0), Little(0xFFFFFFF0U), Bytes(1000)})}});
+    const auto manager = Open();
+    EXPECT_LE(MostBytesOf([&] { EXPECT_TRUE(manager->GetArtworkImageGroup(0)->IsEmpty()); }),
+              4 * 1024 + kFree);
+}
+
+// A picture without bytes costs a file 8 bytes and memory a node, a picture and its handles.
+TEST_F(ArtworkMemory, ManyPicturesWithoutBytesStayInProportion)
+{
+    constexpr int kPictures = 100000;
+    Bytes blob = Joined({{'I', 'G', 0}, Little(kMost)});
+    blob.reserve(7 + 8 * kPictures);
+    for (int key = 0; key < kPictures; ++key)
+        for (const int number : {key, 0})
+            for (const auto byte : Little(number))
+                blob.push_back(byte);
+    FileBytes() = FileOf({{7, blob}});
+    const auto manager = Open();
+    EXPECT_LE(MostBytesOf([&] { EXPECT_FALSE(manager->GetArtworkImageGroup(0)->IsEmpty()); }),
+              32 * FileBytes().size());
+}
+
+TEST_F(ArtworkMemory, OverlappingGroupsCostOneAtATime)
+{
+    const auto blob = BlobOf(std::string(100000, 'x'));
+    FileBytes() = FileOf({{0, blob}});
+    Bytes head = Head(kFullTable, {});
+    for (int i = 0; i < kFullTable; ++i)
+        for (const auto byte : Entry(i, kHeadArea, static_cast<std::uint32_t>(blob.size())))
+            head.push_back(byte);
+    std::ranges::copy(head, FileBytes().begin());
+    const auto manager = Open();
+    EXPECT_LE(MostBytesOf(
+                  [&]
+                  {
+                      for (int i = 0; i < kFullTable; ++i)
+                          EXPECT_FALSE(manager->GetArtworkImageGroup(i)->IsEmpty());
+                  }),
+              6 * FileBytes().size());
+}
+
+} // namespace
+
+} // namespace Vexlor
