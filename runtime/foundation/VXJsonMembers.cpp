@@ -71,7 +71,8 @@ bool VXJsonMembers::Find(std::string_view name, JsonMember& member) const
 
 JsonMember VXJsonMembers::Set(const JsonMember& member)
 {
-    constexpr std::size_t kUsualSize = 80;
+    // Two short members, in a block of the size that the object itself takes.
+    constexpr std::size_t kUsualSize = 47;
     const auto header = HeaderOf(member);
     JsonMember before;
     if (Find(member.name, before))

@@ -14,16 +14,32 @@ std::atomic<int> theAllocations = 0;
 
 } // namespace
 
-void* operator new(std::size_t size)
+// Not inlined, or the compiler takes free() for the wrong partner of what it sees as operator new.
+#define VX_NOT_INLINED __attribute__((noinline))
+
+VX_NOT_INLINED void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     ++theAllocations;
-    if (void* memory = std::malloc(size))
+    return std::malloc(size);
+}
+
+VX_NOT_INLINED void* operator new(std::size_t size)
+{
+    if (void* memory = operator new(size, std::nothrow))
         return memory;
     throw std::bad_alloc();
 }
 
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+void* operator new[](std::size_t size) { return operator new(size); }
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
+{
+    return operator new(size, std::nothrow);
+}
+
+VX_NOT_INLINED void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
+void operator delete[](void* memory) noexcept { operator delete(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { operator delete(memory); }
 
 namespace Vexlor
 {

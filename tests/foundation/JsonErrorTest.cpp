@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <random>
-#include <regex>
 
 namespace Vexlor
 {
@@ -81,6 +81,14 @@ std::string ErrorOf(std::string_view text)
     return error;
 }
 
+bool HasPlaceAndReason(const std::string& error)
+{
+    int line = 0;
+    int column = 0;
+    char letter = 0;
+    return std::sscanf(error.c_str(), "%d:%d: %c", &line, &column, &letter) == 3 && line > 0 && column > 0;
+}
+
 } // namespace
 
 TEST_P(JsonError, NamesPlaceAndReason) { EXPECT_EQ(GetParam().error, ErrorOf(GetParam().text)); }
@@ -102,7 +110,6 @@ TEST(JsonErrors, EveryBrokenTextHasAPlaceAndAReason)
 {
     const std::string whole =
         R"({"a": [1, -2.5e3, 12345678901234567890123, "x\u00e9\ud83d\ude00漢"], "b": {"c": null}})";
-    const std::regex place("[0-9]+:[0-9]+: .+");
     constexpr std::string_view kBytes = "{}[]\":,\\u0dxe-+. \n\x01\xFF\x80";
     std::mt19937 random(1); // the same texts at every run
     int refused = 0;
@@ -115,7 +122,7 @@ TEST(JsonErrors, EveryBrokenTextHasAPlaceAndAReason)
         if (ParseJson(text, &error))
             continue;
         ++refused;
-        EXPECT_TRUE(std::regex_match(error, place)) << text << '\n' << error;
+        EXPECT_TRUE(HasPlaceAndReason(error)) << text << '\n' << error;
         EXPECT_EQ(std::string::npos, error.find("not valid JSON")) << text << '\n' << error;
     }
     EXPECT_GT(refused, 1000);
