@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 
+#include "ArtworkCommands.h"
 #include "Failure.h"
 #include "Text.h"
 
@@ -50,6 +51,7 @@ void AddCommands(CLI::App& app, Request& request)
                FormatsCommand);
     AddCommand(app, request, "codecs", "Print the codecs and what each accepts", CodecsCommand)
         ->add_option("CODEC", request.codec, "Name or number of the only codec to print, in full");
+    AddArtworkCommands(app, request);
 }
 
 /// What is wrong. A wrong word in front would otherwise go unmentioned: only that there is no command is

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ArtworkRequest.h"
 #include "Catalogue.h"
 #include "Style.h"
 
@@ -11,7 +12,7 @@ namespace Vexlor::Tool
 
 struct Request;
 
-/// What a command answers on standard output. Throws Failure.
+/// What a command answers on standard output. Throws Failure or BadAnswer.
 using Command = std::string (*)(const Request& request, const Catalogue& catalogue, const Style& style);
 
 /// What the user asks for.
@@ -23,6 +24,7 @@ struct Request
     std::string preset;
     std::string media;
     std::optional<std::string> codec;
+    ArtworkRequest artwork = {};
 };
 
 /// The tree with the number of presets in each category, or the preset document.

@@ -19,4 +19,11 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// An answer that is bad news: printed as any other, while the exit code tells of failure.
+class BadAnswer : public std::runtime_error
+{
+public:
+    using std::runtime_error::runtime_error;
+};
+
 } // namespace Vexlor::Tool

@@ -48,6 +48,20 @@ void Print(const std::string& text)
         throw Failure("vxpresets: standard output: " + std::generic_category().message(errno));
 }
 
+int PrintAnswer(int argc, const char* const* argv)
+{
+    try
+    {
+        Print(Answer(argc, argv));
+        return kDone;
+    }
+    catch (const BadAnswer& answer)
+    {
+        Print(answer.what());
+        return kFailed;
+    }
+}
+
 int Fail(const std::string& message, int code)
 {
     Complain(message);
@@ -59,8 +73,7 @@ int Main(int argc, const char* const* argv)
     SetLogSink(ComplainOfLog);
     try
     {
-        Print(Answer(argc, argv));
-        return kDone;
+        return PrintAnswer(argc, argv);
     }
     catch (const WrongUsage& error)
     {

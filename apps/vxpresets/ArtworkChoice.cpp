@@ -1,0 +1,92 @@
+#include "ArtworkChoice.h"
+
+#include "DefaultArtwork.h"
+#include "Failure.h"
+#include "NameSearch.h"
+#include "Text.h"
+
+#include "catalog/icons/Faces.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+
+namespace Vexlor::Tool
+{
+
+namespace
+{
+
+constexpr char kBuiltIn[] = "built-in artwork";
+
+std::optional<int> NumberOf(std::string_view text)
+{
+    int number = 0;
+    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool isWhole = end == text.data() + text.size();
+    return fault == std::errc() && isWhole ? std::optional(number) : std::nullopt;
+}
+
+std::size_t GroupAt(const ArtworkFile& file, const std::string& text)
+{
+    const auto number = NumberOf(std::string_view(text).substr(1));
+    if (number && *number >= 0 && static_cast<std::size_t>(*number) < file.table.size())
+        return static_cast<std::size_t>(*number);
+    throw Failure(file.name + ": no group at " + Quoted(text) + ", there are " +
+                  Counted(static_cast<int>(file.table.size()), "group", "groups"));
+}
+
+std::size_t GroupOfFace(const ArtworkFile& file, int faceID)
+{
+    const auto found = std::ranges::find(file.table, faceID, &VXArtworkEntry::faceID);
+    if (found == file.table.end())
+        throw Failure(file.name + ": no group " + FaceText(faceID));
+    return static_cast<std::size_t>(found - file.table.begin());
+}
+
+std::vector<Candidate> NamesOf(const std::vector<int>& faceIDs)
+{
+    std::vector<Candidate> names;
+    for (const int faceID : faceIDs)
+        names.push_back({FaceText(faceID), {FaceName(faceID)}});
+    return names;
+}
+
+// Those that are there once and have a name.
+std::vector<int> NamedFaces(const ArtworkFile& file)
+{
+    std::vector<int> faceIDs;
+    for (const auto& face : Catalog::kFaces)
+        if (std::ranges::find(file.table, face.id, &VXArtworkEntry::faceID) != file.table.end())
+            faceIDs.push_back(face.id);
+    return faceIDs;
+}
+
+} // namespace
+
+ArtworkFile OpenRequested(const ArtworkRequest& request)
+{
+    return request.file ? OpenArtwork(*request.file) : OpenArtwork(kBuiltIn, DefaultArtwork());
+}
+
+std::size_t FindGroup(const ArtworkFile& file, const std::string& text)
+{
+    if (text.starts_with('#'))
+        return GroupAt(file, text);
+    if (const auto number = NumberOf(text))
+        return GroupOfFace(file, *number);
+    const auto faceIDs = NamedFaces(file);
+    return GroupOfFace(file, faceIDs[FindByName(NamesOf(faceIDs), text, "group", file.name)]);
+}
+
+int FaceOf(const std::string& text)
+{
+    if (const auto number = NumberOf(text))
+        return *number;
+    std::vector<int> faceIDs;
+    for (const auto& face : Catalog::kFaces)
+        faceIDs.push_back(face.id);
+    return faceIDs[FindByName(NamesOf(faceIDs), text, "face identifier", "vxpresets")];
+}
+
+} // namespace Vexlor::Tool
