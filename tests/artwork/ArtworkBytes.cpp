@@ -40,6 +40,8 @@ std::shared_ptr<IVXArtworkImage> Picture(std::string_view text)
 
 Bytes StoredPicture(std::string_view text) { return BytesOf(*Picture(text)->ToData()); }
 
+std::string TextOf(const Bytes& bytes) { return {bytes.begin(), bytes.end()}; }
+
 std::string TextOf(const IVXArtworkImage& picture)
 {
     return {picture.Bytes(), picture.Bytes() + picture.Size()};

@@ -47,6 +47,7 @@ Bytes Little(Number number)
 std::shared_ptr<IVXArtworkImage> Picture(std::string_view text);
 /// The picture as the codec library stores it, whatever that form is.
 Bytes StoredPicture(std::string_view text);
+std::string TextOf(const Bytes& bytes);
 std::string TextOf(const IVXArtworkImage& picture);
 
 /// A group's stored form: the pictures by their keys, in the order given.
