@@ -32,7 +32,7 @@ constexpr int kGap = 8;
 constexpr int kPlace = kEdge + kSmallEdge + 2 * kGap;
 constexpr int kStripHeight = kEdge + kGap;
 constexpr int kLabelHeight = 20;
-constexpr int kCellWidth = kArtworkModes * kPlace + kGap;
+constexpr int kCellWidth = kArtworkModes * kPlace + 2 * kGap;
 constexpr int kCellHeight = kLabelHeight + 2 * kStripHeight + kGap;
 
 constexpr QRgb kPaper = 0xffffffff;

@@ -54,12 +54,22 @@ void AddCommands(CLI::App& app, Request& request)
     AddArtworkCommands(app, request);
 }
 
-/// What is wrong. A wrong word in front would otherwise go unmentioned: only that there is no command is
-/// told.
+/// The last of the commands that were named, one inside the other; the program itself where none was.
+const CLI::App& Reached(const CLI::App& app)
+{
+    const auto* reached = &app;
+    while (!reached->get_subcommands().empty())
+        reached = reached->get_subcommands().front();
+    return *reached;
+}
+
+/// What is wrong. A wrong word in place of a command would otherwise go unmentioned: only that there is no
+/// command is told.
 std::string ReasonOf(const CLI::App& app, const CLI::ParseError& error)
 {
-    const auto rest = app.remaining();
-    if (app.get_subcommands().empty() && !rest.empty())
+    const auto& reached = Reached(app);
+    const auto rest = reached.remaining();
+    if (!reached.get_subcommands({}).empty() && !rest.empty())
         return (rest.front().starts_with('-') ? "no option " : "no command ") + Quoted(rest.front());
     return error.what();
 }
