@@ -4,9 +4,6 @@
 #include "tests/platform/ScriptedCall.h"
 #include "tests/platform/ScriptedPlatform.h"
 
-// Display texts name their kind and the number that was asked, so that a test sees which function was taken.
-// The ratios say the same: 100 (DVD), 200 (1080i) or 300 (720p), 10 more for NTSC and 1 more for 4:3.
-
 namespace Vexlor
 {
 

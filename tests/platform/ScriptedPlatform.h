@@ -35,6 +35,10 @@ struct ScriptedLogLine
 /// Both platform libraries as one test wants them. The platform's functions answer from the object made last
 /// that still lives, so each test makes its own and starts from nothing; without one there are no codecs, no
 /// containers and no files, and log lines are lost.
+///
+/// Display texts name what was asked: "1280 x 720", "44100 Hz", "layout 3", "pixel format 0", "sample format
+/// 3", "grade 2", "30000/1001 fps". The aspect ratios do too, over 100: 100 for DVD, 200 for 1080i or 300 for
+/// 720p, 10 more for NTSC, 1 more for 4:3.
 class ScriptedPlatform
 {
 public:
