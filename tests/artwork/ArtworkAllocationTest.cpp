@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <new>
 
@@ -17,27 +18,47 @@ std::size_t theMostBytesInUse = 0;
 
 } // namespace
 
-void* operator new(std::size_t size)
+// Every form is replaced, so that none is freed by another; not inlined, or the compiler takes free() for the
+// wrong partner of what it sees as operator new.
+#define VX_NOT_INLINED __attribute__((noinline))
+
+VX_NOT_INLINED void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     auto* block = static_cast<std::byte*>(std::malloc(size + kHeader));
     if (!block)
-        throw std::bad_alloc();
-    *reinterpret_cast<std::size_t*>(block) = size;
+        return nullptr;
+    std::memcpy(block, &size, sizeof size);
     theBytesInUse += size;
     theMostBytesInUse = std::max(theMostBytesInUse, theBytesInUse);
     return block + kHeader;
 }
 
-void operator delete(void* memory) noexcept
+VX_NOT_INLINED void* operator new(std::size_t size)
+{
+    if (void* memory = operator new(size, std::nothrow))
+        return memory;
+    throw std::bad_alloc();
+}
+
+void* operator new[](std::size_t size) { return operator new(size); }
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
+{
+    return operator new(size, std::nothrow);
+}
+
+VX_NOT_INLINED void operator delete(void* memory) noexcept
 {
     if (!memory)
         return;
     auto* block = static_cast<std::byte*>(memory) - kHeader;
-    theBytesInUse -= *reinterpret_cast<std::size_t*>(block);
+    std::size_t size = 0;
+    std::memcpy(&size, block, sizeof size);
+    theBytesInUse -= size;
     std::free(block);
 }
-
 void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
+void operator delete[](void* memory) noexcept { operator delete(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { operator delete(memory); }
 
 namespace Vexlor
 {
