@@ -1,5 +1,7 @@
 #include "DefaultTree.h"
 
+#include "catalog/icons/Faces.h"
+
 #include "IVXCodecPreset.h"
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
@@ -17,21 +19,14 @@ namespace
 {
 
 // Keys of the icons in the artwork file.
-constexpr int kFaceCustomize = 10000000;
-constexpr int kFaceRecentList = 10000001;
-constexpr int kFaceGeneral = 10000002;
-constexpr int kFaceVideo = 10000003;
-constexpr int kFaceAudio = 10000004;
-constexpr int kFaceDevice = 10000005;
-constexpr int kFaceWebVideo = 10000006;
-constexpr int kFaceMP4 = 20000000;
-constexpr int kFaceAVI = 20000001;
-constexpr int kFaceWEBM = 20000002;
-constexpr int kFaceMKV = 20000003;
-constexpr int kFaceMP3 = 20001000;
-constexpr int kFaceM4A = 20001001;
-constexpr int kFaceWAV = 20001002;
-constexpr int kNoFace = 0;
+using Icons = IVXArtworkImageMgr;
+constexpr int kFaceCustomize = Icons::CategoryFaceIDCustomize;
+constexpr int kFaceRecentList = Icons::CategoryFaceIDRecentList;
+constexpr int kFaceGeneral = Icons::CategoryFaceIDGeneral;
+constexpr int kFaceVideo = Icons::CategoryFaceIDVideo;
+constexpr int kFaceAudio = Icons::CategoryFaceIDAudio;
+constexpr int kFaceDevice = Icons::CategoryFaceIDDevice;
+constexpr int kFaceWebVideo = Icons::CategoryFaceIDWebVideo;
 
 struct CategoryRow
 {
@@ -50,12 +45,32 @@ constexpr std::array kCategories{
     CategoryRow{"Recently Used", "What you chose last", kFaceRecentList},
 };
 
+/// A container's name and its icon's key in the artwork file.
+struct Container
+{
+    std::string_view name;
+    int faceID = 0;
+};
+
+constexpr Container kInMP4{"MP4", Icons::FormatFaceIDMP4};
+constexpr Container kInAVI{"AVI", Icons::FormatFaceIDAVI};
+constexpr Container kInWEBM{"WEBM", Icons::FormatFaceIDWEBM};
+constexpr Container kInMKV{"MKV", Icons::FormatFaceIDMKV};
+constexpr Container kInMP3{"MP3", Icons::FormatFaceIDMP3};
+constexpr Container kInM4A{"M4A", Icons::FormatFaceIDM4A};
+constexpr Container kInWAV{"WAV", Icons::FormatFaceIDWAV};
+constexpr Container kInMOV{"MOV", Catalog::FormatFaceIDMOV};
+constexpr Container kInMPG{"MPG", Catalog::FormatFaceIDMPG};
+constexpr Container kInFLAC{"FLAC", Catalog::FormatFaceIDFLAC};
+constexpr Container kInOGG{"OGG", Catalog::FormatFaceIDOGG};
+
+/// Upper bounds in pixels and in kilobits per second; 0 for none.
 struct Bounds
 {
     int width = 0;
     int height = 0;
-    int videoBitrate = -1;
-    int audioBitrate = -1;
+    int videoKilobits = 0;
+    int audioKilobits = 0;
 };
 
 struct PresetRow
@@ -63,8 +78,7 @@ struct PresetRow
     std::string_view category;
     std::string_view name;
     std::string_view description;
-    std::string_view format;
-    int faceID;
+    Container container;
     int video;
     int audio;
     Bounds bounds = {};
@@ -85,124 +99,42 @@ constexpr int kVorbis = VXCodecID_Vorbis;
 constexpr int kFLAC = VXCodecID_FLAC;
 constexpr int kPCM16 = VXCodecID_PCM16;
 
-// Bounds in pixels and bits per second. H.264 for upload: the upper ends of support.google.com/youtube,
-// answer 1722171, at up to 60 frames per second; VP9: 150 % of the targets at 60 frames per second of
-// developers.google.com/media/vp9/settings/vod. Devices: the bitrates of H.264 levels 3.1, 4 and 5.1, and of
-// HEVC level 5.1, main tier, which players of the kind take.
+// H.264 for upload: the upper ends of support.google.com/youtube, answer 1722171, at up to 60 frames per
+// second. VP9: 150 % of the targets at 60 frames per second of developers.google.com/media/vp9/settings/vod.
+// Devices: the bitrates of H.264 levels 3.1 and 4 and of HEVC level 5.1, main tier, which players of the kind
+// take.
 constexpr std::array kPresets{
-    PresetRow{"General",
-              "Small Video 480p",
-              "For mail and messages",
-              "MP4",
-              kFaceMP4,
-              kH264,
-              kAAC,
-              {854, 480, 2'500'000, 128'000}},
-    PresetRow{"General",
-              "HD Video 720p",
-              "Plays nearly everywhere",
-              "MP4",
-              kFaceMP4,
-              kH264,
-              kAAC,
-              {1280, 720, 7'500'000, 192'000}},
-    PresetRow{"General",
-              "Full HD Video 1080p",
-              "Plays nearly everywhere",
-              "MP4",
-              kFaceMP4,
-              kH264,
-              kAAC,
-              {1920, 1080, 12'000'000, 256'000}},
-    PresetRow{"General",
-              "4K Video 2160p",
-              "For large screens",
-              "MP4",
-              kFaceMP4,
-              kHEVC,
-              kAAC,
-              {3840, 2160, 40'000'000, 384'000}},
-    PresetRow{"General", "Music", "Plays everywhere", "MP3", kFaceMP3, kNone, kMP3, {0, 0, -1, 320'000}},
-    PresetRow{"General", "Lossless Music", "Nothing is lost", "FLAC", kNoFace, kNone, kFLAC},
+    PresetRow{"General", "Small Video 480p", "For messages", kInMP4, kH264, kAAC, {854, 480, 2'500, 128}},
+    PresetRow{"General", "HD Video 720p", "Plays anywhere", kInMP4, kH264, kAAC, {1280, 720, 7'500, 192}},
+    PresetRow{
+        "General", "Full HD Video 1080p", "Plays anywhere", kInMP4, kH264, kAAC, {1920, 1080, 12'000, 256}},
+    PresetRow{
+        "General", "4K Video 2160p", "For large screens", kInMP4, kHEVC, kAAC, {3840, 2160, 40'000, 384}},
+    PresetRow{"General", "Music", "Plays anywhere", kInMP3, kNone, kMP3, {0, 0, 0, 320}},
+    PresetRow{"General", "Lossless Music", "Nothing is lost", kInFLAC, kNone, kFLAC},
 
-    PresetRow{"Video", "MP4", "H.264 and AAC", "MP4", kFaceMP4, kH264, kAAC},
-    PresetRow{"Video", "MOV", "H.264 and AAC", "MOV", kNoFace, kH264, kAAC},
-    PresetRow{"Video", "MKV", "HEVC and AAC", "MKV", kFaceMKV, kHEVC, kAAC},
-    PresetRow{"Video", "WEBM", "VP9 and Opus", "WEBM", kFaceWEBM, kVP9, kOpus},
-    PresetRow{"Video", "AVI", "MPEG-4 and MP3", "AVI", kFaceAVI, kMPEG4, kMP3},
-    PresetRow{"Video", "MPG", "MPEG-2 and MP2", "MPG", kNoFace, kMPEG2, kMP2},
+    PresetRow{"Video", "MP4", "H.264 and AAC", kInMP4, kH264, kAAC},
+    PresetRow{"Video", "MOV", "H.264 and AAC", kInMOV, kH264, kAAC},
+    PresetRow{"Video", "MKV", "HEVC and AAC", kInMKV, kHEVC, kAAC},
+    PresetRow{"Video", "WEBM", "VP9 and Opus", kInWEBM, kVP9, kOpus},
+    PresetRow{"Video", "AVI", "MPEG-4 and MP3", kInAVI, kMPEG4, kMP3},
+    PresetRow{"Video", "MPG", "MPEG-2 and MP2", kInMPG, kMPEG2, kMP2},
 
-    PresetRow{"Audio", "MP3", "Plays everywhere", "MP3", kFaceMP3, kNone, kMP3},
-    PresetRow{"Audio", "M4A", "AAC", "M4A", kFaceM4A, kNone, kAAC},
-    PresetRow{"Audio", "WAV", "Uncompressed", "WAV", kFaceWAV, kNone, kPCM16},
-    PresetRow{"Audio", "FLAC", "Compressed without loss", "FLAC", kNoFace, kNone, kFLAC},
-    PresetRow{"Audio", "OGG", "Vorbis", "OGG", kNoFace, kNone, kVorbis},
+    PresetRow{"Audio", "MP3", "Plays anywhere", kInMP3, kNone, kMP3},
+    PresetRow{"Audio", "M4A", "AAC", kInM4A, kNone, kAAC},
+    PresetRow{"Audio", "WAV", "Uncompressed", kInWAV, kNone, kPCM16},
+    PresetRow{"Audio", "FLAC", "Compressed without loss", kInFLAC, kNone, kFLAC},
+    PresetRow{"Audio", "OGG", "Vorbis", kInOGG, kNone, kVorbis},
 
-    PresetRow{"Devices",
-              "Phone",
-              "H.264 level 3.1",
-              "MP4",
-              kFaceMP4,
-              kH264,
-              kAAC,
-              {1280, 720, 14'000'000, 192'000}},
-    PresetRow{"Devices",
-              "Tablet",
-              "H.264 level 4",
-              "MP4",
-              kFaceMP4,
-              kH264,
-              kAAC,
-              {1920, 1080, 20'000'000, 256'000}},
-    PresetRow{"Devices",
-              "4K Television",
-              "HEVC level 5.1",
-              "MP4",
-              kFaceMP4,
-              kHEVC,
-              kAAC,
-              {3840, 2160, 40'000'000, 384'000}},
-    PresetRow{"Devices",
-              "DivX Player",
-              "Disc players of old",
-              "AVI",
-              kFaceAVI,
-              kDIVX,
-              kMP3,
-              {720, 576, 4'000'000, 192'000}},
+    PresetRow{"Devices", "Phone", "H.264 level 3.1", kInMP4, kH264, kAAC, {1280, 720, 14'000, 192}},
+    PresetRow{"Devices", "Tablet", "H.264 level 4", kInMP4, kH264, kAAC, {1920, 1080, 20'000, 256}},
+    PresetRow{"Devices", "4K Television", "HEVC level 5.1", kInMP4, kHEVC, kAAC, {3840, 2160, 40'000, 384}},
+    PresetRow{"Devices", "DivX Player", "Disc players of old", kInAVI, kDIVX, kMP3, {720, 576, 4'000, 192}},
 
-    PresetRow{"Web Video",
-              "Upload 720p",
-              "H.264 and AAC",
-              "MP4",
-              kFaceMP4,
-              kH264,
-              kAAC,
-              {1280, 720, 7'500'000, 384'000}},
-    PresetRow{"Web Video",
-              "Upload 1080p",
-              "H.264 and AAC",
-              "MP4",
-              kFaceMP4,
-              kH264,
-              kAAC,
-              {1920, 1080, 12'000'000, 384'000}},
-    PresetRow{"Web Video",
-              "Web Page 720p",
-              "VP9 and Opus",
-              "WEBM",
-              kFaceWEBM,
-              kVP9,
-              kOpus,
-              {1280, 720, 2'700'000, 128'000}},
-    PresetRow{"Web Video",
-              "Web Page 1080p",
-              "VP9 and Opus",
-              "WEBM",
-              kFaceWEBM,
-              kVP9,
-              kOpus,
-              {1920, 1080, 4'500'000, 128'000}},
+    PresetRow{"Web Video", "Upload 720p", "H.264 and AAC", kInMP4, kH264, kAAC, {1280, 720, 7'500, 384}},
+    PresetRow{"Web Video", "Upload 1080p", "H.264 and AAC", kInMP4, kH264, kAAC, {1920, 1080, 12'000, 384}},
+    PresetRow{"Web Video", "Web Page 720p", "VP9 and Opus", kInWEBM, kVP9, kOpus, {1280, 720, 2'700, 128}},
+    PresetRow{"Web Video", "Web Page 1080p", "VP9 and Opus", kInWEBM, kVP9, kOpus, {1920, 1080, 4'500, 128}},
 };
 
 /// Position of the codec's preset; where it is not offered, of the first real one.
@@ -221,20 +153,26 @@ int PositionOf(const Presets& presets, int codecID)
     return position;
 }
 
+int BitrateOf(int kilobits)
+{
+    constexpr int kNotGiven = -1;
+    return kilobits == 0 ? kNotGiven : kilobits * 1'000;
+}
+
 std::shared_ptr<IVXFormatPreset> PresetOf(const PresetRow& row)
 {
-    auto preset = IVXFormatPreset::MallocFormatPreset(std::string(row.format), {});
+    auto preset = IVXFormatPreset::MallocFormatPreset(std::string(row.container.name), {});
     if (!preset)
         return preset;
     preset->SetName(std::string(row.name));
     preset->SetDescription(std::string(row.description));
-    preset->SetFaceID(row.faceID);
+    preset->SetFaceID(row.container.faceID);
     preset->SetIndexForVideoCodecPresets(PositionOf(preset->VideoCodecPresets(), row.video));
     preset->SetIndexForAudioCodecPresets(PositionOf(preset->AudioCodecPresets(), row.audio));
     preset->SetMaxWidth(row.bounds.width);
     preset->SetMaxHeight(row.bounds.height);
-    preset->SetMaxVideoBitrate(row.bounds.videoBitrate);
-    preset->SetMaxAudioBitrate(row.bounds.audioBitrate);
+    preset->SetMaxVideoBitrate(BitrateOf(row.bounds.videoKilobits));
+    preset->SetMaxAudioBitrate(BitrateOf(row.bounds.audioKilobits));
     return preset;
 }
 

@@ -1,6 +1,6 @@
 #include "Documents.h"
 
-#include <filesystem>
+#include <array>
 
 namespace Vexlor::Apps
 {
@@ -31,16 +31,16 @@ TEST_P(BrokenDocument, IsToldOnOneLine)
     EXPECT_EQ(run.err.size() - 1, run.err.find('\n'));
 }
 
-constexpr BrokenCase kBroken[] = {
-    {"Value", "{\n  \"name\": tru\n}", ":2:11: "},
-    {"MissingComma", "{\n  \"name\": \"a\"\n  \"faceID\": 1\n}", ":3:3: "},
-    {"Unfinished", "{\"name\": \"a\"", ":1:13: "},
-    {"NoText", "", ":1:1: "},
-    {"Array", "[]", ": is not a JSON object\n"},
-    {"FullArray", R"([{"formatPresetList": [{"name": "a"}]}])", ": is not a JSON object\n"},
-    {"Number", "42", ": is not a JSON object\n"},
-    {"NoMembers", "{}", ": holds no format preset\n"},
-    {"NoPresets", R"({"childList": [{"name": "Video"}]})", ": holds no format preset\n"},
+constexpr std::array kBroken{
+    BrokenCase{"Value", "{\n  \"name\": tru\n}", ":2:11: "},
+    BrokenCase{"MissingComma", "{\n  \"name\": \"a\"\n  \"faceID\": 1\n}", ":3:3: "},
+    BrokenCase{"Unfinished", R"({"name": "a")", ":1:13: "},
+    BrokenCase{"NoText", "", ":1:1: "},
+    BrokenCase{"Array", "[]", ": is not a JSON object\n"},
+    BrokenCase{"FullArray", R"([{"formatPresetList": [{"name": "a"}]}])", ": is not a JSON object\n"},
+    BrokenCase{"Number", "42", ": is not a JSON object\n"},
+    BrokenCase{"NoMembers", "{}", ": holds no format preset\n"},
+    BrokenCase{"NoPresets", R"({"childList": [{"name": "Video"}]})", ": holds no format preset\n"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Documents, BrokenDocument, testing::ValuesIn(kBroken),
@@ -75,6 +75,15 @@ TEST(Document, DirectoryIsTold)
 }
 
 TEST(Document, EmptyNameIsNotTheBuiltInTree) { EXPECT_EQ(1, RunTool({"tree", "--document", ""}).exitCode); }
+
+TEST(Document, WhatTheLibraryLogsOfItIsToldAsOneLine)
+{
+    const auto run = RunOn(R"({"formatPresetList": [{"name": "p", "formatName": "MP4", "maxVideoBitrate": 1,
+                               "minVideoBitrate": 2, "videoCodecPresets": [{"codecID": 1}]}]})",
+                           {"match", Media::Clip("silent.mp4"), "--preset", "p"});
+    EXPECT_EQ("vxpresets: IVXCodecPreset:MatchForQuality:(Error)maxbr <= minbr\n", run.err);
+    EXPECT_EQ(0, run.exitCode);
+}
 
 TEST(Document, NestedTooDeepIsAnErrorOfTheDocument)
 {

@@ -124,6 +124,7 @@ std::vector<std::string> EnvironmentOf(const ToolSetting& setting)
 std::vector<char*> Pointers(std::vector<std::string>& texts)
 {
     std::vector<char*> pointers;
+    pointers.reserve(texts.size() + 1);
     for (auto& text : texts)
         pointers.push_back(text.data());
     pointers.push_back(nullptr);

@@ -1,5 +1,7 @@
 #include "Documents.h"
 
+#include <array>
+
 namespace Vexlor::Apps
 {
 
@@ -110,16 +112,16 @@ TEST_P(PresetName, Finds)
     EXPECT_EQ(GetParam().found, run.out.substr(0, run.out.find('\n'))) << run.err;
 }
 
-constexpr NameCase kNames[] = {
-    {"WholePath", "Disc/CD", "Disc/CD"},
-    {"WholePathInOtherCase", "dISC/cd", "Disc/CD"},
-    {"NameAlone", "CD", "Disc/CD"},
-    {"PartOfTheNameBeforeOnesOfThePath", "isc/w", "Disc\\/Wide"},
-    {"PartOfThePath", "sc/c", "Disc/CD"},
-    {"PathBeforeASlashInAName", "Disc/Wide", "Disc/Wide"},
-    {"EscapedSlash", "Disc\\/Wide", "Disc\\/Wide"},
-    {"RightCaseBeforeOthers", "both", "Disc/both"},
-    {"CharactersBeyondASCII", "日", "Disc/日本"},
+constexpr std::array kNames{
+    NameCase{"WholePath", "Disc/CD", "Disc/CD"},
+    NameCase{"WholePathInOtherCase", "dISC/cd", "Disc/CD"},
+    NameCase{"NameAlone", "CD", "Disc/CD"},
+    NameCase{"PartOfTheNameBeforeOnesOfThePath", "isc/w", "Disc\\/Wide"},
+    NameCase{"PartOfThePath", "sc/c", "Disc/CD"},
+    NameCase{"PathBeforeASlashInAName", "Disc/Wide", "Disc/Wide"},
+    NameCase{"EscapedSlash", "Disc\\/Wide", "Disc\\/Wide"},
+    NameCase{"RightCaseBeforeOthers", "both", "Disc/both"},
+    NameCase{"CharactersBeyondASCII", "日", "Disc/日本"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Names, PresetName, testing::ValuesIn(kNames),

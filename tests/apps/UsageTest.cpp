@@ -1,5 +1,6 @@
 #include "RunTool.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace Vexlor::Apps
@@ -44,16 +45,21 @@ const std::vector<WrongCase> kWrong{
 INSTANTIATE_TEST_SUITE_P(Lines, WrongUsage, testing::ValuesIn(kWrong),
                          [](const auto& test) { return test.param.what; });
 
-TEST(Usage, HelpTellsTheExitCodes)
+class Help : public testing::TestWithParam<std::vector<std::string>>
 {
-    for (const auto& arguments : {std::vector<std::string>{"--help"}, {"match", "--help"}, {"-h"}})
-    {
-        const auto run = RunTool(arguments);
-        EXPECT_EQ(0, run.exitCode);
-        EXPECT_EQ("", run.err);
-        EXPECT_NE(std::string::npos, run.out.find("Exit codes: 0 done, 1 failed, 2 wrong usage."));
-    }
+};
+
+TEST_P(Help, TellsTheExitCodes)
+{
+    const auto run = RunTool(GetParam());
+    EXPECT_EQ(0, run.exitCode);
+    EXPECT_EQ("", run.err);
+    EXPECT_THAT(run.out, testing::HasSubstr("Exit codes: 0 done, 1 failed, 2 wrong usage."));
 }
+
+using Arguments = std::vector<std::string>;
+INSTANTIATE_TEST_SUITE_P(Usage, Help,
+                         testing::Values(Arguments{"--help"}, Arguments{"-h"}, Arguments{"match", "--help"}));
 
 TEST(Usage, HelpOfACommandIsItsOwn)
 {
@@ -63,15 +69,20 @@ TEST(Usage, HelpOfACommandIsItsOwn)
 
 TEST(Usage, VersionIsTold) { EXPECT_EQ("vxpresets " VX_VERSION "\n", RunTool({"--version"}).out); }
 
-TEST(Usage, AnOutputThatCannotBeWrittenIsAFailure)
+class FullOutput : public testing::TestWithParam<std::vector<std::string>>
 {
-    for (const auto& arguments : {std::vector<std::string>{"tree"}, {"tree", "--json"}, {"--help"}})
-    {
-        const auto run = RunTool(arguments, {.outputFile = "/dev/full"});
-        EXPECT_EQ(1, run.exitCode);
-        EXPECT_EQ("vxpresets: standard output: No space left on device\n", run.err);
-    }
+};
+
+TEST_P(FullOutput, IsAFailure)
+{
+    const auto run = RunTool(GetParam(), {.outputFile = "/dev/full"});
+    EXPECT_EQ(1, run.exitCode);
+    EXPECT_EQ("vxpresets: standard output: No space left on device\n", run.err);
 }
+
+INSTANTIATE_TEST_SUITE_P(Usage, FullOutput,
+                         testing::Values(Arguments{"tree"}, Arguments{"tree", "--json"},
+                                         Arguments{"--help"}));
 
 } // namespace
 
