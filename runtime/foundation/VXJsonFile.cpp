@@ -1,6 +1,7 @@
 #include "runtime/foundation/VXFile.h"
 #include "runtime/foundation/VXJson.h"
 #include "runtime/foundation/VXJsonDocument.h"
+#include "runtime/foundation/VXLargePages.h"
 
 #include <algorithm>
 #include <new>
@@ -13,30 +14,25 @@ namespace
 
 struct Content
 {
-    std::unique_ptr<char[]> bytes; // with the parser's padding behind them
+    std::string bytes; // those of the file and, behind them, room for the parser
     std::size_t size = 0;
 };
 
 constexpr std::size_t kMostBytes = simdjson::SIMDJSON_MAXSIZE_BYTES;
 
-std::unique_ptr<char[]> Padded(std::size_t size)
-{
-    return std::make_unique_for_overwrite<char[]>(size + simdjson::SIMDJSON_PADDING);
-}
-
 // Reads to the end, which is not where the size tells in a pipe. One byte beyond the most is a sign of more.
 std::error_code ReadToEnd(const VXFile& file, Content& content)
 {
     constexpr std::size_t kLeast = 4096;
-    std::size_t capacity = std::min<std::size_t>(file.Size() + 1, kMostBytes + 1);
     std::error_code fault;
-    for (capacity = std::max(capacity, kLeast);; capacity = std::min(2 * capacity, kMostBytes + 1))
+    std::size_t capacity = std::max<std::size_t>(file.Size() + 1, kLeast);
+    for (;; capacity = std::min(2 * capacity, kMostBytes + 1))
     {
-        auto larger = Padded(capacity);
-        std::copy_n(content.bytes.get(), content.size, larger.get());
-        content.bytes = std::move(larger);
+        content.bytes.reserve(capacity + simdjson::SIMDJSON_PADDING);
+        UseLargePages(content.bytes.data(), content.bytes.capacity());
+        content.bytes.resize(capacity + simdjson::SIMDJSON_PADDING);
         const std::size_t room = capacity - content.size;
-        const std::size_t count = file.ReadAt(content.size, content.bytes.get() + content.size, room, fault);
+        const std::size_t count = file.ReadAt(content.size, content.bytes.data() + content.size, room, fault);
         content.size += count;
         if (count < room || capacity > kMostBytes)
             return fault;
@@ -65,7 +61,7 @@ std::shared_ptr<const IVXJsonValue> Read(const std::string& path, std::string& f
         fault = path + ": " + reason;
         return {};
     }
-    auto value = ParsePadded({content.bytes.get(), content.size}, &fault);
+    auto value = ParsePadded({content.bytes.data(), content.size}, &fault);
     if (!value)
         fault.insert(0, path + ':');
     return value;

@@ -76,8 +76,8 @@ template <class Integer>
 Integer IntegerPart(double number)
 {
     // Both bounds are outside the range: -2^63 may stand for any literal that rounds to it.
-    constexpr double kLowest = static_cast<double>(std::numeric_limits<Integer>::min());
-    constexpr double kBelow = sizeof(Integer) < sizeof(std::int64_t) ? kLowest - 1 : kLowest;
+    constexpr auto kLowest = static_cast<double>(std::numeric_limits<Integer>::min());
+    constexpr auto kBelow = sizeof(Integer) < sizeof(std::int64_t) ? kLowest - 1 : kLowest;
     return number > kBelow && number < -kLowest ? static_cast<Integer>(number) : 0;
 }
 
