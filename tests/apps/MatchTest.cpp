@@ -224,8 +224,8 @@ void ExpectFailure(const std::string& media)
     const auto run = RunTool({"match", media, "--preset", "Video/MP4"});
     EXPECT_EQ(1, run.exitCode);
     EXPECT_EQ("", run.out);
-    EXPECT_THAT(run.err, testing::MatchesRegex(".*: .+\n"));
-    EXPECT_THAT(run.err, testing::StartsWith(media + ": "));
+    EXPECT_THAT(run.err,
+                testing::AllOf(testing::StartsWith(media + ": "), testing::MatchesRegex(".*: .+\n")));
 }
 
 TEST(MatchCommand, FailsOnAMissingFile) { ExpectFailure("/no/such/holiday.mov"); }
