@@ -5,6 +5,7 @@
 #include <climits>
 #include <clocale>
 #include <cmath>
+#include <locale>
 
 namespace Vexlor
 {
@@ -90,14 +91,18 @@ constexpr RateText kRateTexts[] = {
 INSTANTIATE_TEST_SUITE_P(Rates, FramerateText, testing::ValuesIn(kRateTexts),
                          [](const auto& test) { return test.param.name; });
 
+struct DecimalComma : std::numpunct<char>
+{
+    char do_decimal_point() const override { return ','; }
+};
+
 TEST(Rational, TextHasADecimalPointInEveryLocale)
 {
-    const std::string before = std::setlocale(LC_ALL, nullptr);
-    const bool comma = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
+    const std::locale german(std::locale::classic(), new DecimalComma); // the locale owns its facet
+    const auto before = std::locale::global(german);
+    std::setlocale(LC_NUMERIC, "de_DE.UTF-8"); // where it is installed, for C's functions, too
     const auto text = IVXRational::MallocRational(30000, 1001)->FormatAsFramerate();
-    std::setlocale(LC_ALL, before.c_str());
-    if (!comma)
-        GTEST_SKIP() << "no locale with a decimal comma here";
+    std::locale::global(before);
     EXPECT_EQ("29.97 fps", text);
 }
 
