@@ -35,15 +35,6 @@ std::string ChannelLayouts()
     return Shown(IVXCodecPreset::DefaultChannelLayouts(kCodec), &IVXChannelLayoutPreset::FormatLayout);
 }
 
-template <class List>
-std::string Document(const List& list)
-{
-    std::string text;
-    for (const auto& entry : list)
-        text += Text(entry->JsonValue());
-    return text;
-}
-
 class CodecDefaults : public testing::Test
 {
 protected:
@@ -225,31 +216,31 @@ TEST_F(CodecDefaults, ProfilesStandBehindUnknown)
     m_codec.profiles = {{100, "High"}, {66, "Baseline"}};
     EXPECT_EQ(R"({"profile":-99,"name":"Unknown"}{"profile":100,"name":"High"})"
               R"({"profile":66,"name":"Baseline"})",
-              Document(IVXCodecPreset::DefaultProfiles(kCodec)));
+              Written(IVXCodecPreset::DefaultProfiles(kCodec)));
 }
 
 TEST_F(CodecDefaults, WithoutProfilesThereIsUnknownAlone)
 {
-    EXPECT_EQ(R"({"profile":-99,"name":"Unknown"})", Document(IVXCodecPreset::DefaultProfiles(kCodec)));
+    EXPECT_EQ(R"({"profile":-99,"name":"Unknown"})", Written(IVXCodecPreset::DefaultProfiles(kCodec)));
 }
 
 TEST_F(CodecDefaults, LevelsStandBehindUnknown)
 {
     m_codec.levels = {{41, "4.1"}};
     EXPECT_EQ(R"({"level":-99,"name":"Unknown"}{"level":41,"name":"4.1"})",
-              Document(IVXCodecPreset::DefaultLevels(kCodec)));
+              Written(IVXCodecPreset::DefaultLevels(kCodec)));
 }
 
 TEST_F(CodecDefaults, WithoutLevelsThereIsUnknownAlone)
 {
-    EXPECT_EQ(R"({"level":-99,"name":"Unknown"})", Document(IVXCodecPreset::DefaultLevels(kCodec)));
+    EXPECT_EQ(R"({"level":-99,"name":"Unknown"})", Written(IVXCodecPreset::DefaultLevels(kCodec)));
 }
 
 TEST_F(CodecDefaults, FormatsOfAVideoCodecArePixelFormats)
 {
     m_codec.formats = {0, 5};
     EXPECT_EQ(R"({"isAudio":false,"format":-1}{"isAudio":false,"format":0}{"isAudio":false,"format":5})",
-              Document(IVXCodecPreset::DefaultSampleFmt(kCodec)));
+              Written(IVXCodecPreset::DefaultSampleFmt(kCodec)));
 }
 
 TEST_F(CodecDefaults, FormatsOfAnAudioCodecAreSampleFormatsBehindNoPixelFormat)
@@ -273,7 +264,7 @@ TEST_F(CodecDefaults, TheAutoFormatOfAnAudioCodecIsAudioToo)
 TEST_F(CodecDefaults, ASingleFormatGetsNoAutoEntry)
 {
     m_codec.formats = {5};
-    EXPECT_EQ(R"({"isAudio":false,"format":5})", Document(IVXCodecPreset::DefaultSampleFmt(kCodec)));
+    EXPECT_EQ(R"({"isAudio":false,"format":5})", Written(IVXCodecPreset::DefaultSampleFmt(kCodec)));
 }
 
 TEST_F(CodecDefaults, WithoutFormatsThereAreNone)

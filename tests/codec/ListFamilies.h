@@ -11,6 +11,7 @@
 #include "IVXSampleFmtPreset.h"
 #include "IVXSampleratePreset.h"
 
+#include "tests/platform/ScriptedJson.h"
 #include "tests/platform/Slots.h"
 
 #include <memory>
@@ -195,6 +196,16 @@ std::string Shown(const List& list, Show show)
     std::string text;
     for (const auto& entry : list)
         text += (text.empty() ? "" : ", ") + ((*entry).*show)();
+    return text;
+}
+
+/// The written form of each entry, one behind the other.
+template <class List>
+std::string Written(const List& list)
+{
+    std::string text;
+    for (const auto& entry : list)
+        text += Text(entry->JsonValue());
     return text;
 }
 
