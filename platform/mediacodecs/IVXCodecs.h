@@ -61,7 +61,7 @@ public:
     /// taken.
     virtual std::vector<std::pair<int, int>> SupportedResolutions(const std::string& option) const = 0;
 
-    /// The lowest frame rate, a new object; the invalid rational for audio, as for the highest.
+    /// The lowest frame rate, a new object; 0/1 for audio, as for the highest.
     virtual std::shared_ptr<IVXRational> MinFrameRate(const std::string& option) const = 0;
     /// The highest frame rate, a new object.
     virtual std::shared_ptr<IVXRational> MaxFrameRate(const std::string& option) const = 0;

@@ -120,14 +120,15 @@ std::vector<std::pair<int, int>> VXCodecs::SupportedResolutions(const std::strin
     return sizes;
 }
 
+// Sound has the limits 0 to 0, which no frame rate lies within, so that none is offered for it.
 std::shared_ptr<IVXRational> VXCodecs::MinFrameRate(const std::string& /*option*/) const
 {
-    return IsVideo() ? ToRational(Limits().minRate) : IVXRational::MallocRational();
+    return IsVideo() ? ToRational(Limits().minRate) : IVXRational::MallocRational(0, 1);
 }
 
 std::shared_ptr<IVXRational> VXCodecs::MaxFrameRate(const std::string& /*option*/) const
 {
-    return IsVideo() ? ToRational(Limits().maxRate) : IVXRational::MallocRational();
+    return IsVideo() ? ToRational(Limits().maxRate) : IVXRational::MallocRational(0, 1);
 }
 
 std::vector<std::shared_ptr<IVXRational>> VXCodecs::SupportedFrameRates(const std::string& /*option*/) const

@@ -88,8 +88,8 @@ TEST(Codecs, OfSoundHaveNoPicture)
     const auto aac = Encoder(VXCodecID_AAC);
     EXPECT_EQ(VXCodecTypeAudio, aac->GetCodecType());
     EXPECT_EQ(0, aac->MinWidth("") + aac->MaxWidth("") + aac->MinHeight("") + aac->MaxHeight(""));
-    EXPECT_FALSE(aac->MinFrameRate("")->IsValid());
-    EXPECT_FALSE(aac->MaxFrameRate("")->IsValid());
+    EXPECT_EQ(0, aac->MinFrameRate("")->GetDoubleValue());
+    EXPECT_EQ(0, aac->MaxFrameRate("")->GetDoubleValue());
     EXPECT_FALSE(aac->BestFrameRateForInput(k30, "")->IsValid());
     EXPECT_THAT(aac->BestResolutionFor(1920, 1080, ""), Pair(0, 0));
 }
