@@ -18,7 +18,7 @@ namespace
 class AtomicFile : public testing::Test
 {
 protected:
-    std::string Fault(const std::string& path, std::string_view text = "new")
+    static std::string Fault(const std::string& path, std::string_view text = "new")
     {
         std::string error = "nothing told";
         EXPECT_FALSE(WriteFileAtomically(path, text, &error));

@@ -6,6 +6,7 @@
 
 #include <cstdio>
 #include <random>
+#include <vector>
 
 namespace Vexlor
 {
@@ -22,7 +23,7 @@ struct ErrorCase
     std::string_view error;
 };
 
-constexpr ErrorCase kErrors[] = {
+const std::vector<ErrorCase> kErrors = {
     {"Empty", "", "1:1: the document is empty"},
     {"BlanksOnly", " \n\t ", "2:3: the document is empty"},
     {"OrderMarkOnly", "\xEF\xBB\xBF", "1:1: the document is empty"},
@@ -32,7 +33,7 @@ constexpr ErrorCase kErrors[] = {
     {"NulBehind", "[1]\0"sv, "1:4: more text behind the end of the document"},
     {"MissingComma", "{\n  \"a\": 1\n  \"b\": 2\n}", "3:3: missing comma or closing brace"},
     {"MissingCommaInArray", "[1 2]", "1:4: missing comma or closing bracket"},
-    {"MissingColon", "{\"a\" 1}", "1:6: missing colon behind a member name"},
+    {"MissingColon", R"({"a" 1})", "1:6: missing colon behind a member name"},
     {"MissingName", "{1: 2}", "1:2: missing member name"},
     {"TrailingComma", "{\"a\": 1,\n}", "2:1: missing member name"},
     {"TrailingCommaInArray", "[1,\n]", "2:1: no JSON value"},
@@ -40,7 +41,7 @@ constexpr ErrorCase kErrors[] = {
     {"OpenObject", "{\"a\": 1", "1:8: unexpected end of the document"},
     {"OpenArray", "[1,", "1:4: unexpected end of the document"},
     {"OpenString", "\"abc", "1:5: missing closing quote"},
-    {"OpenStringInObject", "{\"a\": \"b}", "1:10: missing closing quote"},
+    {"OpenStringInObject", R"({"a": "b})", "1:10: missing closing quote"},
     {"UnknownWord", "{\"a\": nul}", "1:7: no JSON value"},
     {"Undefined", "undefined", "1:1: no JSON value"},
     {"NotANumber", "[NaN]", "1:2: no JSON value"},
@@ -52,14 +53,14 @@ constexpr ErrorCase kErrors[] = {
     {"NoExponent", "[1e]", "1:4: missing digits of the exponent"},
     {"NumberTooLarge", "[1,\n 1e999]", "2:2: number too large"},
     {"NegativeNumberTooLarge", "[-1e309]", "1:2: number too large"},
-    {"UnknownEscape", "\"a\\x\"", "1:3: unknown escape sequence"},
-    {"ShortEscape", "\"\\u12\"", "1:2: \\u without four hexadecimal digits"},
+    {"UnknownEscape", R"("a\x")", "1:3: unknown escape sequence"},
+    {"ShortEscape", R"("\u12")", "1:2: \\u without four hexadecimal digits"},
     {"LineEndInString", "\"a\nb\"", "1:3: control character in a string"},
     {"NulInString", "\"a\0b\""sv, "1:3: control character in a string"},
-    {"HighSurrogateAlone", "\"ab\\ud83d\"", "1:4: unpaired surrogate"},
-    {"HighSurrogateTwice", "\"\\ud83d\\ud83d\"", "1:2: unpaired surrogate"},
+    {"HighSurrogateAlone", R"("ab\ud83d")", "1:4: unpaired surrogate"},
+    {"HighSurrogateTwice", R"("\ud83d\ud83d")", "1:2: unpaired surrogate"},
     {"LowSurrogateAlone", "[\"\\\\\\ud83d\\ude00\",\n\"x\\udc00\"]", "2:3: unpaired surrogate"},
-    {"LowSurrogateBesideLongInteger", "[123456789012345678901, \"\\udc00\"]", "1:26: unpaired surrogate"},
+    {"LowSurrogateBesideLongInteger", R"([123456789012345678901, "\udc00"])", "1:26: unpaired surrogate"},
     {"NotUtf8", "[\"\xFF\"]", "1:3: not valid UTF-8"},
     {"CutUtf8", "\"\xE6\xBC\"", "1:2: not valid UTF-8"},
     {"OverlongUtf8", "\"\xC0\x80\"", "1:2: not valid UTF-8"},
@@ -86,7 +87,19 @@ bool HasPlaceAndReason(const std::string& error)
     int line = 0;
     int column = 0;
     char letter = 0;
-    return std::sscanf(error.c_str(), "%d:%d: %c", &line, &column, &letter) == 3 && line > 0 && column > 0;
+    const bool hasAll = std::sscanf(error.c_str(), "%d:%d: %c", &line, &column, &letter) == 3;
+    return hasAll && line > 0 && column > 0 && error.find("not valid JSON") == std::string::npos;
+}
+
+// A document with up to three bytes changed.
+std::string Broken(std::mt19937& random)
+{
+    constexpr std::string_view kBytes = "{}[]\":,\\u0dxe-+. \n\x01\xFF\x80";
+    std::string text =
+        R"({"a": [1, -2.5e3, 12345678901234567890123, "x\u00e9\ud83d\ude00漢"], "b": {"c": null}})";
+    for (auto changes = 1 + random() % 3; changes > 0; --changes)
+        text[random() % text.size()] = kBytes[random() % kBytes.size()];
+    return text;
 }
 
 } // namespace
@@ -108,22 +121,16 @@ TEST(JsonErrors, ErrorIsLeftAloneAfterASuccess)
 // Whatever the parser refuses, the slow reading finds a reason of its own for.
 TEST(JsonErrors, EveryBrokenTextHasAPlaceAndAReason)
 {
-    const std::string whole =
-        R"({"a": [1, -2.5e3, 12345678901234567890123, "x\u00e9\ud83d\ude00漢"], "b": {"c": null}})";
-    constexpr std::string_view kBytes = "{}[]\":,\\u0dxe-+. \n\x01\xFF\x80";
     std::mt19937 random(1); // the same texts at every run
     int refused = 0;
     for (int round = 0; round < 5000; ++round)
     {
-        std::string text = whole;
-        for (auto changes = 1 + random() % 3; changes > 0; --changes)
-            text[random() % text.size()] = kBytes[random() % kBytes.size()];
+        const std::string text = Broken(random);
         std::string error;
         if (ParseJson(text, &error))
             continue;
         ++refused;
-        EXPECT_TRUE(HasPlaceAndReason(error)) << text << '\n' << error;
-        EXPECT_EQ(std::string::npos, error.find("not valid JSON")) << text << '\n' << error;
+        ASSERT_TRUE(HasPlaceAndReason(error)) << text << '\n' << error;
     }
     EXPECT_GT(refused, 1000);
 }

@@ -19,7 +19,7 @@ namespace
 class JsonFile : public testing::Test
 {
 protected:
-    std::string Fault(const std::string& path)
+    static std::string Fault(const std::string& path)
     {
         std::string error;
         EXPECT_FALSE(ReadJsonFile(path, &error));

@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
+#include <vector>
 
 namespace Vexlor
 {
@@ -59,7 +61,7 @@ struct Origin
     Value (*make)();
 };
 
-constexpr Origin kOrigins[] = {{"Parsed", Parsed}, {"Built", Built}};
+const std::vector<Origin> kOrigins = {{"Parsed", Parsed}, {"Built", Built}};
 
 class JsonValue : public testing::TestWithParam<Origin>
 {
@@ -196,9 +198,9 @@ TEST_P(JsonValue, ValuesThatAreNoObjectHaveNoMembers)
     for (const auto* name : {"text", "int", "list", "null", "absent"})
     {
         const auto value = (*m_value)[name];
-        EXPECT_FALSE(value->HasKey("n")) << name;
-        EXPECT_EQ(0, value->GetValueInt("n")) << name;
-        EXPECT_EQ(0, value->GetValueArray("n")->Size()) << name;
+        EXPECT_EQ(std::tuple(false, 0, 0),
+                  std::tuple(value->HasKey("n"), value->GetValueInt("n"), value->GetValueArray("n")->Size()))
+            << name;
         EXPECT_TRUE(IsNull((*value)["n"])) << name;
     }
 }
@@ -218,7 +220,7 @@ struct NumberCase
 
 constexpr std::int64_t kLeast64 = std::numeric_limits<std::int64_t>::min();
 
-constexpr NumberCase kNumbers[] = {
+const std::vector<NumberCase> kNumbers = {
     {"Fraction", "2.9", 2, 2},
     {"NegativeFraction", "-2.9", -2, -2},
     {"SmallFraction", "-0.5", 0, 0},
