@@ -132,14 +132,20 @@ TEST(SampleAspectPreset, AStoredRatioWaitsForTheCustomType)
     EXPECT_EQ("8/9", Text(preset->Ratio()));
 }
 
-TEST(SampleAspectPreset, SetRatioKeepsTheTypeAndCopiesTheRational)
+TEST(SampleAspectPreset, SetRatioCopiesTheRational)
 {
     const auto preset = Custom(1, 1);
     const std::shared_ptr<const IVXRational> ratio = IVXRational::MallocRational(8, 9);
     preset->SetRatio(ratio);
     EXPECT_EQ("8/9", Text(preset->Ratio()));
     EXPECT_NE(ratio, preset->Ratio());
-    EXPECT_EQ(Type(13), preset->AspectType());
+}
+
+TEST(SampleAspectPreset, SetRatioOfARationalKeepsTheType)
+{
+    const auto preset = Aspect::MallocSampleAspectPreset(Type(0));
+    preset->SetRatio(std::shared_ptr<const IVXRational>(IVXRational::MallocRational(8, 9)));
+    EXPECT_EQ(R"({"num":8,"den":9,"type":0})", Text(preset->JsonValue()));
 }
 
 TEST(SampleAspectPreset, AnEmptyRatioChangesNothing)
