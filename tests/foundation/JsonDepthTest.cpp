@@ -91,7 +91,7 @@ TEST(JsonDepth, TheDepthIsToldBeforeWhatFollows)
 
 TEST(JsonDepth, BreadthIsNoDepth)
 {
-    const auto value = ParseJson("[" + Times(kFar, "[[]],") + "[[]]]");
+    const auto value = ParseJson(Times(1, "[").append(Times(kFar, "[[]],")).append("[[]]]"));
     ASSERT_TRUE(value);
     EXPECT_EQ(static_cast<int>(kFar) + 1, value->Size());
 }
