@@ -25,6 +25,7 @@ CLI::App* Add(CLI::App& app, Request& request, const char* name, const char* hel
         {
             qInstallMessageHandler(Discard);
             request.command = command;
+            request.needsCatalogue = false;
         });
     return sub;
 }

@@ -33,18 +33,16 @@ std::string GroupText(const ArtworkFile& file, std::size_t position)
     return "group #" + std::to_string(position) + ", " + FaceText(file.table[position].faceID);
 }
 
-void CheckCount(const ArtworkFile& file, Findings& findings)
+bool CheckCount(const ArtworkFile& file, Findings& findings)
 {
-    if (file.statedGroups != file.table.size())
-        findings.push_back({true,
-                            {},
-                            "the head counts " + std::to_string(static_cast<int>(file.statedGroups)) +
-                                " groups, the table has " + std::to_string(file.table.size())});
-    if (file.table.size() > kMostArtworkEntries)
+    const auto stated = static_cast<int>(file.statedGroups);
+    const auto counts = "the head counts " + std::to_string(stated) + " groups, ";
+    if (stated < 0 || file.statedGroups > kMostArtworkEntries)
         findings.push_back(
-            {true,
-             {},
-             "more groups than the " + std::to_string(kMostArtworkEntries) + " that the table has room for"});
+            {true, {}, counts + "the table has room for " + std::to_string(kMostArtworkEntries)});
+    else if (file.statedGroups != file.table.size())
+        findings.push_back({true, {}, counts + "the table has " + std::to_string(file.table.size())});
+    return findings.empty();
 }
 
 void CheckIdentifiers(const ArtworkFile& file, Findings& findings)
@@ -140,7 +138,8 @@ void CheckGroup(const ArtworkFile& file, std::size_t position, Findings& finding
 std::vector<ArtworkFinding> FindingsOf(const ArtworkFile& file)
 {
     Findings findings;
-    CheckCount(file, findings);
+    if (!CheckCount(file, findings))
+        return findings; // most of what was read as the table is something else
     CheckIdentifiers(file, findings);
     for (std::size_t i = 0; i < file.table.size(); ++i)
         CheckPlace(file, i, findings);

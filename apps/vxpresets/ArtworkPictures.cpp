@@ -71,6 +71,7 @@ int FormatOf(const QByteArray& bytes)
 {
     auto copy = bytes;
     QBuffer buffer(&copy);
+    buffer.open(QIODevice::ReadOnly);
     const auto name = QImageReader::imageFormat(&buffer).toStdString();
     const auto* const row = std::ranges::find(kFormats, name, &FormatRow::decoder);
     return row != kFormats.end() ? row->format : IVXArtworkImage::ArtworkImageFormatUnknown;

@@ -25,6 +25,7 @@ struct Request
     std::string media;
     std::optional<std::string> codec;
     ArtworkRequest artwork = {};
+    bool needsCatalogue = true; ///< the command gets an empty one otherwise
 };
 
 /// The tree with the number of presets in each category, or the preset document.

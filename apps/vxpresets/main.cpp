@@ -37,7 +37,7 @@ std::string Answer(int argc, const char* const* argv)
     const auto line = ReadCommandLine(argc, argv);
     if (!line.text.empty())
         return line.text;
-    const auto catalogue = LoadCatalogue(line.request.document);
+    const auto catalogue = line.request.needsCatalogue ? LoadCatalogue(line.request.document) : Catalogue();
     return line.request.command(line.request, catalogue, StyleOfStandardOutput());
 }
 

@@ -1,7 +1,11 @@
 #include "tests/apps/ArtworkFiles.h"
 
+#include "tests/foundation/TestFolder.h"
+
 #include <QBuffer>
 #include <QImage>
+
+#include <algorithm>
 
 namespace Vexlor::Apps
 {
@@ -82,6 +86,16 @@ std::string FileOf(const std::vector<std::pair<int, std::string>>& groups)
         bytes += group;
     }
     return File(table, bytes);
+}
+
+testing::AssertionResult Holds(const std::string& path, const std::string& bytes)
+{
+    const auto content = ContentOf(path);
+    if (content == bytes)
+        return testing::AssertionSuccess();
+    const auto [there, wanted] = std::ranges::mismatch(content, bytes);
+    return testing::AssertionFailure() << path << " has " << content.size() << " bytes, not " << bytes.size()
+                                       << "; the first other one is at " << there - content.begin();
 }
 
 } // namespace Vexlor::Apps

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -36,5 +38,8 @@ struct Entry
 std::string File(const std::vector<Entry>& table, const std::string& groups, std::optional<int> count = {});
 /// An artwork file of those groups, one right behind the other.
 std::string FileOf(const std::vector<std::pair<int, std::string>>& groups);
+
+/// Whether the file of that path holds just these bytes; if not, where they differ.
+testing::AssertionResult Holds(const std::string& path, const std::string& bytes);
 
 } // namespace Vexlor::Apps

@@ -102,7 +102,7 @@ TEST_F(ArtworkTool, AddMakesTheFile)
 {
     const auto added = Run("add", {"20000000", "--picture", "0:normal=" + png});
     EXPECT_EQ(file + ": added group 20000000 (FormatFaceIDMP4)\n", added.out);
-    EXPECT_EQ(FileOf({{20000000, kOne}}), ContentOf(file));
+    EXPECT_TRUE(Holds(file, FileOf({{20000000, kOne}})));
 }
 
 TEST_F(ArtworkTool, AddTakesANameForTheIdentifier)
@@ -125,7 +125,7 @@ TEST_F(ArtworkTool, AddOfATakenIdentifierFails)
     const auto added = Run("add", {"5", "--picture", "0:normal=" + png});
     EXPECT_EQ(1, added.exitCode);
     EXPECT_EQ(file + ": group 5 is there; replace it\n", added.err);
-    EXPECT_EQ(before, ContentOf(file));
+    EXPECT_TRUE(Holds(file, before));
 }
 
 TEST_F(ArtworkTool, The1600thGroupIsRefused)
@@ -137,7 +137,7 @@ TEST_F(ArtworkTool, The1600thGroupIsRefused)
     WithContent(file, before);
     const auto added = Run("add", {"--picture", "0:normal=" + png});
     EXPECT_EQ(file + ": not changed: an artwork file holds at most 1599 groups\n", added.err);
-    EXPECT_EQ(before, ContentOf(file));
+    EXPECT_TRUE(Holds(file, before));
 }
 
 TEST_F(ArtworkTool, FromADrawingEverySizeAndModeIsMade)
@@ -202,7 +202,7 @@ TEST_F(ArtworkTool, ReplaceKeepsIdentifierAndPosition)
 {
     WithContent(file, FileOf({{1, Group({})}, {2, Group({})}, {3, Group({})}}));
     EXPECT_EQ(file + ": replaced group 2\n", Run("replace", {"2", "--picture", "0:normal=" + png}).out);
-    EXPECT_EQ(FileOf({{1, Group({})}, {2, kOne}, {3, Group({})}}), ContentOf(file));
+    EXPECT_TRUE(Holds(file, FileOf({{1, Group({})}, {2, kOne}, {3, Group({})}})));
 }
 
 TEST_F(ArtworkTool, ReplaceOfNothingFails)
@@ -235,7 +235,7 @@ TEST_F(ArtworkTool, RemoveOfOneOfTwoOfAnIdentifierTakesTheFirst)
 {
     WithContent(file, FileOf({{7, kOne}, {7, Group({})}}));
     Run("remove", {"7"});
-    EXPECT_EQ(FileOf({{7, Group({})}}), ContentOf(file));
+    EXPECT_TRUE(Holds(file, FileOf({{7, Group({})}})));
 }
 
 TEST_F(ArtworkTool, CompactLeavesOutWhatNoGroupUses)
@@ -244,7 +244,7 @@ TEST_F(ArtworkTool, CompactLeavesOutWhatNoGroupUses)
     WithContent(file, File({{2, 51200 + 1000 + one, one}, {1, 51200 + 500, one}},
                            std::string(500, 'x') + kOne + std::string(500, 'x') + kOne + "tail"));
     EXPECT_EQ(file + ": 52390 bytes before, 51386 after\n", Run("compact").out);
-    EXPECT_EQ(FileOf({{2, kOne}, {1, kOne}}), ContentOf(file));
+    EXPECT_TRUE(Holds(file, FileOf({{2, kOne}, {1, kOne}})));
 }
 
 TEST_F(ArtworkTool, CompactKeepsBytesThatItDoesNotUnderstand)
@@ -252,7 +252,7 @@ TEST_F(ArtworkTool, CompactKeepsBytesThatItDoesNotUnderstand)
     const auto before = FileOf({{1, "no group at all"}, {2, Group({{99, "unknown"}}, 5)}});
     WithContent(file, before);
     EXPECT_EQ(0, Run("compact").exitCode);
-    EXPECT_EQ(before, ContentOf(file));
+    EXPECT_TRUE(Holds(file, before));
 }
 
 TEST_F(ArtworkTool, ExtractNamesPicturesByGroupVariantAndMode)
