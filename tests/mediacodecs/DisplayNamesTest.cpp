@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <climits>
 #include <limits>
 
@@ -83,7 +84,7 @@ TEST_P(HighDefinition, FillsAScreenOfItsShape)
     EXPECT_NEAR(shape, shown, 1e-12);
 }
 
-constexpr Screen kScreens[] = {
+constexpr auto kScreens = std::to_array<Screen>({
     {"PalInterlacedWide", TVStandNormPAL, TVAspectType16x9, VXMediaCodecDVHDSampleAspectRatio, 1440, 1080},
     {"PalInterlacedNarrow", TVStandNormPAL, TVAspectType4x3, VXMediaCodecDVHDSampleAspectRatio, 1440, 1080},
     {"NtscInterlacedWide", TVStandNormNTSC, TVAspectType16x9, VXMediaCodecDVHDSampleAspectRatio, 1280, 1080},
@@ -95,7 +96,7 @@ constexpr Screen kScreens[] = {
      720},
     {"NtscProgressiveNarrow", TVStandNormNTSC, TVAspectType4x3, VXMediaCodecDVHD720PSampleAspectRatio, 960,
      720},
-};
+});
 INSTANTIATE_TEST_SUITE_P(Screens, HighDefinition, testing::ValuesIn(kScreens),
                          [](const auto& test) { return test.param.name; });
 

@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
+
 extern "C"
 {
 #include <libavformat/avformat.h>
@@ -105,7 +107,7 @@ TEST_P(NameOfAFile, FollowsDemuxerAndEnding)
     EXPECT_EQ(GetParam().format, NameOfFile(GetParam().demuxer, GetParam().path));
 }
 
-constexpr FileName kFileNames[] = {
+constexpr auto kFileNames = std::to_array<FileName>({
     {"Mp4", "mp4", "holiday.mp4", "MP4"},
     {"Mov", "mp4", "/clips/holiday.mov", "MOV"},
     {"Capitals", "mov", "HOLIDAY.MOV", "MOV"},
@@ -119,7 +121,7 @@ constexpr FileName kFileNames[] = {
     {"EmptyPath", "flac", "", "FLAC"},
     {"DotOnly", "ogg", ".", "OGG"},
     {"NotOurs", "aiff", "sound.aiff", ""},
-};
+});
 INSTANTIATE_TEST_SUITE_P(Files, NameOfAFile, testing::ValuesIn(kFileNames),
                          [](const auto& test) { return test.param.name; });
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <climits>
 #include <clocale>
 #include <cmath>
@@ -72,7 +73,7 @@ TEST_P(FramerateText, IsAsPeopleWriteIt)
     EXPECT_EQ(text, IVXRational::MallocRational(num, den)->FormatAsFramerate());
 }
 
-constexpr RateText kRateTexts[] = {
+constexpr auto kRateTexts = std::to_array<RateText>({
     {"Film", 24000, 1001, "23.976 fps"},
     {"Cinema", 24, 1, "24 fps"},
     {"Pal", 25, 1, "25 fps"},
@@ -87,7 +88,7 @@ constexpr RateText kRateTexts[] = {
     {"Invalid", 0, 0, "nan fps"},
     {"Infinite", 1, 0, "inf fps"},
     {"Largest", INT_MAX, 1, "2147483647 fps"},
-};
+});
 INSTANTIATE_TEST_SUITE_P(Rates, FramerateText, testing::ValuesIn(kRateTexts),
                          [](const auto& test) { return test.param.name; });
 
