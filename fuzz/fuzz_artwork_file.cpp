@@ -26,6 +26,7 @@ Manager Open() { return IVXArtworkImageMgr::MallocArtworkImageMgr("fuzz", nullpt
 std::vector<int> FaceIDs(const IVXArtworkImageMgr& manager)
 {
     std::vector<int> faceIDs;
+    faceIDs.reserve(static_cast<std::size_t>(manager.ArtworkImageGroupCount()));
     for (int i = 0; i < manager.ArtworkImageGroupCount(); ++i)
         faceIDs.push_back(manager.FaceIDAt(i));
     return faceIDs;

@@ -1,6 +1,7 @@
 #include "tests/artwork/ArtworkFixture.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdlib>
 #include <cstring>
@@ -67,6 +68,7 @@ namespace
 {
 
 constexpr int kMost = std::numeric_limits<int>::max();
+constexpr std::size_t kOneKiB = 1024;
 constexpr std::size_t kFree = 4096; // what a file of nothing may cost
 
 /// The most bytes in use at any time during the operation, beyond those in use before it.
@@ -87,7 +89,7 @@ TEST_F(ArtworkMemory, IsCounted)
 
 TEST_F(ArtworkMemory, ACountThatLiesCostsNoMoreThanTheFile)
 {
-    for (const std::size_t size : {15, 47, 1024, 51200, 1 << 20})
+    for (const auto size : std::array<std::size_t, 5>{15, 47, 1024, 51200, 1 << 20})
     {
         FileBytes() = Head(kMost, {});
         FileBytes().resize(size);
@@ -101,9 +103,9 @@ TEST_F(ArtworkMemory, ACountThatLiesCostsNoMoreThanTheFile)
 TEST_F(ArtworkMemory, ASizeThatLiesCostsNoMoreThanTheFile)
 {
     FileBytes() = Head(1, {Entry(7, 47, 0xFFFFFFFFU)});
-    FileBytes().resize(1024);
+    FileBytes().resize(kOneKiB);
     const auto manager = Open();
-    EXPECT_LE(MostBytesOf([&] { manager->GetArtworkImageGroup(0); }), 4 * 1024 + kFree);
+    EXPECT_LE(MostBytesOf([&] { manager->GetArtworkImageGroup(0); }), kOneKiB * 4 + kFree);
 }
 
 TEST_F(ArtworkMemory, ALengthThatLiesCostsNoMoreThanTheBlob)
@@ -112,7 +114,7 @@ TEST_F(ArtworkMemory, ALengthThatLiesCostsNoMoreThanTheBlob)
         FileOf({{7, Joined({{'I', 'G', 0}, Little(kMost), Little(0), Little(0xFFFFFFF0U), Bytes(1000)})}});
     const auto manager = Open();
     EXPECT_LE(MostBytesOf([&] { EXPECT_TRUE(manager->GetArtworkImageGroup(0)->IsEmpty()); }),
-              4 * 1024 + kFree);
+              kOneKiB * 4 + kFree);
 }
 
 // A picture without bytes costs a file 8 bytes and memory a node, a picture and its handles.
@@ -120,7 +122,7 @@ TEST_F(ArtworkMemory, ManyPicturesWithoutBytesStayInProportion)
 {
     constexpr int kPictures = 100000;
     Bytes blob = Joined({{'I', 'G', 0}, Little(kMost)});
-    blob.reserve(7 + 8 * kPictures);
+    blob.reserve(7 + std::size_t{8} * kPictures);
     for (int key = 0; key < kPictures; ++key)
         for (const int number : {key, 0})
             for (const auto byte : Little(number))

@@ -110,6 +110,7 @@ std::string PictureOfGroup(int position) { return "picture " + std::to_string(po
 Bytes FileOfGroups(int count)
 {
     std::vector<std::pair<int, Bytes>> groups;
+    groups.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         groups.emplace_back(FaceIDOfGroup(i), BlobOf(PictureOfGroup(i)));
     return FileOf(groups);

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 #include <iostream>
 
@@ -99,12 +100,29 @@ protected:
         return m_file;
     }
 
+    void StopBetweenOperations()
+    {
+        const int operations = Whole().operations;
+        for (int k = 0; k <= operations; ++k)
+            Stop(k, 0);
+    }
+
+    void StopInsideWrites()
+    {
+        for (const auto& write : Whole().writes)
+            for (std::size_t at = 1; at < write.size; ++at)
+                Stop(write.operation, at);
+    }
+
     void Report(const char* where)
     {
-        const std::pair<const char*, int> counts[] = {
-            {"stops", m_account.stops},   {"files", m_account.files}, {"others", m_account.others},
-            {"before", m_account.before}, {"after", m_account.after}, {"torn", m_account.torn},
-            {"lost", m_account.lost}};
+        const std::array<std::pair<const char*, int>, 7> counts{{{"stops", m_account.stops},
+                                                                 {"files", m_account.files},
+                                                                 {"others", m_account.others},
+                                                                 {"before", m_account.before},
+                                                                 {"after", m_account.after},
+                                                                 {"torn", m_account.torn},
+                                                                 {"lost", m_account.lost}}};
         std::cout << GetParam().name << ", " << where << ":";
         for (const auto& [name, count] : counts)
         {
@@ -145,7 +163,7 @@ private:
         return TextOf(manager.GetArtworkImageGroupByID(m_newFaceID)) == "0.0=" + kNew;
     }
 
-    bool IsAsBefore(const Mgr& manager) const
+    static bool IsAsBefore(const Mgr& manager)
     {
         const bool had = GetParam().target < GetParam().groups;
         return manager.ArtworkImageGroupCount() == GetParam().groups &&
@@ -165,10 +183,7 @@ private:
 
 TEST_P(ArtworkFault, BetweenAnyTwoOperationsLosesNoGroup)
 {
-    const int operations = Whole().operations;
-    for (int k = 0; k <= operations; ++k)
-        Stop(k, 0);
-    EXPECT_EQ(operations + 1, m_account.stops);
+    StopBetweenOperations();
     EXPECT_EQ(0, m_account.lost);
     EXPECT_EQ(0, m_account.torn);
     EXPECT_LE(1, m_account.before);
@@ -176,25 +191,25 @@ TEST_P(ArtworkFault, BetweenAnyTwoOperationsLosesNoGroup)
     Report("between operations");
 }
 
-constexpr Change kChanges[] = {
-    {"AddTo0", Kind::Add, 0, 0},
-    {"AddTo1", Kind::Add, 1, 1},
-    {"AddTo2", Kind::Add, 2, 2},
-    {"AddTo100", Kind::Add, 100, 100},
-    {"ReplaceMissingOf0", Kind::Replace, 0, 0},
-    {"ReplaceMissingOf100", Kind::Replace, 100, 100},
-    {"ReplaceIn1", Kind::Replace, 1, 0},
-    {"ReplaceFirstOf2", Kind::Replace, 2, 0},
-    {"ReplaceLastOf2", Kind::Replace, 2, 1},
-    {"ReplaceFirstOf100", Kind::Replace, 100, 0},
-    {"ReplaceMiddleOf100", Kind::Replace, 100, 50},
-    {"ReplaceLastOf100", Kind::Replace, 100, 99},
-    {"RemoveFrom1", Kind::Remove, 1, 0},
-    {"RemoveFirstOf2", Kind::Remove, 2, 0},
-    {"RemoveLastOf2", Kind::Remove, 2, 1},
-    {"RemoveFirstOf100", Kind::Remove, 100, 0},
-    {"RemoveMiddleOf100", Kind::Remove, 100, 50},
-    {"RemoveLastOf100", Kind::Remove, 100, 99},
+constexpr std::array kChanges{
+    Change{"AddTo0", Kind::Add, 0, 0},
+    Change{"AddTo1", Kind::Add, 1, 1},
+    Change{"AddTo2", Kind::Add, 2, 2},
+    Change{"AddTo100", Kind::Add, 100, 100},
+    Change{"ReplaceMissingOf0", Kind::Replace, 0, 0},
+    Change{"ReplaceMissingOf100", Kind::Replace, 100, 100},
+    Change{"ReplaceIn1", Kind::Replace, 1, 0},
+    Change{"ReplaceFirstOf2", Kind::Replace, 2, 0},
+    Change{"ReplaceLastOf2", Kind::Replace, 2, 1},
+    Change{"ReplaceFirstOf100", Kind::Replace, 100, 0},
+    Change{"ReplaceMiddleOf100", Kind::Replace, 100, 50},
+    Change{"ReplaceLastOf100", Kind::Replace, 100, 99},
+    Change{"RemoveFrom1", Kind::Remove, 1, 0},
+    Change{"RemoveFirstOf2", Kind::Remove, 2, 0},
+    Change{"RemoveLastOf2", Kind::Remove, 2, 1},
+    Change{"RemoveFirstOf100", Kind::Remove, 100, 0},
+    Change{"RemoveMiddleOf100", Kind::Remove, 100, 50},
+    Change{"RemoveLastOf100", Kind::Remove, 100, 99},
 };
 INSTANTIATE_TEST_SUITE_P(Changes, ArtworkFault, testing::ValuesIn(kChanges),
                          [](const auto& test) { return test.param.name; });
@@ -203,9 +218,7 @@ using ArtworkTear = ArtworkFault;
 
 TEST_P(ArtworkTear, InsideAnyWriteLosesNoOtherGroup)
 {
-    for (const auto& write : Whole().writes)
-        for (std::size_t at = 1; at < write.size; ++at)
-            Stop(write.operation, at);
+    StopInsideWrites();
     EXPECT_EQ(0, m_account.lost);
     EXPECT_LE(1, m_account.before);
     EXPECT_LE(1, m_account.after);
@@ -213,7 +226,7 @@ TEST_P(ArtworkTear, InsideAnyWriteLosesNoOtherGroup)
 }
 
 // Without the removals: their one write moves entries.
-INSTANTIATE_TEST_SUITE_P(Changes, ArtworkTear, testing::ValuesIn(kChanges, kChanges + 12),
+INSTANTIATE_TEST_SUITE_P(Changes, ArtworkTear, testing::ValuesIn(kChanges.begin(), kChanges.begin() + 12),
                          [](const auto& test) { return test.param.name; });
 
 /// What the layout cannot give, as docs/artwork-file.md says.
@@ -234,6 +247,14 @@ protected:
         m_file.tornAt = tornAt;
         change(*m_manager);
         m_file.stopsAfter = StoppingFile::kNever;
+    }
+
+    /// Adds groups until the last automatic identifier ends in that byte.
+    void UseUpFaceIDsTo(int lastByte) const
+    {
+        int faceID = 0;
+        while (faceID % 256 != lastByte)
+            faceID = m_manager->AddArtworkImageGroup(GroupOf("any"));
     }
 
     static constexpr int kAfterTheBlob = 3; // seek to the end, write the group, seek to the start
@@ -263,9 +284,7 @@ TEST_F(ArtworkLayout, ACountThatCarriesIsZeroInBetween)
 TEST_F(ArtworkLayout, AFaceIdentifierTornInsideMayBeAnotherGroups)
 {
     Open(FileOf({{0x0100, BlobOf("red")}, {0x01FF, BlobOf("blue")}}));
-    int faceID = 0;
-    while ((faceID & 0xFF) != 0xFE) // so that the next one ends in FF
-        faceID = m_manager->AddArtworkImageGroup(GroupOf("any"));
+    UseUpFaceIDsTo(0xFE); // so that the next one ends in FF
     TearHeadAt(kTableAt + 1, kAfterTheBlob,
                [](Mgr& manager) { manager.ReplaceArtworkImageGroup(GroupOf(kNew), 0x0100); });
     const auto manager = Reopened();

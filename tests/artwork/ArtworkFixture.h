@@ -14,11 +14,11 @@ namespace Vexlor
 class ArtworkFileTest : public testing::Test
 {
 protected:
-    std::shared_ptr<const IVXArtworkImageMgr> Open() const
+    static std::shared_ptr<const IVXArtworkImageMgr> Open()
     {
         return IVXArtworkImageMgr::MallocArtworkImageMgr("icons", nullptr);
     }
-    std::shared_ptr<IVXArtworkImageMgr> OpenMutable() const
+    static std::shared_ptr<IVXArtworkImageMgr> OpenMutable()
     {
         return IVXArtworkImageMgr::MallocArtworkImageMgrMutable("icons", nullptr);
     }
@@ -28,7 +28,7 @@ protected:
     std::string Log() const { return m_platform.Log(); }
 
     /// What the file holds as another manager sees it: "identifier:pictures" a group.
-    std::string Outline() const
+    static std::string Outline()
     {
         const auto manager = Open();
         std::string text;

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
 
 namespace Vexlor
@@ -105,10 +106,11 @@ TEST_P(ArtworkImageGroupKey, IsKeptWrittenAndReadBack)
     EXPECT_EQ("red", TextOf(*read->GetArtworkImage(variant, mode)));
 }
 
-constexpr KeyCase kKeys[] = {
-    {"NormalFirst", 0, 0, 0},     {"SelectedLast", 2, 3, 23}, {"NoVariantOfAnIcon", 3, 0, 30},
-    {"NoModeOfAnIcon", 1, 4, 14}, {"Negative", 0, -1, -1},    {"Greatest", 0, kMost, kMost},
-    {"Least", 0, kLeast, kLeast}, {"Wraps", kMost, 0, -10},
+constexpr std::array kKeys{
+    KeyCase{"NormalFirst", 0, 0, 0},        KeyCase{"SelectedLast", 2, 3, 23},
+    KeyCase{"NoVariantOfAnIcon", 3, 0, 30}, KeyCase{"NoModeOfAnIcon", 1, 4, 14},
+    KeyCase{"Negative", 0, -1, -1},         KeyCase{"Greatest", 0, kMost, kMost},
+    KeyCase{"Least", 0, kLeast, kLeast},    KeyCase{"Wraps", kMost, 0, -10},
 };
 INSTANTIATE_TEST_SUITE_P(Places, ArtworkImageGroupKey, testing::ValuesIn(kKeys),
                          [](const auto& test) { return test.param.name; });

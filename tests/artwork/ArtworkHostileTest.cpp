@@ -1,6 +1,7 @@
 #include "tests/artwork/ArtworkFixture.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 namespace Vexlor
@@ -35,14 +36,15 @@ TEST_P(ArtworkOffset, IsLoggedAndAnswersNothing)
               Log());
 }
 
-constexpr OffsetCase kOffsets[] = {
-    {"AtTheEnd", 1024, 1, "read Data Error(offset = 1024)!\n"},
-    {"BehindTheEnd", 51200, 81, "read Data Error(offset = 51200)!\n"},
-    {"OfSizeZero", 0, 0, "read Data Error(offset = 0)!\n"},
-    {"TheLastThatAFileCanHave", kTwoTo63 - 1, 4, "read Data Error(offset = -1)!\n"},
-    {"TwoToThe63", kTwoTo63, 4, "Seek File Error(offset = 0)!\n"},
-    {"BeyondTwoToThe63", kTwoTo63 + 51200, 4, "Seek File Error(offset = 51200)!\n"},
-    {"Greatest", std::numeric_limits<std::uint64_t>::max(), 0xFFFFFFFFU, "Seek File Error(offset = -1)!\n"},
+constexpr std::array kOffsets{
+    OffsetCase{"AtTheEnd", 1024, 1, "read Data Error(offset = 1024)!\n"},
+    OffsetCase{"BehindTheEnd", 51200, 81, "read Data Error(offset = 51200)!\n"},
+    OffsetCase{"OfSizeZero", 0, 0, "read Data Error(offset = 0)!\n"},
+    OffsetCase{"TheLastThatAFileCanHave", kTwoTo63 - 1, 4, "read Data Error(offset = -1)!\n"},
+    OffsetCase{"TwoToThe63", kTwoTo63, 4, "Seek File Error(offset = 0)!\n"},
+    OffsetCase{"BeyondTwoToThe63", kTwoTo63 + 51200, 4, "Seek File Error(offset = 51200)!\n"},
+    OffsetCase{"Greatest", std::numeric_limits<std::uint64_t>::max(), 0xFFFFFFFFU,
+               "Seek File Error(offset = -1)!\n"},
 };
 INSTANTIATE_TEST_SUITE_P(Outside, ArtworkOffset, testing::ValuesIn(kOffsets),
                          [](const auto& test) { return test.param.name; });
@@ -93,64 +95,79 @@ TEST_F(ArtworkHostile, AHeadAloneTakesNewGroupsBehindItsArea)
     EXPECT_EQ(blob, Slice(FileBytes(), 51200, FileBytes().size()));
 }
 
-/// How many of a file's groups lie whole inside its first size bytes, and are told there.
-int WholeGroups(const Bytes& file, std::size_t size, int groups)
-{
-    std::size_t end = kHeadArea;
-    int whole = 0;
-    for (int i = 0; i < groups; ++i)
-    {
-        end += BlobOf(PictureOfGroup(i)).size();
-        whole += size >= end ? 1 : 0;
-    }
-    return size == file.size() ? groups : whole;
-}
-
+/// What opening that many bytes of an artwork file logs.
 std::string LogOfAnOpening(std::size_t size)
 {
     return size > 0 && size < 11 ? "VXArtworkImageMgr->setupInfoTable Error:The data flag error\n" : "";
 }
 
-TEST_F(ArtworkHostile, CutAtAnyByteKeepsTheGroupsThatLieWholeInside)
+/// How many of a file's first size bytes' groups lie whole inside them.
+int WholeGroups(std::size_t size, int groups)
 {
-    const auto whole = FileOfGroups(3);
-    FileBytes() = whole;
-    for (std::size_t size = whole.size(); size-- > 0;)
-    {
-        FileBytes().pop_back();
-        ScriptedPlatform inner; // takes this cut's log alone
-        inner.File("icons").bytes.swap(FileBytes());
-        const auto manager = Open();
-        ASSERT_EQ(LogOfAnOpening(size), inner.Log()) << size;
-        const auto entries = size < kTableAt ? 0 : (size - kTableAt) / kEntryWidth;
-        ASSERT_EQ(std::min<std::size_t>(3, entries),
-                  static_cast<std::size_t>(manager->ArtworkImageGroupCount()))
-            << size;
-        int found = 0;
-        for (int i = 0; i < manager->ArtworkImageGroupCount(); ++i)
-            found += TextOf(manager->GetArtworkImageGroup(i)) == "0.0=" + PictureOfGroup(i) ? 1 : 0;
-        ASSERT_EQ(WholeGroups(whole, size, 3), found) << size;
-        inner.File("icons").bytes.swap(FileBytes());
-    }
+    std::size_t end = kHeadArea;
+    int whole = 0;
+    for (; whole < groups && size >= end + BlobOf(PictureOfGroup(whole)).size(); ++whole)
+        end += BlobOf(PictureOfGroup(whole)).size();
+    return whole;
 }
 
-TEST_F(ArtworkHostile, AnyByteChangedInTheHeadLosesNoAdditionSilently)
+/// How many of the groups that FileOfGroups makes the manager loads.
+int LoadedGroups(const IVXArtworkImageMgr& manager)
 {
-    const auto whole = FileOfGroups(2);
-    for (std::size_t at = 0; at < kTableAt + 2 * kEntryWidth; ++at)
-        for (const auto value : Bytes{0x00, 0x01, 0x7F, 0x80, 0xFF})
-        {
-            FileBytes() = whole;
-            FileBytes()[at] = value;
-            const auto before = FileBytes();
-            const auto manager = OpenMutable();
-            const int entries = manager->ArtworkImageGroupCount();
-            const bool takes = (at >= 11 || value == whole[at]) && entries < kFullTable;
-            ASSERT_EQ(takes ? 5 : 0, manager->AddArtworkImageGroup(GroupOf("red"), 5)) << at;
-            ASSERT_EQ(takes, before != FileBytes()) << at;
-            ASSERT_EQ(takes ? "0.0=red" : "none", TextOf(Open()->GetArtworkImageGroup(entries))) << at;
-        }
+    int loaded = 0;
+    for (int i = 0; i < manager.ArtworkImageGroupCount(); ++i)
+        loaded += TextOf(manager.GetArtworkImageGroup(i)) == "0.0=" + PictureOfGroup(i) ? 1 : 0;
+    return loaded;
 }
+
+class ArtworkCut : public ArtworkFileTest
+{
+protected:
+    static void Check(Bytes& bytes)
+    {
+        ScriptedPlatform platform; // takes this cut's log alone
+        platform.File("icons").bytes.swap(bytes);
+        const auto size = platform.File("icons").bytes.size();
+        const auto manager = Open();
+        const auto entries = size < kTableAt ? 0 : (size - kTableAt) / kEntryWidth;
+        EXPECT_EQ(LogOfAnOpening(size), platform.Log()) << size;
+        EXPECT_EQ(std::min<std::size_t>(3, entries), std::size_t(manager->ArtworkImageGroupCount())) << size;
+        EXPECT_EQ(WholeGroups(size, 3), LoadedGroups(*manager)) << size;
+        platform.File("icons").bytes.swap(bytes);
+    }
+};
+
+TEST_F(ArtworkCut, AtAnyByteKeepsTheGroupsThatLieWholeInside)
+{
+    for (auto bytes = FileOfGroups(3); !HasFailure() && !bytes.empty(); bytes.pop_back())
+        Check(bytes);
+}
+
+class ArtworkChangedByte : public ArtworkFileTest, public testing::WithParamInterface<int>
+{
+protected:
+    void Check(std::size_t at)
+    {
+        const auto whole = FileOfGroups(2);
+        FileBytes() = whole;
+        FileBytes()[at] = static_cast<std::uint8_t>(GetParam());
+        const auto before = FileBytes();
+        const auto manager = OpenMutable();
+        const int entries = manager->ArtworkImageGroupCount();
+        const bool takes = (at >= 11 || before[at] == whole[at]) && entries < kFullTable;
+        EXPECT_EQ(takes ? 5 : 0, manager->AddArtworkImageGroup(GroupOf("red"), 5)) << at;
+        EXPECT_EQ(takes, before != FileBytes()) << at;
+        EXPECT_EQ(takes ? "0.0=red" : "none", TextOf(Open()->GetArtworkImageGroup(entries))) << at;
+    }
+};
+
+TEST_P(ArtworkChangedByte, AnywhereInTheHeadLosesNoAdditionSilently)
+{
+    for (std::size_t at = 0; at < kTableAt + 2 * kEntryWidth; ++at)
+        Check(at);
+}
+
+INSTANTIATE_TEST_SUITE_P(Values, ArtworkChangedByte, testing::Values(0x00, 0x01, 0x7F, 0x80, 0xFF));
 
 } // namespace
 

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace Vexlor
 {
 
@@ -124,7 +126,8 @@ TEST_P(ArtworkIconHidden, IsNeverShown)
     EXPECT_TRUE(m_group->ToIcon().isNull());
 }
 
-constexpr HiddenCase kHidden[] = {{"Key30", 3, 0}, {"Key4", 0, 4}, {"Key24", 2, 4}, {"KeyMinus1", 0, -1}};
+constexpr std::array kHidden{HiddenCase{"Key30", 3, 0}, HiddenCase{"Key4", 0, 4}, HiddenCase{"Key24", 2, 4},
+                             HiddenCase{"KeyMinus1", 0, -1}};
 INSTANTIATE_TEST_SUITE_P(Places, ArtworkIconHidden, testing::ValuesIn(kHidden),
                          [](const auto& test) { return test.param.name; });
 

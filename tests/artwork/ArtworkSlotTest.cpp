@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace Vexlor
 {
 
@@ -47,22 +49,22 @@ class ArtworkFaceID : public testing::TestWithParam<ConstantCase>
 
 TEST_P(ArtworkFaceID, IsFixed) { EXPECT_EQ(GetParam().value, GetParam().constant); }
 
-constexpr ConstantCase kFaceIDs[] = {
-    {"Customize", IVXArtworkImageMgr::CategoryFaceIDCustomize, 10000000},
-    {"RecentList", IVXArtworkImageMgr::CategoryFaceIDRecentList, 10000001},
-    {"General", IVXArtworkImageMgr::CategoryFaceIDGeneral, 10000002},
-    {"Video", IVXArtworkImageMgr::CategoryFaceIDVideo, 10000003},
-    {"Audio", IVXArtworkImageMgr::CategoryFaceIDAudio, 10000004},
-    {"Device", IVXArtworkImageMgr::CategoryFaceIDDevice, 10000005},
-    {"WebVideo", IVXArtworkImageMgr::CategoryFaceIDWebVideo, 10000006},
-    {"MP4", IVXArtworkImageMgr::FormatFaceIDMP4, 20000000},
-    {"AVI", IVXArtworkImageMgr::FormatFaceIDAVI, 20000001},
-    {"WEBM", IVXArtworkImageMgr::FormatFaceIDWEBM, 20000002},
-    {"MKV", IVXArtworkImageMgr::FormatFaceIDMKV, 20000003},
-    {"MP3", IVXArtworkImageMgr::FormatFaceIDMP3, 20001000},
-    {"M4A", IVXArtworkImageMgr::FormatFaceIDM4A, 20001001},
-    {"WAV", IVXArtworkImageMgr::FormatFaceIDWAV, 20001002},
-    {"WMA", IVXArtworkImageMgr::FormatFaceIDWMA, 20001003},
+constexpr std::array kFaceIDs{
+    ConstantCase{"Customize", IVXArtworkImageMgr::CategoryFaceIDCustomize, 10000000},
+    ConstantCase{"RecentList", IVXArtworkImageMgr::CategoryFaceIDRecentList, 10000001},
+    ConstantCase{"General", IVXArtworkImageMgr::CategoryFaceIDGeneral, 10000002},
+    ConstantCase{"Video", IVXArtworkImageMgr::CategoryFaceIDVideo, 10000003},
+    ConstantCase{"Audio", IVXArtworkImageMgr::CategoryFaceIDAudio, 10000004},
+    ConstantCase{"Device", IVXArtworkImageMgr::CategoryFaceIDDevice, 10000005},
+    ConstantCase{"WebVideo", IVXArtworkImageMgr::CategoryFaceIDWebVideo, 10000006},
+    ConstantCase{"MP4", IVXArtworkImageMgr::FormatFaceIDMP4, 20000000},
+    ConstantCase{"AVI", IVXArtworkImageMgr::FormatFaceIDAVI, 20000001},
+    ConstantCase{"WEBM", IVXArtworkImageMgr::FormatFaceIDWEBM, 20000002},
+    ConstantCase{"MKV", IVXArtworkImageMgr::FormatFaceIDMKV, 20000003},
+    ConstantCase{"MP3", IVXArtworkImageMgr::FormatFaceIDMP3, 20001000},
+    ConstantCase{"M4A", IVXArtworkImageMgr::FormatFaceIDM4A, 20001001},
+    ConstantCase{"WAV", IVXArtworkImageMgr::FormatFaceIDWAV, 20001002},
+    ConstantCase{"WMA", IVXArtworkImageMgr::FormatFaceIDWMA, 20001003},
 };
 INSTANTIATE_TEST_SUITE_P(Constants, ArtworkFaceID, testing::ValuesIn(kFaceIDs),
                          [](const auto& test) { return test.param.name; });
