@@ -103,7 +103,7 @@ constexpr const char* kSize2 = R"("indexForResolutionPreset":2)";
 constexpr const char* kSizeBeyond = R"("indexForResolutionPreset":3)";
 constexpr const char* kSizeNegative = R"("indexForResolutionPreset":-1)";
 
-constexpr Question kResolutions[] = {
+const std::vector<Question> kResolutions = {
     {"ConcreteWithSource", kSizes, kSize2, HighDefinition, R"(BestResolutionFor(1280, 720, ""))"},
     {"ConcreteWithoutSource", kSizes, kSize2, nullptr, R"(BestResolutionFor(1280, 720, ""))"},
     {"AutoTakesTheDisplaySize", kSizes, kSize0, HighDefinition, R"(BestResolutionFor(1920, 1080, ""))"},
@@ -127,7 +127,7 @@ constexpr const char* kRateNegative = R"("indexForFrameratePresets":-2147483648)
 constexpr const char* kNoRate = R"("frameratePresets":[{},{"num":0,"den":7}])";
 constexpr const char* kZeroRate = R"("frameratePresets":[{"num":0,"den":1},{"num":24,"den":1}])";
 
-constexpr Question kFramerates[] = {
+const std::vector<Question> kFramerates = {
     {"ConcreteWithSource", kRates, kRate2, FrameRate<50, 1>, R"(BestFrameRateForInput(30000/1001, ""))"},
     {"ConcreteWithoutSource", kRates, kRate2, nullptr, R"(BestFrameRateForInput(30000/1001, ""))"},
     {"AutoTakesTheSources", kRates, kRate0, FrameRate<50, 1>, R"(BestFrameRateForInput(50/1, ""))"},
@@ -152,7 +152,7 @@ constexpr const char* kHertz2 = R"("indexForSampleratePresets":2)";
 constexpr const char* kHertzBeyond = R"("indexForSampleratePresets":2147483647)";
 constexpr const char* kHertzNegative = R"("indexForSampleratePresets":-1)";
 
-constexpr Question kSamplerates[] = {
+const std::vector<Question> kSamplerates = {
     {"ConcreteWithSource", kHertz, kHertz2, CompactDisc, R"(BestSampleRateForInput(32000, ""))"},
     {"ConcreteWithoutSource", kHertz, kHertz2, nullptr, R"(BestSampleRateForInput(32000, ""))"},
     {"AutoTakesTheSources", kHertz, kHertz0, CompactDisc, R"(BestSampleRateForInput(44100, ""))"},
@@ -174,7 +174,7 @@ constexpr const char* kNoLayout = R"("channelLayoutPresets":[{}])";
 // The highest bit of the mask: negative as a signed number, yet a layout.
 constexpr const char* kHighLayout = R"("channelLayoutPresets":[{},{"chLayout":9223372036854775808}])";
 
-constexpr Question kChannelLayouts[] = {
+const std::vector<Question> kChannelLayouts = {
     {"ConcreteWithSource", kLayouts, kLayout2, CompactDisc, R"(BestChannelLayoutForInput(63, ""))"},
     {"ConcreteWithoutSource", kLayouts, kLayout2, nullptr, R"(BestChannelLayoutForInput(63, ""))"},
     {"AutoTakesTheSources", kLayouts, kLayout0, CompactDisc, R"(BestChannelLayoutForInput(3, ""))"},
@@ -392,7 +392,7 @@ TEST_P(FormatMatching, WritesTheFormat)
     }
 }
 
-const FormatCase kFormats[] = {
+const std::vector<FormatCase> kFormats = {
     {"Concrete", {4, 5}, 2, 5},
     {"AutoGivesTheFirstConcrete", {4, 5}, 0, 4},
     {"AutoSkipsEveryNone", {-1, 5}, 0, 5},
@@ -448,7 +448,7 @@ TEST_P(ProfileAndLevelMatching, SetsWhatIsThere)
     EXPECT_EQ(GetParam().setters, NumberSetters(preset->DefaultCodecParameter(-1, -1)));
 }
 
-constexpr NumberCase kNumbers[] = {
+const std::vector<NumberCase> kNumbers = {
     {"Both", 1, 1, "SetProfile(2) SetLevel(31) "},
     {"UnknownIsSetToo", 0, 0, "SetProfile(1) SetLevel(-99) "},
     {"ProfileBeyondItsList", 2, 1, "SetLevel(31) "},

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <limits>
+#include <vector>
 
 namespace Vexlor
 {
@@ -207,7 +208,7 @@ TEST_P(CodecBounds, GiveTheBitrate)
     EXPECT_EQ(test.log + test.log, platform.Log());
 }
 
-const BoundsCase kBounds[] = {
+const std::vector<BoundsCase> kBounds = {
     {"Grade0", 0, 2000000, 1000000, {1, 2}, 1000000, ""},
     {"Grade1", 1, 2000000, 1000000, {1, 2}, 1333333, ""},
     {"Grade2", 2, 2000000, 1000000, {1, 2}, 1666666, ""},
@@ -276,7 +277,7 @@ class CodecAutoQuality : public CodecQuality
 protected:
     std::shared_ptr<ScriptedCodecParameter> Source(int codecID, int bitrate)
     {
-        const auto source = MakeStream(codecID);
+        auto source = MakeStream(codecID);
         source->SetBitrate(bitrate);
         source->SetWidth(1440);
         source->SetHeight(1080);

@@ -7,6 +7,7 @@
 #include <limits>
 #include <stdexcept>
 #include <tuple>
+#include <vector>
 
 namespace Vexlor
 {
@@ -70,8 +71,8 @@ const auto kSides = testing::Values(&kAudioSide, &kVideoSide);
 class CodecPresetList : public testing::TestWithParam<const CodecPresetSide*>
 {
 protected:
-    TwoLists List(std::string_view letters, int index) const { return {*GetParam(), letters, index}; }
-    const CodecPresetSide& Side() const { return *GetParam(); }
+    static TwoLists List(std::string_view letters, int index) { return {*GetParam(), letters, index}; }
+    static const CodecPresetSide& Side() { return *GetParam(); }
 
     ScriptedPlatform platform;
 };
@@ -213,7 +214,7 @@ TEST_P(CodecPresetIndex, IsClampedAndAnswered)
     EXPECT_EQ(test.letters + (" " + std::to_string(test.stored)), list.Text());
 }
 
-constexpr IndexCase kIndices[] = {
+const std::vector<IndexCase> kIndices = {
     {"First", "ABC", 0, 0},        {"Last", "ABC", 2, 2},           {"Count", "ABC", 3, 2},
     {"Beyond", "AB", 9, 1},        {"Highest", "ABC", kHighest, 2}, {"Negative", "AB", -5, 0},
     {"Lowest", "ABC", kLowest, 0}, {"FirstOfNone", "", 0, -1},      {"NegativeOfNone", "", -5, -1},
@@ -233,7 +234,7 @@ TEST_P(LoadedCodecPresetIndex, IsClampedFromAboveOnly)
     EXPECT_EQ(test.letters + (" " + std::to_string(test.stored)), list.Text());
 }
 
-constexpr IndexCase kLoadedIndices[] = {
+const std::vector<IndexCase> kLoadedIndices = {
     {"First", "ABC", 0, 0},          {"Last", "ABC", 2, 2},
     {"Count", "ABC", 3, 2},          {"Beyond", "ABC", 7, 2},
     {"Highest", "ABC", kHighest, 2}, {"None", "ABC", -1, -1},
@@ -267,7 +268,7 @@ TEST_P(RemoveCodecPresetAt, ClampsTheIndex)
     EXPECT_EQ(test.result, list.Text());
 }
 
-constexpr RemoveCase kRemovedPositions[] = {
+const std::vector<RemoveCase> kRemovedPositions = {
     {"First", "ABC", 0, 0, "BC 0"},
     {"KeepsThePositionNotTheEntry", "ABC", 1, 0, "BC 1"},
     {"LastWhileCurrent", "ABC", 2, 2, "AB 1"},
@@ -297,7 +298,7 @@ TEST_P(RemoveCodecPresetOf, RemovesTheFirstOfThatCodec)
     EXPECT_EQ(test.result, list.Text());
 }
 
-constexpr RemoveCase kRemovedCodecs[] = {
+const std::vector<RemoveCase> kRemovedCodecs = {
     {"FirstOfTwo", "ABCA", 1, 'A', "BCA 1"},
     {"ClampsTheIndex", "ABCA", 3, 'B', "ACA 2"},
     {"TheOnlyOne", "A", 0, 'A', " -1"},
@@ -323,7 +324,7 @@ TEST_P(InsertCodecPreset, KeepsTheIndex)
     EXPECT_EQ(test.result, list.Text());
 }
 
-constexpr RemoveCase kInsertions[] = {
+const std::vector<RemoveCase> kInsertions = {
     {"First", "ABC", 1, 0, "NABC 1"},         {"Between", "ABC", 1, 2, "ABNC 1"},
     {"AtTheEnd", "ABC", 1, 3, "ABCN 1"},      {"Beyond", "ABC", 1, 4, "ABC 1"},
     {"Highest", "ABC", 1, kHighest, "ABC 1"}, {"Negative", "ABC", 1, -1, "ABC 1"},
@@ -367,7 +368,7 @@ TEST_P(MoveCodecPreset, KeepsTheIndex)
     EXPECT_EQ(std::string(test.result) + " 1", list.Text());
 }
 
-constexpr MoveCase kMoves[] = {
+const std::vector<MoveCase> kMoves = {
     {"ToTheEnd", 0, 3, "BCA"},
     {"ToTheFront", 2, 0, "CAB"},
     {"Forward", 0, 2, "BAC"},

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <vector>
 
 namespace Vexlor
 {
@@ -259,7 +260,7 @@ constexpr const char* kAskV = "MallocCodecs(86, true)";
 constexpr const char* kAskW = "MallocCodecs(87, true)";
 constexpr const char* kAskX = "MallocCodecs(88, true)";
 
-const UsableCase kUsable[] = {
+const std::vector<UsableCase> kUsable = {
     {"FirstThatIsHere", kNoCodec + "VWX", "VWX", 'V', {kAskV}},
     {"SkipsWhatIsNotHere", kNoCodec + "VWX", "X", 'X', {kAskV, kAskW, kAskX}},
     {"FirstOfAllWhenNoneIsHere", kNoCodec + "VWX", "", 'V', {kAskV, kAskW, kAskX}},
@@ -318,7 +319,7 @@ TEST_P(CodecTag, IsSetForSomeCodecsInOneContainer)
                                                            { return setter.starts_with("SetCodecTag"); }));
 }
 
-const TagCase kTags[] = {
+const std::vector<TagCase> kTags = {
     {"DivxInAvi", "AVI", {VXCodecID_DIVX}, kDiv5},
     {"Mpeg4InAvi", "AVI", {VXCodecID_MPEG4}, kXvid},
     {"OtherInAvi", "AVI", {VXCodecID_H264}, 0},
@@ -370,7 +371,7 @@ TEST_P(SizeLimit, ActsOnEachSideAlone)
     EXPECT_EQ(test.result, std::to_string(output->GetWidth()) + "x" + std::to_string(output->GetHeight()));
 }
 
-constexpr SizeCase kSizes[] = {
+const std::vector<SizeCase> kSizes = {
     {"BothShrink", 1280, 720, 0, 0, 1920, 1080, "1280x720"},
     {"HeightStillShrinks", 1280, 720, 0, 0, 1920, 800, "1280x720"},
     {"WidthAloneShrinks", 1280, 720, 0, 0, 1920, 600, "1280x600"},

@@ -10,6 +10,7 @@
 #include <gmock/gmock.h>
 
 #include <limits>
+#include <vector>
 
 namespace Vexlor
 {
@@ -17,7 +18,6 @@ namespace Vexlor
 namespace
 {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr int kLowest = std::numeric_limits<int>::min();
@@ -271,7 +271,7 @@ TEST_P(LoadedFormatName, ReadsOldNamesOfTheProgramStream)
     EXPECT_EQ(GetParam().loaded, IVXFormatPreset::MallocFormatPreset(json)->FormatName());
 }
 
-constexpr NameCase kNames[] = {
+const std::vector<NameCase> kNames = {
     {"Mpeg1", "MPEG1", VXFormatNameMPG},
     {"Mpeg2", "MPEG2", VXFormatNameMPG},
     {"NewName", VXFormatNameMPG, VXFormatNameMPG},
@@ -357,7 +357,7 @@ TEST_P(FormatPresetLimit, IsWrittenUnderItsKeyAlone)
     EXPECT_EQ(expected, Text(preset->JsonValue()));
 }
 
-constexpr Limit kLimits[] = {
+const std::vector<Limit> kLimits = {
     {"maxWidth", &IVXFormatPreset::MaxWidth, &IVXFormatPreset::SetMaxWidth},
     {"minWidth", &IVXFormatPreset::MinWidth, &IVXFormatPreset::SetMinWidth},
     {"maxHeight", &IVXFormatPreset::MaxHeight, &IVXFormatPreset::SetMaxHeight},

@@ -9,6 +9,7 @@
 #include <gmock/gmock.h>
 
 #include <limits>
+#include <vector>
 
 namespace Vexlor
 {
@@ -227,18 +228,24 @@ protected:
                " is beyond array size!";
     }
 
+    /// What asking for that entry prints, a line in brackets each.
+    std::string PrintedFor(int index) const
+    {
+        const ScriptedPlatform own;
+        std::string text = list.At(index) ? "an entry " : "";
+        for (const auto& line : own.LogLines())
+            text += "[" + line.text + "]";
+        return text;
+    }
+
     const NodeList<PresetFamily> list = NodeList<PresetFamily>("AB");
 };
 
 TEST_F(FormatNodeWarning, IsPrintedOnceForAnIndexBeyondTheList)
 {
+    EXPECT_EQ("an entry ", PrintedFor(1));
     for (const int index : {2, 5, kHighest})
-    {
-        const ScriptedPlatform own;
-        EXPECT_EQ(nullptr, list.At(index));
-        EXPECT_EQ(Warning(index), own.Log());
-        EXPECT_EQ(1U, own.LogLines().size());
-    }
+        EXPECT_EQ("[" + Warning(index) + "]", PrintedFor(index));
 }
 
 TEST_F(FormatNodeWarning, IsNotPrintedForANegativeIndex)
@@ -285,7 +292,7 @@ TEST_F(FormatNode, OfAnEmptyObjectIsEmpty)
 
 TEST_F(FormatNode, OfAnythingElseIsEmptyToo)
 {
-    for (const char* json : {"null", "[]", "[{\"name\":\"x\"}]", "3", "\"text\"", "true"})
+    for (const char* json : {"null", "[]", R"([{"name":"x"}])", "3", R"("text")", "true"})
         EXPECT_EQ(kEmpty, Text(Load(json)->JsonValue())) << json;
 }
 
@@ -415,7 +422,7 @@ constexpr const char* kWhole = "source\n  - p\n  - q\n  a\n    deep\n      - r\n
 constexpr const char* kListsOnly = "\n  - p\n  - q\n  a\n    deep\n      - r\n  b\n";
 constexpr const char* kChildrenOnly = "\n  a\n    deep\n      - r\n  b\n";
 
-constexpr CloneCase kClones[] = {
+const std::vector<CloneCase> kClones = {
     {0, "\n", false},
     {1, "source\n", true},
     {2, "\n  - p\n  - q\n", false},
@@ -431,15 +438,20 @@ constexpr CloneCase kClones[] = {
     {kHighest, kWhole, true},
 };
 
+std::string FieldsOf(const IVXFormatNode& node)
+{
+    const auto parent = node.Parent();
+    return node.Description() + " " + std::to_string(node.FaceID()) + (parent ? " below " : " ") +
+           (parent ? parent->Name() : "");
+}
+
 TEST_F(FormatNodeClone, HoldsWhatTheFlagsAskFor)
 {
     for (const auto& test : kClones)
     {
         const auto clone = source->Clone(test.flags);
         EXPECT_EQ(test.outline, Outline(*clone)) << test.flags;
-        EXPECT_EQ(test.fields ? root : Node(), clone->Parent()) << test.flags;
-        EXPECT_EQ(test.fields ? "text" : "", clone->Description()) << test.flags;
-        EXPECT_EQ(test.fields ? 9 : 0, clone->FaceID()) << test.flags;
+        EXPECT_EQ(test.fields ? "text 9 below root" : " 0 ", FieldsOf(*clone)) << test.flags;
     }
 }
 
@@ -457,13 +469,17 @@ TEST_F(FormatNodeClone, IsNotAddedToItsParent)
 
 TEST_F(FormatNodeClone, HasChildrenThatPointAtTheirSourcesParents)
 {
-    for (const int flags : {4, 6, IVXFormatNode::CloneAll})
-    {
-        const auto clone = source->Clone(flags);
-        EXPECT_EQ(source, clone->GetChild(0)->Parent());
-        EXPECT_EQ(source, clone->GetChild(1)->Parent());
-        EXPECT_EQ(source->GetChild(0), clone->GetChild(0)->GetChild(0)->Parent());
-    }
+    const auto clone = source->Clone(IVXFormatNode::CloneAll);
+    EXPECT_EQ(source, clone->GetChild(0)->Parent());
+    EXPECT_EQ(source, clone->GetChild(1)->Parent());
+    EXPECT_EQ(source->GetChild(0), clone->GetChild(0)->GetChild(0)->Parent());
+}
+
+TEST_F(FormatNodeClone, OfChildrenAloneHasThemPointAtTheirSourcesParentsToo)
+{
+    const auto clone = source->Clone(4);
+    ASSERT_EQ(nullptr, clone->Parent());
+    EXPECT_EQ(source, clone->GetChild(0)->Parent());
 }
 
 TEST_F(FormatNodeClone, SharesNothing)

@@ -6,6 +6,7 @@
 
 #include <limits>
 #include <stdexcept>
+#include <vector>
 
 namespace Vexlor
 {
@@ -174,7 +175,7 @@ struct InsertCase
     const char* several;
 };
 
-constexpr InsertCase kInsertions[] = {
+const std::vector<InsertCase> kInsertions = {
     {0, "XABC", "XYABC"},       {1, "AXBC", "AXYBC"},        {2, "ABXC", "ABXYC"},  {3, "ABCX", "ABCXY"},
     {4, "ABCX", "ABCXY"},       {99, "ABCX", "ABCXY"},       {-1, "XABC", "XYABC"}, {-4, "XABC", "XYABC"},
     {kLowest, "XABC", "XYABC"}, {kHighest, "ABCX", "ABCXY"},
@@ -283,7 +284,7 @@ struct PositionsCase
     const char* result;
 };
 
-const PositionsCase kRemovals[] = {
+const std::vector<PositionsCase> kRemovals = {
     {{}, false, "ABCDE"},
     {{0, 0, 7}, true, "BCDE"},
     {{4, 0, 2}, true, "BD"},
@@ -343,7 +344,7 @@ struct MoveCase
     const char* result;
 };
 
-constexpr MoveCase kMoves[] = {
+const std::vector<MoveCase> kMoves = {
     {0, 2, "BAC"},       {2, 0, "CAB"},        {0, 1, "ABC"},        {0, 3, "BCA"},  {1, 3, "ACB"},
     {1, 0, "BAC"},       {2, 1, "ACB"},        {1, 1, "ABC"},        {2, 3, "ABC"},  {0, 4, "BCA"},
     {0, 99, "BCA"},      {0, kHighest, "BCA"}, {2, kHighest, "ABC"}, {2, -1, "CAB"}, {1, -5, "BAC"},
@@ -362,18 +363,39 @@ TYPED_TEST(FormatNodeList, MoveCountsTheTargetBeforeTheRemoval)
     }
 }
 
+template <class Family>
+bool MoveThrows(const NodeList<Family>& list, int from, int to)
+{
+    try
+    {
+        list(Family::kMove, from, to);
+        return false;
+    }
+    catch (const std::out_of_range&)
+    {
+        return true;
+    }
+}
+
 TYPED_TEST(FormatNodeList, MoveFromOutsideThrows)
 {
     const NodeList<TypeParam> list("ABC");
     for (const int from : {3, 4, -1, kLowest, kHighest})
-        for (const int to : {0, 3, kLowest, kHighest})
-            EXPECT_THROW(list(TypeParam::kMove, from, to), std::out_of_range) << from << " to " << to;
+        EXPECT_TRUE(MoveThrows(list, from, 0)) << from;
+    EXPECT_EQ("ABC", list.Text());
+}
+
+TYPED_TEST(FormatNodeList, MoveFromTheCountThrowsWhateverTheTarget)
+{
+    const NodeList<TypeParam> list("ABC");
+    for (const int to : {1, 3, 4, -1, kLowest, kHighest})
+        EXPECT_TRUE(MoveThrows(list, 3, to)) << to;
     EXPECT_EQ("ABC", list.Text());
 }
 
 TYPED_TEST(FormatNodeList, MoveInAnEmptyListThrows)
 {
-    EXPECT_THROW(NodeList<TypeParam>("")(TypeParam::kMove, 0, 0), std::out_of_range);
+    EXPECT_TRUE(MoveThrows(NodeList<TypeParam>(""), 0, 0));
 }
 
 struct MoveAllCase
@@ -383,7 +405,7 @@ struct MoveAllCase
     const char* result;
 };
 
-const MoveAllCase kMovesOfSeveral[] = {
+const std::vector<MoveAllCase> kMovesOfSeveral = {
     {{0, 2}, 4, "BDACE"},     {{3}, 0, "DABCE"},        {{0}, 5, "BCDEA"},
     {{2, 0, 0}, 4, "BDACE"},  {{4, 0}, 2, "BAECD"},     {{3, 4}, 1, "ADEBC"},
     {{2}, 2, "ABCDE"},        {{4}, 4, "ABCDE"},        {{0, 1}, 2, "ABCDE"},

@@ -5,6 +5,7 @@
 
 #include "tests/platform/ScriptedJson.h"
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -130,6 +131,7 @@ public:
     {
         std::vector<Handle> elements;
         const int count = (*this)(Family::kCount);
+        elements.reserve(static_cast<std::size_t>(count));
         for (int i = 0; i < count; ++i)
             elements.push_back(At(i));
         return elements;
