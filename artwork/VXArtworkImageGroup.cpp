@@ -111,9 +111,20 @@ void VXArtworkImageGroup::FromData(std::shared_ptr<const IVXData> data)
         m_pictures = ReadPictures(reader, static_cast<int>(*count));
 }
 
-QPixmap Decoded(const IVXArtworkImage& picture)
+/// The picture decoded; a null image when there is none or it cannot be decoded.
+QImage Decoded(const std::shared_ptr<const IVXArtworkImage>& picture)
 {
-    return QPixmap::fromImage(QImage::fromData(QByteArrayView(picture.Bytes(), picture.Size())));
+    return picture ? QImage::fromData(QByteArrayView(picture->Bytes(), picture->Size())) : QImage();
+}
+
+void AddPixmap(QIcon& icon, const QImage& image, QIcon::Mode mode)
+{
+    // Even an empty pixmap needs an application; a group without pictures to show does not.
+    if (image.isNull())
+        return;
+    const auto pixmap = QPixmap::fromImage(image);
+    if (!pixmap.isNull())
+        icon.addPixmap(pixmap, mode, QIcon::Off);
 }
 
 QIcon VXArtworkImageGroup::ToIcon() const
@@ -121,12 +132,7 @@ QIcon VXArtworkImageGroup::ToIcon() const
     QIcon icon;
     for (int mode = 0; mode < kModes; ++mode)
         for (int variant = 0; variant < kVariants; ++variant)
-        {
-            const auto picture = GetArtworkImage(variant, mode);
-            const auto pixmap = picture ? Decoded(*picture) : QPixmap();
-            if (!pixmap.isNull())
-                icon.addPixmap(pixmap, static_cast<QIcon::Mode>(mode), QIcon::Off);
-        }
+            AddPixmap(icon, Decoded(GetArtworkImage(variant, mode)), static_cast<QIcon::Mode>(mode));
     return icon;
 }
 

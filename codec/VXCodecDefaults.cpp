@@ -32,8 +32,8 @@ constexpr std::array kResolutions{
     Pair{320, 240},   Pair{240, 180},   Pair{240, 140},   Pair{180, 140},   Pair{120, 90},
 };
 
-// The same for frame rates, as numerator and denominator. 50000/1001 and 25000/1001 are no broadcast rates,
-// but are deliberately offered: documents in use name them.
+// The same for frame rates, as numerator and denominator. 50000/1001 and 25000/1001 are no broadcast rates
+// and are deliberately there.
 constexpr std::array kFramerates{
     Pair{60, 1},       Pair{60000, 1001}, Pair{50, 1},       Pair{50000, 1001}, Pair{30, 1},
     Pair{30000, 1001}, Pair{25, 1},       Pair{25000, 1001}, Pair{24, 1},       Pair{24000, 1001},

@@ -62,7 +62,7 @@ std::shared_ptr<IVXCodecParameter> IVXCodecPreset::DefaultCodecParameter(int max
     MatchForType(output, nullptr);
     MatchForQuality(output, nullptr, maxBitrate, minBitrate);
     SetProfileLevelAspect(output);
-    // Deliberately not from the format list: these two formats every encoder's front end converts to.
+    // Deliberately not from the format list: without a source there is nothing to be true to.
     const auto codecs = IVXCodecs::MallocCodecs(CodecID(), true);
     const int type = codecs ? codecs->GetCodecType() : VXCodecTypeUnknown;
     if (type == VXCodecTypeVideo)
@@ -117,7 +117,7 @@ void IVXCodecPreset::MatchForFramerate(Output& output, const Source& source) con
     if (IsOpen(current) && source)
         rate = source->GetFrameRate();
     // A rate of zero is one that nobody told, whoever it came from.
-    if ((IsOpen(current) && !source) || IsZero(*rate))
+    if ((IsOpen(current) && !source) || !rate || IsZero(*rate))
         if (const auto concrete = FirstConcrete(FrameratePresets(), {}))
             rate = concrete->Framerate();
 

@@ -38,8 +38,9 @@ template <typename Preset>
 VXPresetList<Preset> Read(const IVXJsonValue& json, const ListKeys& keys,
                           std::shared_ptr<Preset> (*factory)(const std::shared_ptr<const IVXJsonValue>&))
 {
-    VXPresetList<Preset> list(ReadEach(*json.GetValueArray(keys.entries), factory));
+    VXPresetList<Preset> list;
     list.StoreIndex(json.GetValueInt(keys.index));
+    list.Reset(ReadEach(*json.GetValueArray(keys.entries), factory));
     return list;
 }
 
@@ -71,17 +72,18 @@ VXCodecPreset::VXCodecPreset(int codecID)
 }
 
 VXCodecPreset::VXCodecPreset(const IVXJsonValue& json)
-    : m_codecID(json.GetValueInt(kCodecID)), m_name(json.GetValueString(kName)),
-      m_description(json.GetValueString(kDescription)),
-      m_aspect(IVXSampleAspectPreset::MallocSampleAspectPreset(json[kAspectPreset]))
+    : m_aspect(IVXSampleAspectPreset::MallocSampleAspectPreset(json[kAspectPreset]))
 {
+    m_codecID = json.GetValueInt(kCodecID);
+    m_name = json.GetValueString(kName);
+    m_description = json.GetValueString(kDescription);
     LoadLists(json);
     StartLevelsWithUnknown();
     m_sampleFmts.StoreIndex(json.GetValueInt(kIndexForSampleFmts));
     if (m_codecID == VXCodecID_None)
         return;
-    // A document says nothing of what belongs to the codec itself: grades, formats and its name are built in,
-    // deliberately so even where the document has a name.
+    // Grades, formats and the name belong to the codec, not to the document; deliberately, a name in it is
+    // dropped.
     m_qualities.Reset(DefaultQualities());
     m_sampleFmts.Reset(DefaultSampleFmt(m_codecID));
     m_name = IVXCodecs::DefaultCodecName(m_codecID, true);
@@ -107,7 +109,7 @@ void VXCodecPreset::LoadLists(const IVXJsonValue& json)
     m_levels = Read(json, kLevels, &IVXLevelPreset::MallocLevelPreset);
 }
 
-// Documents from before the unknown level get it in front, and a current index keeps naming the same level.
+// Every level list can say "not told"; a current index keeps naming the same level.
 void VXCodecPreset::StartLevelsWithUnknown()
 {
     const auto first = m_levels.At(0);
@@ -163,7 +165,7 @@ std::shared_ptr<IVXCodecPreset> IVXCodecPreset::MallocCodecPreset(int codecID)
 std::shared_ptr<IVXCodecPreset>
 IVXCodecPreset::MallocCodecPreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    return std::make_shared<VXCodecPreset>(*json);
+    return std::make_shared<VXCodecPreset>(json ? *json : *IVXJsonValue::JsonValueNull());
 }
 
 } // namespace Vexlor

@@ -215,7 +215,7 @@ private:
     void LoadLists(const IVXJsonValue& json);
     void StartLevelsWithUnknown();
 
-    int m_codecID;
+    int m_codecID = 0;
     std::string m_name;
     std::string m_description;
     VXPresetList<IVXResolutionPreset> m_resolutions;

@@ -24,10 +24,10 @@ VXCodecPresetList VXCodecPresetList::Clone() const
     return copy;
 }
 
-VXCodecPresetList VXCodecPresetList::CopyOf(const HandleList<const IVXCodecPreset>& presets, int index)
+VXCodecPresetList VXCodecPresetList::CopyOf(int index, const HandleList<const IVXCodecPreset>& presets)
 {
     VXCodecPresetList copy;
-    for (const auto& preset : presets)
+    for (const auto& preset : WithoutEmpty(presets))
         copy.m_presets.push_back(preset->Clone());
     copy.m_index = index;
     return copy;

@@ -9,8 +9,8 @@ namespace Vexlor
 
 /// The video or the audio codec presets of a format preset, with the index of the current one.
 ///
-/// The index is a position and never follows a preset. Removing keeps it from lying beyond the list; -1 says
-/// that the list is empty.
+/// The index is a position and never follows a preset. Removing keeps it from lying beyond the list, so that
+/// it is -1 for an empty one; a negative index of a document is kept and says that nothing is chosen.
 class VXCodecPresetList
 {
 public:
@@ -21,8 +21,8 @@ public:
     VXCodecPresetList(const IVXJsonValue& array, int index);
     /// A list of the same index that shares no preset with this one.
     VXCodecPresetList Clone() const;
-    /// As Clone, of presets and an index that were read from another object.
-    static VXCodecPresetList CopyOf(const HandleList<const IVXCodecPreset>& presets, int index);
+    /// As Clone, of an index and presets that were read from another object; empty handles are left out.
+    static VXCodecPresetList CopyOf(int index, const HandleList<const IVXCodecPreset>& presets);
 
     const HandleList<IVXCodecPreset>& Presets() const { return m_presets; }
     int Count() const { return CountOf(m_presets); }

@@ -95,8 +95,12 @@ void IVXFormatPreset::LimitSize(IVXFormatParameter& output) const
     const auto video = output.GetVideoCodecParameter();
     if (!video || MaxHeight() <= 0 || MaxWidth() <= 0)
         return;
-    video->SetWidth(Limited(video->GetWidth(), MaxWidth(), MinWidth()));
-    video->SetHeight(Limited(video->GetHeight(), MaxHeight(), MinHeight()));
+    const int width = Limited(video->GetWidth(), MaxWidth(), MinWidth());
+    if (width != video->GetWidth())
+        video->SetWidth(width);
+    const int height = Limited(video->GetHeight(), MaxHeight(), MinHeight());
+    if (height != video->GetHeight())
+        video->SetHeight(height);
 }
 
 std::shared_ptr<const IVXCodecPreset> IVXFormatPreset::UsableCodecPreset(bool audio) const

@@ -144,13 +144,20 @@ private:
     Bounds m_bounds;
 };
 
-// Documents of old name the two versions of MPEG as containers of their own.
+// Both versions of MPEG go into one container, whatever a document calls it.
 std::string ReadFormatName(const IVXJsonValue& json)
 {
     auto name = json.GetValueString(kFormatName);
     if (name == "MPEG1" || name == "MPEG2")
         name = VXFormatNameMPG;
     return name;
+}
+
+VXCodecPresetList ReadCodecPresets(const IVXJsonValue& json, std::string_view indexKey,
+                                   std::string_view listKey)
+{
+    const int index = json.GetValueInt(indexKey);
+    return {*json.GetValueArray(listKey), index};
 }
 
 int ReadBitrate(const IVXJsonValue& json, std::string_view key)
@@ -194,8 +201,8 @@ VXFormatPreset::VXFormatPreset(const IVXJsonValue& json)
     : m_name(json.GetValueString(kName)), m_description(json.GetValueString(kDescription)),
       m_formatName(ReadFormatName(json)), m_formatHint(json.GetValueString(kFormatHint)),
       m_faceID(json.GetValueInt(kFaceID)),
-      m_video(*json.GetValueArray(kVideoCodecPresets), json.GetValueInt(kIndexForVideoCodecPresets)),
-      m_audio(*json.GetValueArray(kAudioCodecPresets), json.GetValueInt(kIndexForAudioCodecPresets)),
+      m_video(ReadCodecPresets(json, kIndexForVideoCodecPresets, kVideoCodecPresets)),
+      m_audio(ReadCodecPresets(json, kIndexForAudioCodecPresets, kAudioCodecPresets)),
       m_bounds(ReadBounds(json))
 {
 }
@@ -216,16 +223,18 @@ void VXFormatPreset::CopyFrom(std::shared_ptr<const IVXFormatPreset> other)
     m_formatName = other->FormatName();
     m_formatHint = other->FormatHint();
     m_faceID = other->FaceID();
-    m_bounds = {.maxWidth = other->MaxWidth(),
-                .minWidth = other->MinWidth(),
-                .maxHeight = other->MaxHeight(),
-                .minHeight = other->MinHeight(),
-                .maxVideoBitrate = other->MaxVideoBitrate(),
-                .minVideoBitrate = other->MinVideoBitrate(),
-                .maxAudioBitrate = other->MaxAudioBitrate(),
-                .minAudioBitrate = other->MinAudioBitrate()};
-    m_video = VXCodecPresetList::CopyOf(other->VideoCodecPresets(), other->IndexForVideoCodecPresets());
-    m_audio = VXCodecPresetList::CopyOf(other->AudioCodecPresets(), other->IndexForAudioCodecPresets());
+    m_bounds.maxVideoBitrate = other->MaxVideoBitrate();
+    m_bounds.minVideoBitrate = other->MinVideoBitrate();
+    m_bounds.maxAudioBitrate = other->MaxAudioBitrate();
+    m_bounds.minAudioBitrate = other->MinAudioBitrate();
+    m_bounds.maxWidth = other->MaxWidth();
+    m_bounds.minWidth = other->MinWidth();
+    m_bounds.maxHeight = other->MaxHeight();
+    m_bounds.minHeight = other->MinHeight();
+    const int videoIndex = other->IndexForVideoCodecPresets();
+    m_video = VXCodecPresetList::CopyOf(videoIndex, other->VideoCodecPresets());
+    const int audioIndex = other->IndexForAudioCodecPresets();
+    m_audio = VXCodecPresetList::CopyOf(audioIndex, other->AudioCodecPresets());
 }
 
 std::shared_ptr<IVXJsonValue> VXFormatPreset::JsonValue() const
@@ -282,7 +291,7 @@ std::shared_ptr<IVXFormatPreset> IVXFormatPreset::MallocFormatPreset(const std::
 std::shared_ptr<IVXFormatPreset>
 IVXFormatPreset::MallocFormatPreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    return std::make_shared<VXFormatPreset>(*json);
+    return std::make_shared<VXFormatPreset>(json ? *json : *IVXJsonValue::JsonValueNull());
 }
 
 } // namespace Vexlor

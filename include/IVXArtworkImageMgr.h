@@ -60,7 +60,7 @@ public:
     virtual void RemoveArtworkImageGroupByID(int faceID) = 0;
     /// Removes the group at idx.
     virtual void RemoveArtworkImageGroup(int idx) = 0;
-    /// Always empty; the slot is kept for hosts that were built against it.
+    /// Reserved; always empty.
     virtual std::shared_ptr<const IVXArtworkImageGroup> GetArtworkImageGroupReserved() const = 0;
     /// Adds the group under faceID, even when that is taken, or under an automatic one for -1: the lowest
     /// positive number behind the last automatic one of this process that is free. Answers the identifier; 0,

@@ -37,9 +37,10 @@ public:
     /// A preset of that codec with the built-in lists and every index 0; VXCodecID_None gives the Auto
     /// preset, whose lists are empty.
     static std::shared_ptr<IVXCodecPreset> MallocCodecPreset(int codecID);
-    /// A preset read from a JSON object; absent lists are empty, indices are taken as they are. Deliberately,
-    /// a real codec's name, quality list and sample formats are the built-in ones whatever the object holds,
-    /// and the level list always starts with the level "Unknown".
+    /// A preset read from a JSON object, an empty handle being one without members; absent lists are empty,
+    /// indices are taken as they are. Deliberately, a real codec's name, quality list and sample formats are
+    /// the built-in ones whatever the object holds, and the level list always starts with the level
+    /// "Unknown".
     static std::shared_ptr<IVXCodecPreset> MallocCodecPreset(const std::shared_ptr<const IVXJsonValue>& json);
 
     /// The resolutions of the codec, or those of a fixed table within its limits, with Auto in front where

@@ -27,7 +27,8 @@ public:
 
     /// A new empty node, appended to the parent's children; an empty parent makes a root.
     static std::shared_ptr<IVXFormatNode> MallocFormatNode(std::shared_ptr<IVXFormatNode> parent);
-    /// A node and its whole subtree, read from a JSON object; absent members are empty. Never empty itself.
+    /// A node and its whole subtree, read from a JSON object; absent members are empty, and an
+    /// empty handle reads as an object without members. Never empty itself.
     static std::shared_ptr<IVXFormatNode> MallocFormatNode(const std::shared_ptr<const IVXJsonValue>& json);
 
     /// The node whose child this is; empty for a root and when that node is gone.

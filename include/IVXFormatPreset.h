@@ -33,9 +33,9 @@ public:
     /// the codec library cannot write a container of exactly that name. The second text is not consulted.
     static std::shared_ptr<IVXFormatPreset> MallocFormatPreset(const std::string& formatName,
                                                                const std::string& unused);
-    /// A preset read from a JSON object; never empty. The container names "MPEG1" and "MPEG2" of old
-    /// documents read as VXFormatNameMPG. Indices beyond their lists become the last one; negative ones are
-    /// deliberately kept.
+    /// A preset read from a JSON object, an empty handle being one without members; never empty. The
+    /// container names "MPEG1" and "MPEG2" read as VXFormatNameMPG. Indices beyond their
+    /// lists become the last one; negative ones are deliberately kept.
     static std::shared_ptr<IVXFormatPreset>
     MallocFormatPreset(const std::shared_ptr<const IVXJsonValue>& json);
 
@@ -84,17 +84,17 @@ public:
     virtual std::shared_ptr<IVXCodecPreset> AudioCodecPreset(int index) = 0;
     /// The same, read only.
     virtual std::shared_ptr<const IVXCodecPreset> AudioCodecPreset(int index) const = 0;
-    /// Always empty; the slot is kept for hosts that were built against it.
+    /// Reserved; always empty.
     virtual std::shared_ptr<IVXCodecPreset> AudioCodecPresetByCodecID(int codecID) = 0;
-    /// Always empty, as above.
+    /// Reserved, as above.
     virtual std::shared_ptr<const IVXCodecPreset> AudioCodecPresetByCodecID(int codecID) const = 0;
     /// The video codec preset at index; empty when index is outside [0, VideoCodecPresetCount()).
     virtual std::shared_ptr<IVXCodecPreset> VideoCodecPreset(int index) = 0;
     /// The same, read only.
     virtual std::shared_ptr<const IVXCodecPreset> VideoCodecPreset(int index) const = 0;
-    /// Always empty; the slot is kept for hosts that were built against it.
+    /// Reserved; always empty.
     virtual std::shared_ptr<IVXCodecPreset> VideoCodecPresetByCodecID(int codecID) = 0;
-    /// Always empty, as above.
+    /// Reserved, as above.
     virtual std::shared_ptr<const IVXCodecPreset> VideoCodecPresetByCodecID(int codecID) const = 0;
     /// Number of video codec presets.
     virtual int VideoCodecPresetCount() const = 0;

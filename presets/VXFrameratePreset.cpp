@@ -70,7 +70,9 @@ std::shared_ptr<IVXFrameratePreset> IVXFrameratePreset::MallocFrameratePreset(in
 std::shared_ptr<IVXFrameratePreset>
 IVXFrameratePreset::MallocFrameratePreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    return MallocFrameratePreset(json->GetValueInt(kNum), json->GetValueInt(kDen));
+    const int num = json->GetValueInt(kNum);
+    const int den = json->GetValueInt(kDen);
+    return MallocFrameratePreset(num, den);
 }
 
 } // namespace Vexlor

@@ -52,7 +52,8 @@ std::shared_ptr<IVXLevelPreset> IVXLevelPreset::MallocLevelPreset(int level, con
 std::shared_ptr<IVXLevelPreset>
 IVXLevelPreset::MallocLevelPreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    return MallocLevelPreset(json->GetValueInt(kLevel), json->GetValueString(kName));
+    const int level = json->GetValueInt(kLevel);
+    return MallocLevelPreset(level, json->GetValueString(kName));
 }
 
 } // namespace Vexlor

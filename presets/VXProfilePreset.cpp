@@ -54,7 +54,8 @@ std::shared_ptr<IVXProfilePreset> IVXProfilePreset::MallocProfilePreset(int prof
 std::shared_ptr<IVXProfilePreset>
 IVXProfilePreset::MallocProfilePreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    return MallocProfilePreset(json->GetValueInt(kProfile), json->GetValueString(kName));
+    const int profile = json->GetValueInt(kProfile);
+    return MallocProfilePreset(profile, json->GetValueString(kName));
 }
 
 } // namespace Vexlor

@@ -40,7 +40,7 @@ std::shared_ptr<IVXJsonValue> VXResolutionPreset::JsonValue() const
 
 } // namespace
 
-// A 1920 x 0 preset is Auto: one missing side leaves nothing to scale to.
+// One missing side is enough: a 1920 x 0 preset is Auto.
 bool IVXResolutionPreset::IsAutoValue() const { return Width() < 1 || Height() < 1; }
 
 std::string IVXResolutionPreset::FormatResolution() const
@@ -61,7 +61,9 @@ std::shared_ptr<IVXResolutionPreset> IVXResolutionPreset::MallocResolutionPreset
 std::shared_ptr<IVXResolutionPreset>
 IVXResolutionPreset::MallocResolutionPreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    return MallocResolutionPreset(json->GetValueInt(kWidth), json->GetValueInt(kHeight));
+    const int width = json->GetValueInt(kWidth);
+    const int height = json->GetValueInt(kHeight);
+    return MallocResolutionPreset(width, height);
 }
 
 } // namespace Vexlor

@@ -142,9 +142,10 @@ IVXSampleAspectPreset::MallocSampleAspectPreset(const std::shared_ptr<const IVXR
 std::shared_ptr<IVXSampleAspectPreset>
 IVXSampleAspectPreset::MallocSampleAspectPreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    auto ratio = IVXRational::MallocRational(json->GetValueInt(kNum), json->GetValueInt(kDen));
+    const int num = json->GetValueInt(kNum);
+    const int den = json->GetValueInt(kDen);
     const auto type = static_cast<AspectPresetType>(json->GetValueInt(kType));
-    return std::make_shared<VXSampleAspectPreset>(type, std::move(ratio));
+    return std::make_shared<VXSampleAspectPreset>(type, IVXRational::MallocRational(num, den));
 }
 
 } // namespace Vexlor

@@ -28,7 +28,8 @@ void CloneDescendants(const IVXFormatNode& source, IVXFormatNode& copy)
         {
             const auto childCopy = child->Clone(kCloneFields | kCloneFormatPresets);
             to->AddChild(childCopy);
-            pending.emplace_back(child.get(), childCopy.get());
+            if (childCopy)
+                pending.emplace_back(child.get(), childCopy.get());
         }
     }
 }
@@ -81,7 +82,7 @@ std::shared_ptr<IVXFormatNode> VXFormatNode::Clone(int flags) const
     return copy;
 }
 
-// Only the upper bound is told of, and only here: hosts step through the list with this operation.
+// Only the upper bound is told of, and deliberately only here.
 std::shared_ptr<IVXFormatPreset> VXFormatNode::GetFormatPreset(int idx)
 {
     if (idx >= m_formatPresets.Count())

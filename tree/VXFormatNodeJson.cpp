@@ -57,9 +57,10 @@ struct Step
 std::shared_ptr<IVXFormatNode>
 IVXFormatNode::MallocFormatNode(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    auto root = ReadNode(*json);
+    const auto rootValue = json ? json : IVXJsonValue::JsonValueNull();
+    auto root = ReadNode(*rootValue);
     std::vector<std::pair<std::shared_ptr<IVXFormatNode>, std::shared_ptr<const IVXJsonValue>>> pending;
-    pending.emplace_back(root, json);
+    pending.emplace_back(root, rootValue);
     while (!pending.empty())
     {
         const auto [node, value] = std::move(pending.back());

@@ -97,6 +97,8 @@ public:
         return NameOf(ProfilesOf(m_all.codec->id), profile);
     }
     std::string LevelName(int level) const override { return NameOf(LevelsOf(m_all.codec->id), level); }
+    // Deliberately empty for codecs of legal rates too: a listed codec always gets its last one, whatever the
+    // grade.
     std::vector<int> SupportedBitrates() const override { return {}; }
 
 private:
