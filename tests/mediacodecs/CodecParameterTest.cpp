@@ -14,7 +14,7 @@ namespace
 
 std::shared_ptr<IVXCodecParameter> Video(int width, int height, int num, int den)
 {
-    const auto video = IVXCodecParameter::MallocCodecParamter(VXCodecID_H264);
+    auto video = IVXCodecParameter::MallocCodecParamter(VXCodecID_H264);
     video->SetWidth(width);
     video->SetHeight(height);
     video->SetAspectRatio(IVXRational::MallocRational(num, den));

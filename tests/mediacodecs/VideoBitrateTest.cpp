@@ -9,6 +9,7 @@
 #include <array>
 #include <climits>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <vector>
 
@@ -134,23 +135,29 @@ protected:
     static int Rate(const PictureStream& stream, Grade level) { return Video(GetParam(), stream, level); }
     static std::vector<int> AlongGrades(const PictureStream& stream)
     {
-        std::vector<int> rates;
-        for (const auto level : kAllGrades)
-            rates.push_back(Rate(stream, level));
-        return rates;
+        return Along(kAllGrades, [&](Grade level) { return Rate(stream, level); });
     }
     static std::vector<int> AlongSizes(double frameRate, Grade level)
     {
-        std::vector<int> rates;
-        for (const auto size : kPictures)
-            rates.push_back(Rate({size.width, size.height, frameRate, k420}, level));
-        return rates;
+        return Along(kPictures,
+                     [&](PictureSize size) {
+                         return Rate({size.width, size.height, frameRate, k420}, level);
+                     });
     }
     static std::vector<int> AlongFrameRates(PictureSize size, Grade level)
     {
+        return Along(kFrameRates,
+                     [&](double rate) {
+                         return Rate({size.width, size.height, rate, k420}, level);
+                     });
+    }
+
+private:
+    template <class Steps, class RateOf>
+    static std::vector<int> Along(const Steps& steps, RateOf rateOf)
+    {
         std::vector<int> rates;
-        for (const double rate : kFrameRates)
-            rates.push_back(Rate({size.width, size.height, rate, k420}, level));
+        std::ranges::transform(steps, std::back_inserter(rates), rateOf);
         return rates;
     }
 };
