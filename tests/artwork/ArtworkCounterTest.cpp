@@ -27,7 +27,7 @@ void TakeThoseBehind(int last, int taken, Bytes& file)
 }
 
 /// Lets the automatic identifiers come to 9,999,999, by files that each hold the next ones.
-int ComeToTheReservedOnes(int last, const std::shared_ptr<IVXArtworkImageGroup>& group)
+void ComeToTheReservedOnes(int last, const std::shared_ptr<IVXArtworkImageGroup>& group)
 {
     ScriptedPlatform platform;
     auto& file = platform.File("icons").bytes;
@@ -39,7 +39,7 @@ int ComeToTheReservedOnes(int last, const std::shared_ptr<IVXArtworkImageGroup>&
     };
     while (last < 9999999 - kTaken)
         last = add(kTaken - 1);
-    return add(9999999 - last - 1);
+    EXPECT_EQ(9999999, add(9999999 - last - 1));
 }
 
 // The counter belongs to the process, so this program has one test. Ten million steps are for fast builds
@@ -50,9 +50,7 @@ TEST_F(ArtworkFileTest, AutomaticFaceIdentifiersStartAtOneAndPassOverCustomizeAn
     EXPECT_EQ(1, manager->AddArtworkImageGroup(GroupOf("a")));
     EXPECT_EQ(2, manager->AddArtworkImageGroup(GroupOf("b")));
     if (kIsFastBuild)
-    {
-        EXPECT_EQ(9999999, ComeToTheReservedOnes(2, GroupOf("c")));
-    }
+        ComeToTheReservedOnes(2, GroupOf("c"));
     EXPECT_EQ(kIsFastBuild ? 10000002 : 3, manager->AddArtworkImageGroup(GroupOf("d")));
 }
 
