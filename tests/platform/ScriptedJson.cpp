@@ -192,18 +192,18 @@ struct Writer
 
     std::string operator()(const Value::Array& elements) const
     {
-        std::string text;
+        std::string text = "[";
         for (const auto& element : elements)
-            text += (text.empty() ? "" : ",") + Text(element);
-        return '[' + text + ']';
+            text.append(text.size() > 1 ? "," : "").append(Text(element));
+        return text + ']';
     }
 
     std::string operator()(const Value::Object& members) const
     {
-        std::string text;
+        std::string text = "{";
         for (const auto& [name, value] : members)
-            text += (text.empty() ? "" : ",") + Quoted(name) + ':' + Text(value);
-        return '{' + text + '}';
+            text.append(text.size() > 1 ? "," : "").append(Quoted(name)).append(":").append(Text(value));
+        return text + '}';
     }
 };
 
