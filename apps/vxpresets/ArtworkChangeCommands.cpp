@@ -13,6 +13,7 @@
 #include "IVXData.h"
 
 #include <algorithm>
+#include <functional>
 #include <set>
 
 namespace Vexlor::Tool
@@ -117,15 +118,15 @@ std::string ArtworkReplaceCommand(const Request& request, const Catalogue&, cons
 std::string ArtworkRemoveCommand(const Request& request, const Catalogue&, const Style&)
 {
     const auto& path = *request.artwork.file;
-    std::set<std::size_t> positions;
+    // From behind: what stands in front keeps its position.
+    std::set<std::size_t, std::greater<>> positions;
     ChangeArtwork(path, false,
                   [&](const ArtworkFile& file, ArtworkSources& groups)
                   {
                       for (const auto& face : request.artwork.faces)
                           positions.insert(FindGroup(file, face));
-                      // From behind: what stands in front keeps its position.
-                      for (auto position = positions.rbegin(); position != positions.rend(); ++position)
-                          groups.erase(groups.begin() + static_cast<std::ptrdiff_t>(*position));
+                      for (const auto position : positions)
+                          groups.erase(groups.begin() + static_cast<std::ptrdiff_t>(position));
                   });
     return Done(path, "removed " + Counted(static_cast<int>(positions.size()), "group", "groups"));
 }

@@ -69,9 +69,9 @@ std::string ArtworkCheckCommand(const Request& request, const Catalogue&, const 
 {
     const auto file = OpenRequested(request.artwork);
     const auto findings = FindingsOf(file);
-    auto report = request.asJson ? ReportJson(file, findings) : Report(file, findings);
+    const auto report = request.asJson ? ReportJson(file, findings) : Report(file, findings);
     if (std::ranges::any_of(findings, &ArtworkFinding::isError))
-        throw BadAnswer(std::move(report));
+        throw BadAnswer(report);
     return report;
 }
 

@@ -17,7 +17,7 @@ namespace Vexlor::Tool
 namespace
 {
 
-constexpr char kBuiltIn[] = "built-in artwork";
+constexpr const char* kBuiltIn = "built-in artwork";
 
 std::optional<int> NumberOf(std::string_view text)
 {
@@ -47,6 +47,7 @@ std::size_t GroupOfFace(const ArtworkFile& file, int faceID)
 std::vector<Candidate> NamesOf(const std::vector<int>& faceIDs)
 {
     std::vector<Candidate> names;
+    names.reserve(faceIDs.size());
     for (const int faceID : faceIDs)
         names.push_back({FaceText(faceID), {FaceName(faceID)}});
     return names;
@@ -83,9 +84,8 @@ int FaceOf(const std::string& text)
 {
     if (const auto number = NumberOf(text))
         return *number;
-    std::vector<int> faceIDs;
-    for (const auto& face : Catalog::kFaces)
-        faceIDs.push_back(face.id);
+    std::vector<int> faceIDs(Catalog::kFaces.size());
+    std::ranges::transform(Catalog::kFaces, faceIDs.begin(), &Catalog::Face::id);
     return faceIDs[FindByName(NamesOf(faceIDs), text, "face identifier", "vxpresets")];
 }
 

@@ -10,8 +10,8 @@ namespace Vexlor::Tool
 namespace
 {
 
-constexpr char kFileHelp[] = "Artwork file; the built-in one where none is named";
-constexpr char kGroupHelp[] =
+constexpr const char* kFileHelp = "Artwork file; the built-in one where none is named";
+constexpr const char* kGroupHelp =
     "Group: its face identifier, the identifier's name or a part of it, or #POSITION";
 
 // What decoders think of a damaged picture; the commands tell it themselves, with the picture's name.
