@@ -40,7 +40,7 @@ TEST_P(ArtworkCheck, Reports)
     EXPECT_EQ("", run.err);
 }
 
-const Damage kDamages[] = {
+const std::vector<Damage> kDamages = {
     {"NothingWrong", FileOf({{1, kOne}, {2, kOne}}), 0, "2 groups, nothing wrong\n"},
     {"DeadSpace", File({{1, 51210, kSize}}, std::string(10, 'x') + kOne + "abc"), 0,
      "warning: 13 bytes are used by no group\n"},
@@ -127,7 +127,7 @@ TEST_P(ArtworkRefused, ByEveryCommand)
     EXPECT_TRUE(Holds(file, GetParam().bytes));
 }
 
-const NoArtwork kNoArtworks[] = {
+const std::vector<NoArtwork> kNoArtworks = {
     {"OneByte", "Z"},
     {"Text", "a text that is longer than the magic of an artwork file"},
     {"MagicWithoutItsZero", "ZQAW2023CC1" + std::string(60000, '\0')},
@@ -207,7 +207,7 @@ TEST_P(ArtworkNotChanged, WhereAGroupWouldBeLost)
     EXPECT_EQ(1, folder.Count());
 }
 
-const Stuck kStuck[] = {
+const std::vector<Stuck> kStuck = {
     {"BeyondTheEnd", File({{1, 51200, kSize + 1}, {2, 51200, kSize}}, kOne),
      "group 1 reaches beyond the end; remove it first"},
     {"MoreGroupBytesThanTheFileHas", File(std::vector<Entry>(1500, {1, 51200, kSize}), kOne),

@@ -145,7 +145,7 @@ TEST_P(ArtworkSafety, KilledAtAnyTimeTheFileIsTheOldOrTheNewOne)
     std::cout << "killed " << kKills << " times, " << changed << " of them after the change\n";
 }
 
-const Change kChanges[] = {
+const std::vector<Change> kChanges = {
     {"Add",
      {"add", "FILE", "4", "--picture", "0:normal=PICTURE"},
      FileOf({{1, kLarge}, {2, kOne}, {3, kLarge}, {4, kOne}})},

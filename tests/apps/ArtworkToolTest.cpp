@@ -319,7 +319,7 @@ TEST_P(ArtworkMisuse, IsWrongUsage)
     EXPECT_EQ("", run.out);
 }
 
-const Misuse kMisuses[] = {
+const std::vector<Misuse> kMisuses = {
     {"NoCommand", {}, "subcommand is required"},
     {"UnknownCommand", {"lst"}, "no command \"lst\""},
     {"AddWithoutFile", {"add"}, "FILE is required"},
