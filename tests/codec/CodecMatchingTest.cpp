@@ -11,9 +11,11 @@ namespace Vexlor
 namespace
 {
 
+using testing::AllOf;
 using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 using testing::Not;
 
 // What a codec library is asked for each kind of choice.
@@ -243,12 +245,6 @@ TEST_F(VideoMatching, StartsWithTheOutputAndTheEncoder)
     EXPECT_EQ("MallocCodecs(7, true)", platform.Calls().at(1));
 }
 
-TEST_F(VideoMatching, OnlyEverMakesEncoders)
-{
-    Preset(kVideo)->MatchForSource({}, -1, -1);
-    EXPECT_THAT(platform.CallsTo("MallocCodecs"), Each("MallocCodecs(7, true)"));
-}
-
 TEST_F(VideoMatching, OfADefaultAsksForTheBitrateBeforeItSetsTheFormat)
 {
     const auto output = Preset(kVideo, kConcreteVideo)->DefaultCodecParameter(-1, -1);
@@ -365,6 +361,18 @@ TEST_F(AudioMatching, OfADefaultOfAnyOtherTypeSetsNoFormat)
     const auto output = Preset(kAudio, kConcrete)->DefaultCodecParameter(-1, -1);
     EXPECT_THAT(Setters(output), HasSubstr("SetSampleRate(48000)\n"));
     EXPECT_THAT(Setters(output), Not(HasSubstr("SetFormat")));
+}
+
+TEST_F(CodecMatching, OnlyEverMakesEncoders)
+{
+    for (const int codecID : {kVideo, kAudio})
+    {
+        const auto preset = Preset(codecID);
+        preset->MatchForSource({}, -1, 1);
+        preset->DefaultCodecParameter(-1, -1);
+        const auto encoder = "MallocCodecs(" + std::to_string(codecID) + ", true)";
+        EXPECT_THAT(platform.CallsTo("MallocCodecs"), AllOf(Not(IsEmpty()), Each(encoder)));
+    }
 }
 
 // Formats: a codec with two formats offers [None, first, second].

@@ -127,9 +127,12 @@ TEST_P(CodecPresetList, FindsNothingByCodec)
 
 TEST_P(CodecPresetList, HasACurrentEntry)
 {
-    const auto list = List("ABC", 1);
-    EXPECT_EQ(list(Side().at, 1), list(Side().current));
-    EXPECT_EQ(list(Side().at, 1), (list.Const().*Side().constCurrent)());
+    for (const int index : {0, 1, 2})
+    {
+        const auto list = List("ABC", index);
+        EXPECT_EQ(list(Side().at, index), list(Side().current));
+        EXPECT_EQ(list(Side().at, index), (list.Const().*Side().constCurrent)());
+    }
 }
 
 TEST_P(CodecPresetList, HasNoCurrentEntryAtANegativeIndex)

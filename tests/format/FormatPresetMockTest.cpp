@@ -48,14 +48,38 @@ TEST(FormatPresetOperations, CurrentCodecsAskTheConstFormsOfAConstPreset)
     EXPECT_EQ(codec, constPreset.CurrentVideoCodec());
 }
 
-TEST(FormatPresetOperations, CurrentCodecsAskForNoEntryBeyondTheCount)
+class CurrentCodecIndex : public testing::TestWithParam<int>
 {
+protected:
+    CurrentCodecIndex()
+    {
+        ON_CALL(preset, IndexForAudioCodecPresets()).WillByDefault(Return(GetParam()));
+        ON_CALL(preset, IndexForVideoCodecPresets()).WillByDefault(Return(GetParam()));
+        ON_CALL(preset, AudioCodecPresetCount()).WillByDefault(Return(5));
+        ON_CALL(preset, VideoCodecPresetCount()).WillByDefault(Return(5));
+    }
+
     Mock preset;
-    ON_CALL(preset, IndexForAudioCodecPresets()).WillByDefault(Return(5));
-    ON_CALL(preset, AudioCodecPresetCount()).WillByDefault(Return(5));
+};
+
+TEST_P(CurrentCodecIndex, OutsideTheListAsksForNoEntry)
+{
     EXPECT_CALL(preset, AudioCodecPreset(testing::_)).Times(0);
+    EXPECT_CALL(preset, VideoCodecPreset(testing::_)).Times(0);
     EXPECT_EQ(nullptr, preset.CurrentAudioCodec());
+    EXPECT_EQ(nullptr, preset.CurrentVideoCodec());
 }
+
+TEST_P(CurrentCodecIndex, OutsideTheListAsksForNoEntryReadOnly)
+{
+    const FormatPresetMock& constPreset = preset;
+    EXPECT_CALL(constPreset, AudioCodecPreset(testing::_)).Times(0);
+    EXPECT_CALL(constPreset, VideoCodecPreset(testing::_)).Times(0);
+    EXPECT_EQ(nullptr, constPreset.CurrentAudioCodec());
+    EXPECT_EQ(nullptr, constPreset.CurrentVideoCodec());
+}
+
+INSTANTIATE_TEST_SUITE_P(Outside, CurrentCodecIndex, testing::Values(-1, -3, 5, 6));
 
 TEST(FormatPresetOperations, GetFormatAsksForTheName)
 {

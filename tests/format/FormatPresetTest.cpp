@@ -186,6 +186,12 @@ constexpr const char* kFull =
 
 TEST_F(FormatPreset, OfAnEmptyObjectHasDefaults) { EXPECT_EQ(kEmpty, Rewritten("{}")); }
 
+TEST_F(FormatPreset, OfNoDocumentHasDefaults)
+{
+    EXPECT_EQ(kEmpty,
+              Text(IVXFormatPreset::MallocFormatPreset(std::shared_ptr<const IVXJsonValue>())->JsonValue()));
+}
+
 TEST_F(FormatPreset, OfAnythingElseHasDefaultsToo)
 {
     for (const char* json : {"null", "[]", "3", "\"MP4\"", "true"})

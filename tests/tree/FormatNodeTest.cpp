@@ -290,6 +290,12 @@ TEST_F(FormatNode, OfAnEmptyObjectIsEmpty)
     EXPECT_EQ(nullptr, root->Parent());
 }
 
+TEST_F(FormatNode, OfNoDocumentIsEmpty)
+{
+    EXPECT_EQ(kEmpty,
+              Text(IVXFormatNode::MallocFormatNode(std::shared_ptr<const IVXJsonValue>())->JsonValue()));
+}
+
 TEST_F(FormatNode, OfAnythingElseIsEmptyToo)
 {
     for (const char* json : {"null", "[]", R"([{"name":"x"}])", "3", R"("text")", "true"})

@@ -67,6 +67,15 @@ TYPED_TEST(FormatNodeList, HasAFirstAndALast)
     EXPECT_EQ(list.At(2), (list.Const().*TypeParam::kConstLast)());
 }
 
+TYPED_TEST(FormatNodeList, HasOneElementThatIsFirstAndLast)
+{
+    const NodeList<TypeParam> list("A");
+    EXPECT_EQ(list.At(0), list(TypeParam::kFirst));
+    EXPECT_EQ(list.At(0), (list.Const().*TypeParam::kConstFirst)());
+    EXPECT_EQ(list.At(0), list(TypeParam::kLast));
+    EXPECT_EQ(list.At(0), (list.Const().*TypeParam::kConstLast)());
+}
+
 TYPED_TEST(FormatNodeList, HasNoFirstOrLastWhenItIsEmpty)
 {
     const NodeList<TypeParam> list("");
