@@ -10,7 +10,7 @@ function(vx_target_defaults target)
   endif()
 endfunction()
 
-# One of the three libraries: its name, the define that marks its own build, the folder of its public headers.
+# One of the three libraries: its name, the define that marks its own build, the folder of its public headers, its sources.
 function(vx_add_library target build_define header_folder)
   add_library(${target} ${ARGN})
   vx_target_defaults(${target})
@@ -18,8 +18,13 @@ function(vx_add_library target build_define header_folder)
   target_sources(${target} PUBLIC FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/${header_folder} FILES ${headers})
   target_compile_definitions(${target} PRIVATE ${build_define} PUBLIC $<$<NOT:$<BOOL:${BUILD_SHARED_LIBS}>>:VX_STATIC>)
   set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
-                                             VERIFY_INTERFACE_HEADER_SETS ON)
+                                             VERIFY_INTERFACE_HEADER_SETS ON INSTALL_RPATH $ORIGIN)
   add_library(Vexlor::${target} ALIAS ${target})
+endfunction()
+
+# Headers of the runtime that hosts may call beyond the platform's, included by their path from the root.
+function(vx_add_host_headers target)
+  target_sources(${target} PUBLIC FILE_SET hosts TYPE HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR} FILES ${ARGN})
 endfunction()
 
 # One subsystem of the preset library. Its include path is what the walls between the folders allow and no more, so
