@@ -5,6 +5,8 @@
 
 #include "tests/platform/ScriptedJson.h"
 
+#include <gtest/gtest.h>
+
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -139,6 +141,19 @@ public:
 
 private:
     std::shared_ptr<IVXFormatNode> m_node = ChildFamily::Make("node");
+};
+
+/// Both families, for tests that hold of each.
+using Families = testing::Types<PresetFamily, ChildFamily>;
+
+/// Names a family in the names of its tests.
+struct FamilyName
+{
+    template <class Family>
+    static std::string GetName(int)
+    {
+        return Family::kName;
+    }
 };
 
 } // namespace Vexlor
