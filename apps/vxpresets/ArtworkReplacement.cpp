@@ -58,7 +58,8 @@ bool FileReplacement::Exists() const
 const std::string& FileReplacement::Open()
 {
     constexpr mode_t kAllMayReadAndWrite = 0666; // less what the user's mask takes away
-    const auto path = (m_folder / std::string(".").append(m_target.filename().string()).append(".new")).string();
+    const auto path =
+        (m_folder / std::string(".").append(m_target.filename().string()).append(".new")).string();
     if (m_isLocked)
         ::unlink(path.c_str()); // left over of a change that was killed: nobody else is at it now
     const int file = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kAllMayReadAndWrite);
