@@ -69,7 +69,7 @@ std::string ArtworkCheckCommand(const Request& request, const Catalogue&, const 
 {
     const auto file = OpenRequested(request.artwork);
     const auto findings = FindingsOf(file);
-    const auto report = request.asJson ? ReportJson(file, findings) : Report(file, findings);
+    auto report = request.asJson ? ReportJson(file, findings) : Report(file, findings);
     if (std::ranges::any_of(findings, &ArtworkFinding::isError))
         throw BadAnswer(report);
     return report;
