@@ -50,7 +50,7 @@ int Main(const std::string& folder, const std::string& file)
 int main(int argc, char** argv)
 {
     if (argc == 3)
-        return Vexlor::Tool::Main(argv[1], argv[2]); // NOLINT(*-pointer-arithmetic)
+        return Vexlor::Tool::Main(argv[1], argv[2]);
     static_cast<void>(std::fputs("usage: vxpresets-pack FOLDER-OF-SVGS ARTWORK-FILE\n", stderr));
     return 2;
 }

@@ -14,7 +14,7 @@ namespace
 // Nothing else runs yet when the environment is read.
 std::string_view Environment(const char* name)
 {
-    const char* value = std::getenv(name); // NOLINT(concurrency-mt-unsafe)
+    const char* value = std::getenv(name);
     return value ? value : "";
 }
 

@@ -17,7 +17,7 @@ constexpr std::array kLow{
     LadderPoint{2560, 1440, 6750}, LadderPoint{3840, 2160, 9667},
 };
 
-// Normal. Apple, HLS authoring specification for Apple devices, revision of 2025-06-26, H.264 at up to 30
+// Normal. Apple, HLS authoring rules for Apple devices, revision of 2025-06-26, H.264 at up to 30
 // fps, the lower figure where a size has two. From 1440p on its HEVC figures (8100 and 11600) by HEVC's
 // factor.
 constexpr std::array kNormal{

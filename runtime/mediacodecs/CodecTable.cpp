@@ -65,7 +65,7 @@ constexpr auto kAACLayouts =
 // acmod and lfeon: ATSC A/52 table 5.8.
 constexpr auto kAC3Layouts = kLayouts<kStereo, kMono, kLayout21, kLayout30, kLayout30Back, kLayout31,
                                       kLayout40, kQuadSide, kLayout41, kLayout50Side, kLayout51Side>;
-// Channel mapping family 1, RFC 7845 5.1.1.2; the Vorbis I specification 4.3.9 has the same.
+// Channel mapping family 1, RFC 7845 5.1.1.2; Vorbis I, 4.3.9, has the same.
 constexpr auto kXiphLayouts =
     kLayouts<kStereo, kMono, kLayout30, kQuad, kLayout50, kLayout51, kLayout61, kLayout71>;
 // Channel assignment: RFC 9639 9.1.3.

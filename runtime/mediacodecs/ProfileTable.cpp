@@ -62,7 +62,7 @@ constexpr std::array kMPEG2Profiles{
     ProfileRow{128, VX_AV_PROFILE(MPEG2_422), "4:2:2", "mpeg2video"},
 };
 
-// Profile, VP9 bitstream specification 7.2.
+// Profile, VP9 bitstream, 7.2.
 constexpr std::array kVP9Profiles{
     ProfileRow{0, VX_AV_PROFILE(VP9_0), "Profile 0", "libvpx-vp9"},
     ProfileRow{1, VX_AV_PROFILE(VP9_1), "Profile 1", "libvpx-vp9"},
@@ -70,7 +70,7 @@ constexpr std::array kVP9Profiles{
     ProfileRow{3, VX_AV_PROFILE(VP9_3), "Profile 3", "libvpx-vp9"},
 };
 
-// seq_profile, AV1 bitstream specification A.2.
+// seq_profile, AV1 bitstream, A.2.
 constexpr std::array kAV1Profiles{
     ProfileRow{0, VX_AV_PROFILE(AV1_MAIN), "Main", "libsvtav1 libaom-av1 librav1e"},
     ProfileRow{1, VX_AV_PROFILE(AV1_HIGH), "High", "libaom-av1"},
@@ -143,7 +143,7 @@ constexpr std::array kVP9Levels{
     LevelRow{61, 61, "6.1", "6.1"}, LevelRow{62, 62, "6.2", "6.2"},
 };
 
-// seq_level_idx, AV1 bitstream specification A.3; the indices left out are reserved.
+// seq_level_idx, AV1 bitstream, A.3; the indices left out are reserved.
 constexpr std::array kAV1Levels{
     LevelRow{0, 0, "2.0"},   LevelRow{1, 1, "2.1"},   LevelRow{4, 4, "3.0"},   LevelRow{5, 5, "3.1"},
     LevelRow{8, 8, "4.0"},   LevelRow{9, 9, "4.1"},   LevelRow{12, 12, "5.0"}, LevelRow{13, 13, "5.1"},

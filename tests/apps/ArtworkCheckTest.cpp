@@ -173,7 +173,7 @@ TEST(ArtworkHostile, TruncatedFilesAreEndured)
 TEST(ArtworkHostile, MutatedFilesAreEndured)
 {
     const TestFolder folder;
-    std::mt19937 random(20231); // NOLINT(*-msc51-cpp): the same files every time
+    std::mt19937 random(20231); // the same files every time
     for (int round = 0; round < 5; ++round)
     {
         auto bytes = Default();

@@ -154,7 +154,7 @@ TEST(ArtworkIcons, ArePackedTheSameEveryTime)
 {
     const TestFolder folder;
     const auto command = std::string(VX_PACK " " VX_ICONS " ") + (folder / "again.artwork");
-    ASSERT_EQ(0, std::system(command.c_str())); // NOLINT(concurrency-mt-unsafe,cert-env33-c)
+    ASSERT_EQ(0, std::system(command.c_str()));
     EXPECT_TRUE(Default() == ContentOf(folder / "again.artwork"));
 }
 

@@ -112,7 +112,7 @@ Output OpenOutput(const ToolSetting& setting)
 std::vector<std::string> EnvironmentOf(const ToolSetting& setting)
 {
     auto variables = setting.environment;
-    for (char** variable = environ; *variable; ++variable) // NOLINT(*-pointer-arithmetic)
+    for (char** variable = environ; *variable; ++variable)
     {
         const std::string_view text = *variable;
         if (!text.starts_with("TERM=") && !text.starts_with("NO_COLOR="))
