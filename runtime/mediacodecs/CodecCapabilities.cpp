@@ -1,6 +1,7 @@
 #include "CodecCapabilities.h"
 
 #include "FFmpegCompat.h"
+#include "LevelTable.h"
 #include "Lookup.h"
 #include "ProfileTable.h"
 #include "SampleFormats.h"

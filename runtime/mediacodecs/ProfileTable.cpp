@@ -89,84 +89,17 @@ constexpr std::array kAACProfiles{
     ProfileRow{39, VX_AV_PROFILE(AAC_ELD), "ELD", ""},
 };
 
-// level_idc, ITU-T H.264 table A-1.
-constexpr std::array kH264Levels{
-    LevelRow{10, 10, "1", "1"},     LevelRow{9, 9, "1b", "1b"},     LevelRow{11, 11, "1.1", "1.1"},
-    LevelRow{12, 12, "1.2", "1.2"}, LevelRow{13, 13, "1.3", "1.3"}, LevelRow{20, 20, "2", "2"},
-    LevelRow{21, 21, "2.1", "2.1"}, LevelRow{22, 22, "2.2", "2.2"}, LevelRow{30, 30, "3", "3"},
-    LevelRow{31, 31, "3.1", "3.1"}, LevelRow{32, 32, "3.2", "3.2"}, LevelRow{40, 40, "4", "4"},
-    LevelRow{41, 41, "4.1", "4.1"}, LevelRow{42, 42, "4.2", "4.2"}, LevelRow{50, 50, "5", "5"},
-    LevelRow{51, 51, "5.1", "5.1"}, LevelRow{52, 52, "5.2", "5.2"}, LevelRow{60, 60, "6", "6"},
-    LevelRow{61, 61, "6.1", "6.1"}, LevelRow{62, 62, "6.2", "6.2"},
-};
-
-// general_level_idc (30 times the level), ITU-T H.265 table A.8; 1000 is added for the High tier.
-constexpr std::array kHEVCLevels{
-    LevelRow{30, 30, "1", "level-idc=1:high-tier=0"},
-    LevelRow{60, 60, "2", "level-idc=2:high-tier=0"},
-    LevelRow{63, 63, "2.1", "level-idc=2.1:high-tier=0"},
-    LevelRow{90, 90, "3", "level-idc=3:high-tier=0"},
-    LevelRow{93, 93, "3.1", "level-idc=3.1:high-tier=0"},
-    LevelRow{120, 120, "4", "level-idc=4:high-tier=0"},
-    LevelRow{1120, 120, "4 High", "level-idc=4:high-tier=1"},
-    LevelRow{123, 123, "4.1", "level-idc=4.1:high-tier=0"},
-    LevelRow{1123, 123, "4.1 High", "level-idc=4.1:high-tier=1"},
-    LevelRow{150, 150, "5", "level-idc=5:high-tier=0"},
-    LevelRow{1150, 150, "5 High", "level-idc=5:high-tier=1"},
-    LevelRow{153, 153, "5.1", "level-idc=5.1:high-tier=0"},
-    LevelRow{1153, 153, "5.1 High", "level-idc=5.1:high-tier=1"},
-    LevelRow{156, 156, "5.2", "level-idc=5.2:high-tier=0"},
-    LevelRow{1156, 156, "5.2 High", "level-idc=5.2:high-tier=1"},
-    LevelRow{180, 180, "6", "level-idc=6:high-tier=0"},
-    LevelRow{1180, 180, "6 High", "level-idc=6:high-tier=1"},
-    LevelRow{183, 183, "6.1", "level-idc=6.1:high-tier=0"},
-    LevelRow{1183, 183, "6.1 High", "level-idc=6.1:high-tier=1"},
-    LevelRow{186, 186, "6.2", "level-idc=6.2:high-tier=0"},
-    LevelRow{1186, 186, "6.2 High", "level-idc=6.2:high-tier=1"},
-};
-
-// The lower four bits of profile_and_level_indication, Advanced Simple, ISO/IEC 14496-2 annex G.
-constexpr std::array kMPEG4Levels{LevelRow{0, 0, "0"}, LevelRow{1, 1, "1"},  LevelRow{2, 2, "2"},
-                                  LevelRow{3, 3, "3"}, LevelRow{7, 7, "3b"}, LevelRow{4, 4, "4"},
-                                  LevelRow{5, 5, "5"}};
-
-// Level identification, ISO/IEC 13818-2 table 8-3: the higher the level, the lower its number.
-constexpr std::array kMPEG2Levels{LevelRow{10, 10, "Low"}, LevelRow{8, 8, "Main"},
-                                  LevelRow{6, 6, "High 1440"}, LevelRow{4, 4, "High"}};
-
-// Ten times the level, as the codec configuration box of VP9 in MP4 has it.
-constexpr std::array kVP9Levels{
-    LevelRow{10, 10, "1", "1"},     LevelRow{11, 11, "1.1", "1.1"}, LevelRow{20, 20, "2", "2"},
-    LevelRow{21, 21, "2.1", "2.1"}, LevelRow{30, 30, "3", "3"},     LevelRow{31, 31, "3.1", "3.1"},
-    LevelRow{40, 40, "4", "4"},     LevelRow{41, 41, "4.1", "4.1"}, LevelRow{50, 50, "5", "5"},
-    LevelRow{51, 51, "5.1", "5.1"}, LevelRow{52, 52, "5.2", "5.2"}, LevelRow{60, 60, "6", "6"},
-    LevelRow{61, 61, "6.1", "6.1"}, LevelRow{62, 62, "6.2", "6.2"},
-};
-
-// seq_level_idx, AV1 bitstream, A.3; the indices left out are reserved.
-constexpr std::array kAV1Levels{
-    LevelRow{0, 0, "2.0"},   LevelRow{1, 1, "2.1"},   LevelRow{4, 4, "3.0"},   LevelRow{5, 5, "3.1"},
-    LevelRow{8, 8, "4.0"},   LevelRow{9, 9, "4.1"},   LevelRow{12, 12, "5.0"}, LevelRow{13, 13, "5.1"},
-    LevelRow{14, 14, "5.2"}, LevelRow{15, 15, "5.3"}, LevelRow{16, 16, "6.0"}, LevelRow{17, 17, "6.1"},
-    LevelRow{18, 18, "6.2"}, LevelRow{19, 19, "6.3"},
-};
-
 struct CodecProfiles
 {
     int codecID;
     std::span<const ProfileRow> profiles;
-    std::span<const LevelRow> levels;
 };
 
 constexpr std::array kCodecs{
-    CodecProfiles{VXCodecID_H264, kH264Profiles, kH264Levels},
-    CodecProfiles{VXCodecID_HEVC, kHEVCProfiles, kHEVCLevels},
-    CodecProfiles{VXCodecID_MPEG4, kMPEG4Profiles, kMPEG4Levels},
-    CodecProfiles{VXCodecID_DIVX, kMPEG4Profiles, kMPEG4Levels},
-    CodecProfiles{VXCodecID_MPEG2, kMPEG2Profiles, kMPEG2Levels},
-    CodecProfiles{VXCodecID_VP9, kVP9Profiles, kVP9Levels},
-    CodecProfiles{VXCodecID_AV1, kAV1Profiles, kAV1Levels},
-    CodecProfiles{VXCodecID_AAC, kAACProfiles, {}},
+    CodecProfiles{VXCodecID_H264, kH264Profiles},   CodecProfiles{VXCodecID_HEVC, kHEVCProfiles},
+    CodecProfiles{VXCodecID_MPEG4, kMPEG4Profiles}, CodecProfiles{VXCodecID_DIVX, kMPEG4Profiles},
+    CodecProfiles{VXCodecID_MPEG2, kMPEG2Profiles}, CodecProfiles{VXCodecID_VP9, kVP9Profiles},
+    CodecProfiles{VXCodecID_AV1, kAV1Profiles},     CodecProfiles{VXCodecID_AAC, kAACProfiles},
 };
 
 const CodecProfiles* FindCodecProfiles(int codecID)
@@ -182,22 +115,10 @@ std::span<const ProfileRow> ProfilesOf(int codecID)
     return codec ? codec->profiles : std::span<const ProfileRow>();
 }
 
-std::span<const LevelRow> LevelsOf(int codecID)
-{
-    const auto* codec = FindCodecProfiles(codecID);
-    return codec ? codec->levels : std::span<const LevelRow>();
-}
-
 int ProfileNumberOf(int codecID, int avProfile)
 {
     const auto* row = FindRow(ProfilesOf(codecID), &ProfileRow::avNumber, avProfile);
     return row ? row->number : IVXCodecs::VXProfileUnknown;
-}
-
-int LevelNumberOf(int codecID, int avLevel)
-{
-    const auto* row = FindRow(LevelsOf(codecID), &LevelRow::avNumber, avLevel);
-    return row ? row->number : IVXCodecs::VXLevelUnknown;
 }
 
 } // namespace Vexlor

@@ -2,6 +2,7 @@
 
 #include "CodecTable.h"
 #include "FFmpegCompat.h"
+#include "LevelTable.h"
 #include "PixelFormats.h"
 #include "ProfileTable.h"
 #include "SampleFormats.h"

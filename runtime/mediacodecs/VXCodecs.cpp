@@ -3,6 +3,7 @@
 #include "BitrateModel.h"
 #include "CodecCapabilities.h"
 #include "IVXRational.h"
+#include "LevelTable.h"
 #include "Lookup.h"
 #include "ProfileTable.h"
 #include "Snapping.h"

@@ -21,9 +21,6 @@ TEST(ProfileTable, NumbersAndNamesAreGivenOnceACodec)
         const auto profiles = ProfilesOf(codec.id);
         EXPECT_EQ(profiles.size(), DifferentValues(profiles, &ProfileRow::number)) << codec.name;
         EXPECT_EQ(profiles.size(), DifferentValues(profiles, &ProfileRow::name)) << codec.name;
-        const auto levels = LevelsOf(codec.id);
-        EXPECT_EQ(levels.size(), DifferentValues(levels, &LevelRow::number)) << codec.name;
-        EXPECT_EQ(levels.size(), DifferentValues(levels, &LevelRow::name)) << codec.name;
     }
 }
 
@@ -38,10 +35,7 @@ TEST(ProfileTable, EncodersOfAProfileAreEncodersOfItsCodec)
 TEST(ProfileTable, NoNumberStandsForUnknown)
 {
     for (const auto& codec : CodecTable())
-    {
         EXPECT_EQ(IVXCodecs::VXProfileUnknown, ProfileNumberOf(codec.id, -99)) << codec.name;
-        EXPECT_EQ(IVXCodecs::VXLevelUnknown, LevelNumberOf(codec.id, -99)) << codec.name;
-    }
 }
 
 TEST(ProfileTable, ReadsTheProfilesOfLibavcodec)
@@ -55,25 +49,10 @@ TEST(ProfileTable, ReadsTheProfilesOfLibavcodec)
     EXPECT_EQ(15, ProfileNumberOf(VXCodecID_DIVX, VX_AV_PROFILE(MPEG4_ADVANCED_SIMPLE)));
 }
 
-TEST(ProfileTable, ReadsALevelAsOneOfTheMainTier)
-{
-    EXPECT_EQ(123, LevelNumberOf(VXCodecID_HEVC, 123));
-    EXPECT_EQ(41, LevelNumberOf(VXCodecID_H264, 41));
-}
-
-TEST(ProfileTable, H264HasTheLevelsFrom1To62)
-{
-    const auto levels = LevelsOf(VXCodecID_H264);
-    EXPECT_EQ(20U, levels.size());
-    EXPECT_EQ("1", levels.front().name);
-    EXPECT_EQ("6.2", levels.back().name);
-}
-
 TEST(ProfileTable, ACodecWithoutProfilesHasNone)
 {
     EXPECT_TRUE(ProfilesOf(VXCodecID_VP8).empty());
-    EXPECT_TRUE(LevelsOf(VXCodecID_AAC).empty());
-    EXPECT_TRUE(LevelsOf(-1).empty());
+    EXPECT_TRUE(ProfilesOf(-1).empty());
 }
 
 } // namespace
