@@ -37,10 +37,11 @@ inline constexpr int VXCodecID_MJPEG = 17;
 inline constexpr int VXCodecID_ProRes = 18;
 inline constexpr int VXCodecID_DNxHD = 19; ///< the raster sizes of high definition only
 inline constexpr int VXCodecID_DNxHR = 20; ///< the same family at any size
-inline constexpr int VXCodecID_DV = 21;
+inline constexpr int VXCodecID_DV = 21;    ///< of the systems with 25 frames a second
 inline constexpr int VXCodecID_FFV1 = 22;
 inline constexpr int VXCodecID_GIF = 23;
-inline constexpr int VXCodecID_WebP = 24; ///< animated
+inline constexpr int VXCodecID_WebP = 24;   ///< animated
+inline constexpr int VXCodecID_DVNTSC = 25; ///< DV of the systems with 30000/1001 frames a second
 
 inline constexpr int VXCodecID_AAC = 1001;
 inline constexpr int VXCodecID_MP3 = 1002;

@@ -1,6 +1,6 @@
 #include "FormatTable.h"
 
-#include "CodecTable.h"
+#include "CodecCapabilities.h"
 #include "Lookup.h"
 #include "VXMediaCodecs.h"
 
@@ -32,6 +32,22 @@ constexpr int kMPEG2 = VXCodecID_MPEG2;
 constexpr int kVP8 = VXCodecID_VP8;
 constexpr int kVP9 = VXCodecID_VP9;
 constexpr int kAV1 = VXCodecID_AV1;
+constexpr int kTheora = VXCodecID_Theora;
+constexpr int kH263 = VXCodecID_H263;
+constexpr int kH261 = VXCodecID_H261;
+constexpr int kWMV1 = VXCodecID_WMV1;
+constexpr int kWMV2 = VXCodecID_WMV2;
+constexpr int kMSMPEG4 = VXCodecID_MSMPEG4;
+constexpr int kFLV1 = VXCodecID_FLV1;
+constexpr int kMJPEG = VXCodecID_MJPEG;
+constexpr int kProRes = VXCodecID_ProRes;
+constexpr int kDNxHD = VXCodecID_DNxHD;
+constexpr int kDNxHR = VXCodecID_DNxHR;
+constexpr int kDV = VXCodecID_DV;
+constexpr int kDVNTSC = VXCodecID_DVNTSC;
+constexpr int kFFV1 = VXCodecID_FFV1;
+constexpr int kGIF = VXCodecID_GIF;
+constexpr int kWebP = VXCodecID_WebP;
 constexpr int kAAC = VXCodecID_AAC;
 constexpr int kMP3 = VXCodecID_MP3;
 constexpr int kMP2 = VXCodecID_MP2;
@@ -40,27 +56,51 @@ constexpr int kOpus = VXCodecID_Opus;
 constexpr int kVorbis = VXCodecID_Vorbis;
 constexpr int kFLAC = VXCodecID_FLAC;
 constexpr int kPCM16 = VXCodecID_PCM16;
+constexpr int kHEAAC = VXCodecID_HEAAC;
+constexpr int kEAC3 = VXCodecID_EAC3;
+constexpr int kDTS = VXCodecID_DTS;
+constexpr int kALAC = VXCodecID_ALAC;
+constexpr int kWMA1 = VXCodecID_WMA1;
+constexpr int kWMA2 = VXCodecID_WMA2;
+constexpr int kPCM24 = VXCodecID_PCM24;
+constexpr int kPCM32 = VXCodecID_PCM32;
+constexpr int kPCMFloat = VXCodecID_PCMFloat;
+constexpr int kALaw = VXCodecID_ALaw;
+constexpr int kMuLaw = VXCodecID_MuLaw;
+constexpr int kADPCM = VXCodecID_ADPCM;
+constexpr int kADPCMMS = VXCodecID_ADPCMMS;
+constexpr int kSpeex = VXCodecID_Speex;
+constexpr int kAMRNB = VXCodecID_AMRNB;
+constexpr int kAMRWB = VXCodecID_AMRWB;
+constexpr int kWavPack = VXCodecID_WavPack;
+constexpr int kTTA = VXCodecID_TTA;
+constexpr int kPCM16BE = VXCodecID_PCM16BE;
+constexpr int kPCM24BE = VXCodecID_PCM24BE;
 
 // MPG is written by the muxer of MPEG-2 program streams; the one named "mpeg" makes MPEG-1 system streams.
 constexpr std::array kFormats{
     FormatRow{.name = "MP4",
               .muxer = "mp4",
               .demuxer = "mp4",
-              .endings = "mp4 m4v",
+              .endings = "mp4",
               .videoCodecs = kCodecs<kH264, kHEVC, kAV1, kVP9, kMPEG4, kMPEG2, kMPEG1>,
-              .audioCodecs = kCodecs<kAAC, kMP3, kAC3, kOpus, kFLAC, kMP2>},
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kMP3, kAC3, kEAC3, kOpus, kFLAC, kALAC, kMP2>},
     FormatRow{.name = "MOV",
               .muxer = "mov",
               .demuxer = "mov",
               .endings = "mov qt",
-              .videoCodecs = kCodecs<kH264, kHEVC, kMPEG4, kMPEG2>,
-              .audioCodecs = kCodecs<kAAC, kPCM16, kMP3, kAC3>},
+              .videoCodecs = kCodecs<kH264, kHEVC, kProRes, kDNxHR, kDNxHD, kMJPEG, kDV, kDVNTSC, kMPEG4,
+                                     kMPEG2, kH263, kH261>,
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kALAC, kPCM16, kPCM24, kPCM32, kPCMFloat, kMP3, kAC3,
+                                     kEAC3, kPCM16BE, kPCM24BE, kALaw, kMuLaw>},
     FormatRow{.name = "MKV",
               .muxer = "matroska",
               .demuxer = "matroska",
-              .endings = "mkv mka",
-              .videoCodecs = kCodecs<kH264, kHEVC, kAV1, kVP9, kVP8, kMPEG4, kDIVX, kMPEG2, kMPEG1>,
-              .audioCodecs = kCodecs<kAAC, kOpus, kMP3, kAC3, kFLAC, kVorbis, kMP2, kPCM16>},
+              .endings = "mkv",
+              .videoCodecs = kCodecs<kH264, kHEVC, kAV1, kVP9, kVP8, kMPEG4, kDIVX, kMPEG2, kMPEG1, kFFV1,
+                                     kProRes, kTheora, kMJPEG>,
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kOpus, kMP3, kAC3, kEAC3, kDTS, kFLAC, kVorbis, kMP2,
+                                     kPCM16, kPCM24, kPCM32, kPCMFloat, kALAC, kWavPack, kTTA>},
     FormatRow{.name = "WEBM",
               .muxer = "webm",
               .demuxer = "webm",
@@ -71,14 +111,100 @@ constexpr std::array kFormats{
               .muxer = "avi",
               .demuxer = "avi",
               .endings = "avi divx",
-              .videoCodecs = kCodecs<kMPEG4, kDIVX, kH264, kMPEG2, kMPEG1>,
-              .audioCodecs = kCodecs<kMP3, kAC3, kPCM16, kMP2, kAAC>},
+              .videoCodecs = kCodecs<kMPEG4, kDIVX, kH264, kMSMPEG4, kMJPEG, kMPEG2, kMPEG1, kDV, kDVNTSC,
+                                     kFFV1, kWMV2, kWMV1, kH263, kH261>,
+              .audioCodecs = kCodecs<kMP3, kAC3, kPCM16, kMP2, kAAC, kDTS, kPCM24, kPCMFloat, kADPCMMS,
+                                     kADPCM, kALaw, kMuLaw, kWMA2, kWMA1>},
     FormatRow{.name = VXFormatNameMPG,
               .muxer = "vob",
               .demuxer = "mpeg",
-              .endings = "mpg mpeg vob",
+              .endings = "mpg mpeg",
               .videoCodecs = kCodecs<kMPEG2, kMPEG1>,
               .audioCodecs = kCodecs<kMP2, kAC3, kMP3>},
+    FormatRow{.name = "M4V",
+              .muxer = "ipod",
+              .demuxer = "m4v",
+              .endings = "m4v",
+              .videoCodecs = kCodecs<kH264, kMPEG4>,
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kAC3, kALAC>},
+    FormatRow{.name = "VOB",
+              .muxer = "dvd",
+              .demuxer = "mpeg",
+              .endings = "vob",
+              .videoCodecs = kCodecs<kMPEG2, kMPEG1>,
+              .audioCodecs = kCodecs<kAC3, kMP2, kDTS>},
+    FormatRow{.name = "TS",
+              .muxer = "mpegts",
+              .demuxer = "mpegts",
+              .endings = "ts",
+              .videoCodecs = kCodecs<kH264, kHEVC, kMPEG2, kMPEG4, kMPEG1>,
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kAC3, kEAC3, kMP2, kMP3, kDTS, kOpus>},
+    FormatRow{.name = "M2TS",
+              .muxer = "mpegts",
+              .demuxer = "mpegts",
+              .endings = "m2ts mts",
+              .videoCodecs = kCodecs<kH264, kHEVC, kMPEG2>,
+              .audioCodecs = kCodecs<kAC3, kEAC3, kDTS, kAAC>},
+    FormatRow{.name = "WMV",
+              .muxer = "asf",
+              .demuxer = "asf",
+              .endings = "wmv",
+              .videoCodecs = kCodecs<kWMV2, kWMV1, kMSMPEG4>,
+              .audioCodecs = kCodecs<kWMA2, kWMA1>},
+    FormatRow{.name = "ASF",
+              .muxer = "asf",
+              .demuxer = "asf",
+              .endings = "asf",
+              .videoCodecs = kCodecs<kWMV2, kWMV1, kMSMPEG4, kMPEG4, kMJPEG>,
+              .audioCodecs = kCodecs<kWMA2, kWMA1, kMP3, kPCM16, kAC3>},
+    FormatRow{.name = "FLV",
+              .muxer = "flv",
+              .demuxer = "flv",
+              .endings = "flv",
+              .videoCodecs = kCodecs<kH264, kFLV1>,
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kMP3>},
+    FormatRow{.name = "F4V",
+              .muxer = "f4v",
+              .demuxer = "mov",
+              .endings = "f4v",
+              .videoCodecs = kCodecs<kH264>,
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kMP3>},
+    FormatRow{.name = "3GP",
+              .muxer = "3gp",
+              .demuxer = "3gp",
+              .endings = "3gp",
+              .videoCodecs = kCodecs<kH264, kMPEG4, kH263>,
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kAMRNB, kAMRWB>},
+    FormatRow{.name = "OGV",
+              .muxer = "ogv",
+              .demuxer = "ogg",
+              .endings = "ogv",
+              .videoCodecs = kCodecs<kTheora, kVP8>,
+              .audioCodecs = kCodecs<kVorbis, kOpus, kFLAC, kSpeex>},
+    FormatRow{.name = "MXF",
+              .muxer = "mxf",
+              .demuxer = "mxf",
+              .endings = "mxf",
+              .videoCodecs = kCodecs<kMPEG2, kDNxHD, kDNxHR, kProRes, kH264, kDV, kDVNTSC>,
+              .audioCodecs = kCodecs<kPCM16, kPCM24>},
+    FormatRow{.name = "DV",
+              .muxer = "dv",
+              .demuxer = "dv",
+              .endings = "dv dif",
+              .videoCodecs = kCodecs<kDV, kDVNTSC>,
+              .audioCodecs = kCodecs<kPCM16>},
+    FormatRow{.name = "GIF",
+              .muxer = "gif",
+              .demuxer = "gif",
+              .endings = "gif",
+              .videoCodecs = kCodecs<kGIF>,
+              .audioCodecs = {}},
+    FormatRow{.name = "WEBP",
+              .muxer = "webp",
+              .demuxer = "webp_pipe",
+              .endings = "webp",
+              .videoCodecs = kCodecs<kWebP>,
+              .audioCodecs = {}},
     FormatRow{.name = "MP3",
               .muxer = "mp3",
               .demuxer = "mp3",
@@ -90,13 +216,25 @@ constexpr std::array kFormats{
               .demuxer = "m4a",
               .endings = "m4a m4b",
               .videoCodecs = {},
-              .audioCodecs = kCodecs<kAAC>},
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kALAC>},
+    FormatRow{.name = "AAC",
+              .muxer = "adts",
+              .demuxer = "aac",
+              .endings = "aac",
+              .videoCodecs = {},
+              .audioCodecs = kCodecs<kAAC, kHEAAC>},
     FormatRow{.name = "WAV",
               .muxer = "wav",
               .demuxer = "wav",
               .endings = "wav",
               .videoCodecs = {},
-              .audioCodecs = kCodecs<kPCM16>},
+              .audioCodecs = kCodecs<kPCM16, kPCM24, kPCM32, kPCMFloat, kADPCMMS, kADPCM, kALaw, kMuLaw>},
+    FormatRow{.name = "WMA",
+              .muxer = "asf",
+              .demuxer = "asf",
+              .endings = "wma",
+              .videoCodecs = {},
+              .audioCodecs = kCodecs<kWMA2, kWMA1>},
     FormatRow{.name = "FLAC",
               .muxer = "flac",
               .demuxer = "flac",
@@ -106,9 +244,42 @@ constexpr std::array kFormats{
     FormatRow{.name = "OGG",
               .muxer = "ogg",
               .demuxer = "ogg",
-              .endings = "ogg oga opus",
+              .endings = "ogg oga spx",
               .videoCodecs = {},
-              .audioCodecs = kCodecs<kVorbis, kOpus, kFLAC>},
+              .audioCodecs = kCodecs<kVorbis, kOpus, kFLAC, kSpeex>},
+    FormatRow{.name = "OPUS",
+              .muxer = "opus",
+              .demuxer = "ogg",
+              .endings = "opus",
+              .videoCodecs = {},
+              .audioCodecs = kCodecs<kOpus>},
+    FormatRow{.name = "AC3",
+              .muxer = "ac3",
+              .demuxer = "ac3",
+              .endings = "ac3",
+              .videoCodecs = {},
+              .audioCodecs = kCodecs<kAC3>},
+    FormatRow{.name = "AIFF",
+              .muxer = "aiff",
+              .demuxer = "aiff",
+              .endings = "aiff aif",
+              .videoCodecs = {},
+              .audioCodecs = kCodecs<kPCM16BE, kPCM24BE>},
+    FormatRow{
+        .name = "CAF",
+        .muxer = "caf",
+        .demuxer = "caf",
+        .endings = "caf",
+        .videoCodecs = {},
+        .audioCodecs =
+            kCodecs<kALAC, kPCM16, kPCM24, kPCM32, kPCMFloat, kPCM16BE, kPCM24BE, kALaw, kMuLaw, kOpus>},
+    FormatRow{.name = "MKA",
+              .muxer = "matroska",
+              .demuxer = "matroska",
+              .endings = "mka",
+              .videoCodecs = {},
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kOpus, kMP3, kAC3, kEAC3, kDTS, kFLAC, kVorbis, kMP2,
+                                     kPCM16, kPCM24, kPCM32, kPCMFloat, kALAC, kWavPack, kTTA>},
 };
 
 const AVOutputFormat* MuxerOf(const FormatRow& format)
@@ -117,10 +288,15 @@ const AVOutputFormat* MuxerOf(const FormatRow& format)
 }
 
 // A muxer that cannot tell is asked no further: the row says what players accept of it.
-bool Takes(const AVOutputFormat* muxer, int codecID)
+bool Takes(const AVOutputFormat* muxer, const CodecRow& codec)
 {
-    const auto* codec = FindCodec(codecID);
-    return codec && avformat_query_codec(muxer, codec->avID, FF_COMPLIANCE_NORMAL) != 0;
+    return avformat_query_codec(muxer, codec.avID, FF_COMPLIANCE_NORMAL) != 0;
+}
+
+bool CanWrite(const AVOutputFormat* muxer, int codecID)
+{
+    const auto* capabilities = CapabilitiesOf(codecID);
+    return capabilities && !capabilities->encoders.empty() && Takes(muxer, *capabilities->codec);
 }
 
 std::string LowerEnding(std::string_view path)
@@ -159,7 +335,7 @@ std::vector<int> WritableCodecs(const FormatRow& format, std::span<const int> co
     std::vector<int> taken;
     if (const auto* muxer = MuxerOf(format))
         std::ranges::copy_if(codecs, std::back_inserter(taken),
-                             [muxer](int codecID) { return Takes(muxer, codecID); });
+                             [muxer](int codecID) { return CanWrite(muxer, codecID); });
     return taken;
 }
 

@@ -27,7 +27,8 @@ std::span<const FormatRow> FormatTable();
 const FormatRow* FindFormat(std::string_view name);
 /// The names of the containers whose muxer is here, in the table's order.
 std::vector<std::string> WritableFormats();
-/// Those of codecs (ours) that the container's muxer takes, in their order; none when the muxer is not here.
+/// Those of codecs (ours) that have an encoder here and that the container's muxer takes, in their order;
+/// none when the muxer is not here.
 std::vector<int> WritableCodecs(const FormatRow& format, std::span<const int> codecs);
 /// The name of the container that a file was opened as. Where several containers share a demuxer, the file
 /// name's ending chooses, else the first of them stands for all. Empty for a demuxer that no container of

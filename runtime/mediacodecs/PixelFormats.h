@@ -21,14 +21,31 @@ struct PixelFormatRow
 
 inline constexpr int kPixFormatYUV422P = 1;
 inline constexpr int kPixFormatYUV444P = 2;
+inline constexpr int kPixFormatYUV411P = 4;
+inline constexpr int kPixFormatYUVJ420P = 10;
+inline constexpr int kPixFormatYUVJ422P = 11;
+inline constexpr int kPixFormatYUVJ444P = 12;
 inline constexpr int kPixFormatYUV420P10 = 20;
 inline constexpr int kPixFormatYUV422P10 = 21;
 inline constexpr int kPixFormatYUV444P10 = 22;
 inline constexpr int kPixFormatYUV420P12 = 30;
 inline constexpr int kPixFormatYUV422P12 = 31;
 inline constexpr int kPixFormatYUV444P12 = 32;
+inline constexpr int kPixFormatYUV420P16 = 46;
+inline constexpr int kPixFormatYUV422P16 = 47;
+inline constexpr int kPixFormatYUV444P16 = 48;
+inline constexpr int kPixFormatYUVA420P = 50;
+inline constexpr int kPixFormatYUVA444P10 = 54;
 inline constexpr int kPixFormatGray8 = 80;
+inline constexpr int kPixFormatGray16 = 83;
+inline constexpr int kPixFormatBGRA = 93;
 inline constexpr int kPixFormatGBRP = 96;
+inline constexpr int kPixFormatGBRP10 = 97;
+inline constexpr int kPixFormatGBRP12 = 98;
+inline constexpr int kPixFormatBGR0 = 104;
+inline constexpr int kPixFormatRGB8 = 107;
+inline constexpr int kPixFormatBGR8 = 108;
+inline constexpr int kPixFormatGBRP16 = 112;
 
 /// Every pixel format with a number of ours, in the order of the numbers.
 std::span<const PixelFormatRow> PixelFormatTable();
