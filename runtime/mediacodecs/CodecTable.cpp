@@ -1,6 +1,7 @@
 #include "CodecTable.h"
 
 #include "ChannelLayouts.h"
+#include "FFmpegCompat.h"
 #include "Lookup.h"
 #include "PixelFormats.h"
 #include "SampleFormats.h"
@@ -284,7 +285,8 @@ constexpr std::array kTable{
              .avID = AV_CODEC_ID_DNXHD,
              .encoders = "dnxhd",
              .formats = kOffered<k422, k422x10, k444x10>,
-             .video = {.min = {256, 120}, .max = kAnySize, .maxArea = kAnyArea}},
+             .video = {.min = {256, 120}, .max = kAnySize, .maxArea = kAnyArea},
+             .needsProfile = true},
     // Size and rate go together, IEC 61834 and SMPTE 314M; a user chooses one, so each system has its row.
     CodecRow{.id = VXCodecID_DV,
              .name = "DV",
@@ -401,7 +403,8 @@ constexpr std::array kTable{
              .avID = AV_CODEC_ID_AAC,
              .encoders = "aac_at libfdk_aac",
              .formats = kOffered<kSampleFormatS16, kSampleFormatFLTP>,
-             .audio = {kSBRRates, kAACLayouts}},
+             .audio = {kSBRRates, kAACLayouts},
+             .needsProfile = true},
     CodecRow{.id = VXCodecID_EAC3,
              .name = "E-AC-3",
              .type = VXCodecTypeAudio,
@@ -537,9 +540,33 @@ constexpr std::array kTable{
              .audio = {kLosslessRates, kWaveLayouts}},
 };
 
+// Codecs that share one of libavcodec's with the row before them.
+
 // The tags that DivX encoders of versions 4 and later write into AVI files.
 constexpr std::array kDivXTags{MKTAG('D', 'I', 'V', 'X'), MKTAG('d', 'i', 'v', 'x'),
                                MKTAG('D', 'X', '5', '0'), MKTAG('D', 'I', 'V', '5')};
+
+bool IsDivX(const AVCodecParameters& stream)
+{
+    return stream.codec_id == AV_CODEC_ID_MPEG4 &&
+           std::ranges::find(kDivXTags, stream.codec_tag) != kDivXTags.end();
+}
+
+bool IsDVOf60Fields(const AVCodecParameters& stream)
+{
+    return stream.codec_id == AV_CODEC_ID_DVVIDEO && stream.height == 480;
+}
+
+bool IsDNxHR(const AVCodecParameters& stream)
+{
+    return stream.codec_id == AV_CODEC_ID_DNXHD && stream.profile >= VX_AV_PROFILE(DNXHR_LB);
+}
+
+bool IsHEAAC(const AVCodecParameters& stream)
+{
+    return stream.codec_id == AV_CODEC_ID_AAC &&
+           (stream.profile == VX_AV_PROFILE(AAC_HE) || stream.profile == VX_AV_PROFILE(AAC_HE_V2));
+}
 
 } // namespace
 
@@ -547,11 +574,17 @@ std::span<const CodecRow> CodecTable() { return kTable; }
 
 const CodecRow* FindCodec(int codecID) { return FindRow(CodecTable(), &CodecRow::id, codecID); }
 
-int CodecIDOf(AVCodecID avID, std::uint32_t tag)
+int CodecIDOf(const AVCodecParameters& stream)
 {
-    if (avID == AV_CODEC_ID_MPEG4 && std::ranges::find(kDivXTags, tag) != kDivXTags.end())
+    if (IsDivX(stream))
         return VXCodecID_DIVX;
-    const auto* row = FindRow(CodecTable(), &CodecRow::avID, avID);
+    if (IsDVOf60Fields(stream))
+        return VXCodecID_DVNTSC;
+    if (IsDNxHR(stream))
+        return VXCodecID_DNxHR;
+    if (IsHEAAC(stream))
+        return VXCodecID_HEAAC;
+    const auto* row = FindRow(CodecTable(), &CodecRow::avID, stream.codec_id);
     return row ? row->id : VXCodecID_None;
 }
 

@@ -10,6 +10,8 @@ extern "C"
 #include <libavutil/rational.h>
 }
 
+struct AVCodecParameters;
+
 namespace Vexlor
 {
 
@@ -54,14 +56,18 @@ struct CodecRow
         formats; ///< pixel or sample formats (ours), in the order in which a user is offered them
     VideoLimits video = {};
     AudioLimits audio = {};
+    /// Its encoder makes another codec unless it is told a profile: the first that holds the format where
+    /// none is chosen.
+    bool needsProfile = false;
 };
 
 /// Every codec with an identifier of ours, in the order of the identifiers.
 std::span<const CodecRow> CodecTable();
 /// The row of an identifier of ours; null when there is none.
 const CodecRow* FindCodec(int codecID);
-/// The identifier of a stream of libavcodec's; the container's tag tells DivX from other MPEG-4.
-/// VXCodecID_None when the codec has no identifier of ours.
-int CodecIDOf(AVCodecID avID, std::uint32_t tag);
+/// The identifier of a stream of libavformat's. Where codecs of ours share one of libavcodec's, the
+/// container's tag, the profile or the picture's height tells them apart. VXCodecID_None when the codec has
+/// none of ours.
+int CodecIDOf(const AVCodecParameters& stream);
 
 } // namespace Vexlor

@@ -77,16 +77,42 @@ constexpr std::array kAV1Profiles{
     ProfileRow{2, VX_AV_PROFILE(AV1_PROFESSIONAL), "Professional", "libaom-av1"},
 };
 
+// The six members of the family as the encoder numbers them; SMPTE RDD 36 leaves them to the container's tag:
+// apco, apcs, apcn, apch, ap4h, ap4x.
+constexpr std::array kProResProfiles{
+    ProfileRow{0, VX_AV_PROFILE(PRORES_PROXY), "Proxy", "prores_ks", "proxy"},
+    ProfileRow{1, VX_AV_PROFILE(PRORES_LT), "LT", "prores_ks", "lt"},
+    ProfileRow{2, VX_AV_PROFILE(PRORES_STANDARD), "Standard", "prores_ks", "standard"},
+    ProfileRow{3, VX_AV_PROFILE(PRORES_HQ), "HQ", "prores_ks", "hq"},
+    ProfileRow{4, VX_AV_PROFILE(PRORES_4444), "4444", "prores_ks", "4444"},
+    ProfileRow{5, VX_AV_PROFILE(PRORES_XQ), "4444 XQ", "prores_ks", "4444xq"},
+};
+
+// Compression identifiers 1274 down to 1270, SMPTE ST 2019-1; the numbers are libavcodec's. SQ stands before
+// LB: what is made without a choice is for viewing, not for a proxy.
+constexpr std::array kDNxHRProfiles{
+    ProfileRow{2, VX_AV_PROFILE(DNXHR_SQ), "SQ", "dnxhd", "dnxhr_sq"},
+    ProfileRow{1, VX_AV_PROFILE(DNXHR_LB), "LB", "dnxhd", "dnxhr_lb"},
+    ProfileRow{3, VX_AV_PROFILE(DNXHR_HQ), "HQ", "dnxhd", "dnxhr_hq"},
+    ProfileRow{4, VX_AV_PROFILE(DNXHR_HQX), "HQX", "dnxhd", "dnxhr_hqx"},
+    ProfileRow{5, VX_AV_PROFILE(DNXHR_444), "444", "dnxhd", "dnxhr_444"},
+};
+
 // Audio object type, ISO/IEC 14496-3 table 1.17.
 constexpr std::array kAACProfiles{
     ProfileRow{2, VX_AV_PROFILE(AAC_LOW), "LC", "aac_at libfdk_aac aac"},
-    ProfileRow{5, VX_AV_PROFILE(AAC_HE), "HE", "aac_at libfdk_aac"},
-    ProfileRow{29, VX_AV_PROFILE(AAC_HE_V2), "HE v2", "aac_at libfdk_aac"},
+    ProfileRow{5, VX_AV_PROFILE(AAC_HE), "HE", ""}, // made as the codec that it is
+    ProfileRow{29, VX_AV_PROFILE(AAC_HE_V2), "HE v2", ""},
     ProfileRow{1, VX_AV_PROFILE(AAC_MAIN), "Main", ""},
     ProfileRow{3, VX_AV_PROFILE(AAC_SSR), "SSR", ""},
     ProfileRow{4, VX_AV_PROFILE(AAC_LTP), "LTP", ""},
     ProfileRow{23, VX_AV_PROFILE(AAC_LD), "LD", ""},
     ProfileRow{39, VX_AV_PROFILE(AAC_ELD), "ELD", ""},
+};
+
+constexpr std::array kHEAACProfiles{
+    ProfileRow{5, VX_AV_PROFILE(AAC_HE), "HE", "aac_at libfdk_aac"},
+    ProfileRow{29, VX_AV_PROFILE(AAC_HE_V2), "HE v2", "aac_at libfdk_aac"},
 };
 
 struct CodecProfiles
@@ -96,10 +122,12 @@ struct CodecProfiles
 };
 
 constexpr std::array kCodecs{
-    CodecProfiles{VXCodecID_H264, kH264Profiles},   CodecProfiles{VXCodecID_HEVC, kHEVCProfiles},
-    CodecProfiles{VXCodecID_MPEG4, kMPEG4Profiles}, CodecProfiles{VXCodecID_DIVX, kMPEG4Profiles},
-    CodecProfiles{VXCodecID_MPEG2, kMPEG2Profiles}, CodecProfiles{VXCodecID_VP9, kVP9Profiles},
-    CodecProfiles{VXCodecID_AV1, kAV1Profiles},     CodecProfiles{VXCodecID_AAC, kAACProfiles},
+    CodecProfiles{VXCodecID_H264, kH264Profiles},     CodecProfiles{VXCodecID_HEVC, kHEVCProfiles},
+    CodecProfiles{VXCodecID_MPEG4, kMPEG4Profiles},   CodecProfiles{VXCodecID_DIVX, kMPEG4Profiles},
+    CodecProfiles{VXCodecID_MPEG2, kMPEG2Profiles},   CodecProfiles{VXCodecID_VP9, kVP9Profiles},
+    CodecProfiles{VXCodecID_AV1, kAV1Profiles},       CodecProfiles{VXCodecID_AAC, kAACProfiles},
+    CodecProfiles{VXCodecID_ProRes, kProResProfiles}, CodecProfiles{VXCodecID_DNxHR, kDNxHRProfiles},
+    CodecProfiles{VXCodecID_HEAAC, kHEAACProfiles},
 };
 
 const CodecProfiles* FindCodecProfiles(int codecID)

@@ -17,7 +17,8 @@ struct ProfileRow
         {}; ///< text of the encoder's own "profile" option; empty: avNumber is what is set
 };
 
-/// The profiles of a codec of ours, simplest first; empty for a codec without profiles.
+/// The profiles of a codec of ours, in the order in which a user is offered them; empty for a codec without
+/// profiles.
 std::span<const ProfileRow> ProfilesOf(int codecID);
 /// The number of a profile of libavcodec's; VXProfileUnknown when it has none.
 int ProfileNumberOf(int codecID, int avProfile);

@@ -91,7 +91,7 @@ AVStream* BestStream(AVFormatContext& context, AVMediaType type, int related)
 std::shared_ptr<VXCodecParameter> Source(const AVStream& stream, int bitrate)
 {
     const auto& codec = *stream.codecpar;
-    const int codecID = CodecIDOf(codec.codec_id, codec.codec_tag);
+    const int codecID = CodecIDOf(codec);
     auto source = std::make_shared<VXCodecParameter>(codecID);
     source->SetCodecTag(codec.codec_tag);
     source->SetProfile(ProfileNumberOf(codecID, codec.profile));
@@ -154,7 +154,7 @@ std::shared_ptr<IVXCodecParameter> AudioSource(const AVStream& stream, int bitra
 std::string SourceCodecName(const AVStream& stream)
 {
     const auto& codec = *stream.codecpar;
-    const auto* row = FindCodec(CodecIDOf(codec.codec_id, codec.codec_tag));
+    const auto* row = FindCodec(CodecIDOf(codec));
     return row ? std::string(row->name) : avcodec_get_name(codec.codec_id);
 }
 
