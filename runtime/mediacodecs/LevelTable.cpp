@@ -43,7 +43,7 @@ constexpr LevelLimits HEVC(std::int64_t picture, std::int64_t rate, std::int64_t
 
 constexpr LevelLimits MPEG4(std::int64_t picture, std::int64_t rate, std::int64_t kbps)
 {
-    constexpr int kSide = (1 << 13) - 1; // 13 bits in the stream
+    constexpr int kSide = (1 << 13) - kMacroblock; // 13 bits in the stream
     return {kMacroblock, picture * kMacroblockSize, rate * kMacroblockSize, kSide, kSide, 0, kbps * 1000};
 }
 

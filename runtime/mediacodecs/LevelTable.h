@@ -32,6 +32,9 @@ struct LevelRow
     LevelLimits limits; ///< of a profile that has none of its own
 };
 
+/// True for a number of the High tier, where the standard has two.
+constexpr bool IsHighTier(int level) { return level >= 1000; }
+
 /// The levels of a codec of ours, lowest first; empty for a codec without levels.
 std::span<const LevelRow> LevelsOf(int codecID);
 /// The number of a level of libavcodec's, of the main tier where there are two; VXLevelUnknown when it has
