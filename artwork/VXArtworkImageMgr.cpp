@@ -22,24 +22,32 @@ int g_lastAutomaticFaceID = 0;
 
 using Group = std::shared_ptr<IVXArtworkImageGroup>;
 using ReadOnlyGroup = std::shared_ptr<const IVXArtworkImageGroup>;
+using Blob = std::shared_ptr<const IVXData>;
 
-/// The group as the file holds it; empty when it is larger than a buffer or than memory.
-std::shared_ptr<IVXData> BlobOf(const IVXArtworkImageGroup& group)
+const Blob kNoBlob;
+
+/// What the step answers; when it runs out of memory or outgrows a buffer, otherwise: no exception leaves a
+/// manager.
+template <class Result, class Step>
+Result Guarded(Result otherwise, Step step)
 {
     try
     {
-        return group.ToData();
+        return step();
     }
     catch (const std::exception&)
     {
-        return {};
+        return otherwise;
     }
 }
 
 class VXArtworkImageMgr final : public IVXArtworkImageMgr
 {
 public:
-    VXArtworkImageMgr(const std::string& path, IVXStorage::StorageMode mode);
+    VXArtworkImageMgr(const std::string& path, IVXStorage::StorageMode mode)
+    {
+        Guarded(false, [&] { return SetUp(path, mode); });
+    }
 
     ReadOnlyGroup GetArtworkImageGroupByID(int faceID) const override;
     int ArtworkImageGroupCount() const override { return static_cast<int>(m_table.size()); }
@@ -62,44 +70,44 @@ private:
     int NextAutomaticFaceID() const;
     bool HasRoomFor(std::size_t entries) const { return m_writable && entries <= kMostArtworkEntries; }
     ReadOnlyGroup Load(const VXArtworkEntry& entry) const;
-    VXArtworkEntry Store(const std::shared_ptr<const IVXData>& blob, int faceID);
-    void SetUp();
-    void WriteTable();
+    bool SetUp(const std::string& path, IVXStorage::StorageMode mode);
+    std::uint64_t SeekToFreeSpace();
+    bool StoreAt(std::size_t idx, const IVXArtworkImageGroup& group, int faceID);
+    template <class Step>
+    bool Change(Step step);
 
     std::shared_ptr<IVXStorage> m_storage;
     VXArtworkTable m_table;
     bool m_writable = false;
 };
 
-VXArtworkImageMgr::VXArtworkImageMgr(const std::string& path, IVXStorage::StorageMode mode)
-    : m_storage(IVXStorage::MallocStorage(path, mode))
+bool VXArtworkImageMgr::SetUp(const std::string& path, IVXStorage::StorageMode mode)
 {
-    if (m_storage && m_storage->IsOpen())
-        SetUp();
-    else
+    m_storage = IVXStorage::MallocStorage(path, mode);
+    if (!m_storage || !m_storage->IsOpen())
+    {
         IVXLogConfig::Printf(IVXLogConfig::LogLevelError, "VXArtworkImageMgr Error:file:%s,is open faild\n",
                              path.c_str());
-}
-
-void VXArtworkImageMgr::SetUp()
-{
+        return false;
+    }
     if (m_storage->Size() > 0)
     {
-        m_table = ReadArtworkTable(*m_storage, m_writable);
-        return;
+        bool readable = false;
+        m_table = ReadArtworkTable(*m_storage, readable);
+        return m_writable = readable;
     }
     // One write makes the whole head, so that no process that ends here leaves half a one.
-    m_writable = true;
     const auto head = ArtworkHead(m_table);
     const auto empty = IVXData::MallocData(kArtworkHeadSize);
     std::copy_n(head->Bytes(), head->Size(), empty->Bytes());
     m_storage->WriteData(empty);
+    return m_writable = true;
 }
 
 ReadOnlyGroup VXArtworkImageMgr::GetArtworkImageGroupByID(int faceID) const
 {
     if (const int idx = IndexOf(faceID); idx >= 0)
-        return Load(At(idx));
+        return Guarded(ReadOnlyGroup(), [&] { return Load(At(idx)); });
     IVXLogConfig::Printf("VXArtworkImageMgr->GetArtworkImageGroupByID Error: faceID=%d,No exist!\n", faceID);
     return {};
 }
@@ -107,7 +115,7 @@ ReadOnlyGroup VXArtworkImageMgr::GetArtworkImageGroupByID(int faceID) const
 ReadOnlyGroup VXArtworkImageMgr::GetArtworkImageGroup(int idx) const
 {
     if (Holds(idx))
-        return Load(At(idx));
+        return Guarded(ReadOnlyGroup(), [&] { return Load(At(idx)); });
     IVXLogConfig::Printf("VXArtworkImageMgr->GetArtworkImageGroup Error: idx=%d,is beyond array!", idx);
     return {};
 }
@@ -151,16 +159,45 @@ int VXArtworkImageMgr::NextAutomaticFaceID() const
     return faceID;
 }
 
+/// Lets the step change a copy of the table; writes the blob that it answers, if any, where the storage
+/// stands, then the table, in one write: a process that ends between the two leaves a table that can be read.
+/// When memory runs out before that write, everything stays as it was, and the answer is false.
+template <class Step>
+bool VXArtworkImageMgr::Change(Step step)
+{
+    VXArtworkTable table;
+    Blob head;
+    const auto prepare = [&]
+    {
+        table = m_table;
+        const Blob blob = step(table);
+        head = ArtworkHead(table);
+        if (blob)
+            m_storage->WriteData(blob);
+        // Anywhere but at the start the head would overwrite groups.
+        if (!m_storage->Seek(0)->Succeed())
+            head = nullptr;
+        return true;
+    };
+    if (!Guarded(false, prepare))
+        return false;
+    m_table = std::move(table);
+    if (head)
+        Guarded(std::shared_ptr<IVXError>(), [&] { return m_storage->WriteData(head); });
+    return true;
+}
+
 int VXArtworkImageMgr::AddArtworkImageGroup(Group group, int faceID)
 {
-    const auto blob = group && HasRoomFor(m_table.size() + 1) ? BlobOf(*group) : nullptr;
-    if (!blob)
+    if (!group || !HasRoomFor(m_table.size() + 1))
         return 0;
-    if (faceID == kAutomatic)
-        faceID = g_lastAutomaticFaceID = NextAutomaticFaceID();
-    m_table.push_back(Store(blob, faceID));
-    WriteTable();
-    return faceID;
+    const bool automatic = faceID == kAutomatic;
+    const int used = automatic ? NextAutomaticFaceID() : faceID;
+    if (!StoreAt(m_table.size(), *group, used))
+        return 0;
+    if (automatic)
+        g_lastAutomaticFaceID = used;
+    return used;
 }
 
 void VXArtworkImageMgr::ReplaceArtworkImageGroup(Group group, int faceID)
@@ -171,45 +208,50 @@ void VXArtworkImageMgr::ReplaceArtworkImageGroup(Group group, int faceID)
         const auto entries = m_table.size();
         AddArtworkImageGroup(std::move(group), faceID);
         if (m_table.size() > entries)
-            WriteTable();
+            Change([](VXArtworkTable&) { return kNoBlob; });
         return;
     }
-    const auto blob = group && HasRoomFor(m_table.size()) ? BlobOf(*group) : nullptr;
-    if (!blob)
+    if (!group || !HasRoomFor(m_table.size()))
         return;
     // Deliberately under a new identifier: whoever kept the old one must not get another picture by it.
-    g_lastAutomaticFaceID = NextAutomaticFaceID();
-    m_table[static_cast<std::size_t>(idx)] = Store(blob, g_lastAutomaticFaceID);
-    WriteTable();
+    const int used = NextAutomaticFaceID();
+    if (StoreAt(static_cast<std::size_t>(idx), *group, used))
+        g_lastAutomaticFaceID = used;
 }
 
 void VXArtworkImageMgr::RemoveArtworkImageGroup(int idx)
 {
     if (!Holds(idx) || !HasRoomFor(m_table.size() - 1))
         return;
-    m_table.erase(m_table.begin() + idx);
-    WriteTable();
+    Change(
+        [idx](VXArtworkTable& table)
+        {
+            table.erase(table.begin() + idx);
+            return kNoBlob;
+        });
 }
 
-/// Writes the blob behind all others; the table that names it is written afterwards.
-VXArtworkEntry VXArtworkImageMgr::Store(const std::shared_ptr<const IVXData>& blob, int faceID)
+/// The offset behind all groups, which becomes the storage's position.
+std::uint64_t VXArtworkImageMgr::SeekToFreeSpace()
 {
     m_storage->SeekToEnd();
     // A file that was cut inside its head: a group there would be overwritten by the table.
     if (m_storage->Position() < kArtworkHeadSize)
         m_storage->Seek(kArtworkHeadSize);
-    const auto offset = m_storage->Position();
-    m_storage->WriteData(blob);
-    return {faceID, offset, blob->Size()};
+    return m_storage->Position();
 }
 
-// One write for the whole table, so that a process that ends between two of them leaves a table that can be
-// read.
-void VXArtworkImageMgr::WriteTable()
+/// Appends the group and makes it the table's entry at idx, or a new last one.
+bool VXArtworkImageMgr::StoreAt(std::size_t idx, const IVXArtworkImageGroup& group, int faceID)
 {
-    // Anywhere but at the start it would overwrite groups.
-    if (m_storage->Seek(0)->Succeed())
-        m_storage->WriteData(ArtworkHead(m_table));
+    return Change(
+        [&](VXArtworkTable& table)
+        {
+            const Blob blob = group.ToData();
+            table.resize(std::max(table.size(), idx + 1));
+            table[idx] = {faceID, SeekToFreeSpace(), blob->Size()};
+            return blob;
+        });
 }
 
 } // namespace

@@ -16,6 +16,8 @@ constexpr std::size_t kHeader = alignof(std::max_align_t);
 
 std::size_t theBytesInUse = 0;
 std::size_t theMostBytesInUse = 0;
+std::size_t theAllocationsLeft = std::numeric_limits<std::size_t>::max();
+bool oneWasRefused = false;
 
 } // namespace
 
@@ -25,9 +27,11 @@ std::size_t theMostBytesInUse = 0;
 
 VX_NOT_INLINED void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
-    auto* block = static_cast<std::byte*>(std::malloc(size + kHeader));
+    oneWasRefused = oneWasRefused || theAllocationsLeft == 0;
+    auto* block = theAllocationsLeft > 0 ? static_cast<std::byte*>(std::malloc(size + kHeader)) : nullptr;
     if (!block)
         return nullptr;
+    --theAllocationsLeft;
     std::memcpy(block, &size, sizeof size);
     theBytesInUse += size;
     theMostBytesInUse = std::max(theMostBytesInUse, theBytesInUse);
@@ -78,6 +82,17 @@ std::size_t MostBytesOf(Operation operation)
     const auto before = theMostBytesInUse = theBytesInUse;
     operation();
     return theMostBytesInUse - before;
+}
+
+/// Runs the operation with memory for so many allocations, and says whether that was enough.
+template <class Operation>
+bool RunsWithin(std::size_t allocations, Operation operation)
+{
+    oneWasRefused = false;
+    theAllocationsLeft = allocations;
+    operation();
+    theAllocationsLeft = std::numeric_limits<std::size_t>::max();
+    return !oneWasRefused;
 }
 
 using ArtworkMemory = ArtworkFileTest;
@@ -152,6 +167,67 @@ TEST_F(ArtworkMemory, OverlappingGroupsCostOneAtATime)
                           EXPECT_FALSE(manager->GetArtworkImageGroup(i)->IsEmpty());
                   }),
               6 * FileBytes().size());
+}
+
+TEST_F(ArtworkMemory, ThatRunsOutWhileLoadingGivesAnEmptyHandle)
+{
+    FileBytes() = FileOf({{7, BlobOf("picture")}});
+    const auto manager = Open();
+    std::shared_ptr<const IVXArtworkImageGroup> group;
+    std::size_t allocations = 0;
+    while (!RunsWithin(allocations, [&] { group = manager->GetArtworkImageGroup(0); }))
+    {
+        EXPECT_FALSE(group) << allocations;
+        ++allocations;
+    }
+    EXPECT_LT(3U, allocations);
+    EXPECT_TRUE(group);
+}
+
+TEST_F(ArtworkMemory, ThatRunsOutWhileAddingLosesNoGroup)
+{
+    const auto added = GroupOf("new");
+    const auto before = FileOf({{7, BlobOf("first")}, {8, BlobOf("second")}});
+    std::size_t allocations = 0;
+    for (bool enough = false; !enough; ++allocations)
+    {
+        FileBytes() = before;
+        const auto manager = OpenMutable();
+        int faceID = 0;
+        enough = RunsWithin(allocations, [&] { faceID = manager->AddArtworkImageGroup(added, 9); });
+        EXPECT_EQ(faceID == 9 ? 3 : 2, manager->ArtworkImageGroupCount()) << allocations;
+        EXPECT_EQ(faceID == 9 ? 3 : 2, Open()->ArtworkImageGroupCount()) << allocations;
+        EXPECT_TRUE(Open()->GetArtworkImageGroupByID(7)) << allocations;
+        EXPECT_TRUE(Open()->GetArtworkImageGroupByID(8)) << allocations;
+        EXPECT_TRUE(faceID == 9 || !enough) << allocations;
+    }
+    EXPECT_LT(3U, allocations);
+}
+
+TEST_F(ArtworkMemory, ThatRunsOutWhileRemovingLosesNoOtherGroup)
+{
+    const auto before = FileOf({{7, BlobOf("first")}, {8, BlobOf("second")}});
+    std::size_t allocations = 0;
+    for (bool enough = false; !enough; ++allocations)
+    {
+        FileBytes() = before;
+        const auto manager = OpenMutable();
+        enough = RunsWithin(allocations, [&] { manager->RemoveArtworkImageGroup(0); });
+        EXPECT_EQ(manager->ArtworkImageGroupCount(), Open()->ArtworkImageGroupCount()) << allocations;
+        EXPECT_TRUE(Open()->GetArtworkImageGroupByID(8)) << allocations;
+        EXPECT_TRUE(manager->ArtworkImageGroupCount() == 1 || !enough) << allocations;
+    }
+    EXPECT_LT(1U, allocations);
+}
+
+TEST_F(ArtworkMemory, ThatRunsOutWhileOpeningLeavesAnEmptyTable)
+{
+    FileBytes() = FileOf({{7, BlobOf("first")}});
+    std::size_t allocations = 1; // the manager itself
+    int count = 0;
+    while (!RunsWithin(allocations++, [&] { count = Open()->ArtworkImageGroupCount(); }))
+        EXPECT_EQ(0, count) << allocations;
+    EXPECT_EQ(1, count);
 }
 
 } // namespace
