@@ -1,12 +1,7 @@
 #include "BitrateModel.h"
 
-#include "BitrateTable.h"
-#include "ChannelLayouts.h"
-#include "SampleFormats.h"
-
-#include <algorithm>
-#include <cmath>
-#include <limits>
+#include "BitrateMath.h"
+#include "LevelTable.h"
 
 namespace Vexlor
 {
@@ -18,21 +13,21 @@ using Grade = IVXCodecs::QualityLevel;
 
 constexpr double kReferenceRate = 30.0;
 constexpr double kUsualPixels = 1280.0 * 720.0;
-constexpr int kUsualSampleRate = 48000;
-constexpr double kLeastKbps = 1.0; // encoders that count in kb/s read less as no bitrate at all
-
-std::size_t IndexOf(Grade level)
-{
-    return static_cast<std::size_t>(std::clamp(int{level}, 0, int{kGrades} - 1));
-}
-
-int ToBitrate(double bitsPerSecond, double most)
-{
-    return static_cast<int>(
-        std::clamp(std::round(bitsPerSecond), 1.0, std::min(most, double(std::numeric_limits<int>::max()))));
-}
+constexpr double kLeastBitrate = 1000.0; // encoders that count in kb/s read less as no bitrate at all
+constexpr double kFullChroma = 3.0;      // samples a pixel
 
 double PixelsOf(const LadderPoint& point) { return double(point.width) * point.height; }
+
+double PixelsOf(const PictureStream& stream)
+{
+    return stream.width > 0 && stream.height > 0 ? double(stream.width) * stream.height : kUsualPixels;
+}
+
+double FrameRateOf(const PictureStream& stream)
+{
+    const bool told = std::isfinite(stream.frameRate) && stream.frameRate > 0;
+    return told ? std::clamp(stream.frameRate, 1.0, 300.0) : kReferenceRate;
+}
 
 // Straight lines between the points on logarithmic scales; beyond both ends the cost of a pixel stays.
 double AlongLadder(std::span<const LadderPoint> ladder, double pixels)
@@ -49,78 +44,94 @@ double AlongLadder(std::span<const LadderPoint> ladder, double pixels)
     return from.kbps * std::pow(above->kbps / from.kbps, way);
 }
 
-// Twice the frames cost one and a half times the bits: YouTube's figures for 60 fps beside those for 30.
-double RateFactor(double frameRate)
+// Twice the frames cost one and a half times the bits: YouTube's figures for 60 fps beside those for 30, and
+// Google's for VP9 from 1440p on. Frames that are coded alone all cost the same.
+double RateFactor(const VideoBitrateRow& row, double frameRate)
 {
-    const double rate = std::isfinite(frameRate) && frameRate > 0 ? frameRate : kReferenceRate;
-    return std::pow(1.5, std::log2(std::clamp(rate, 1.0, 300.0) / kReferenceRate));
+    const double rate = frameRate / kReferenceRate;
+    return row.kind == VideoBitrateKind::Predicted ? std::pow(1.5, std::log2(rate)) : rate;
 }
 
-// Two more bits a sample cost a quarter more, as YouTube's HDR figures do; chroma samples cost half of what
-// luma samples do, which puts 4:2:2 at a fifth more than 4:2:0.
-double FormatFactor(int format)
+// Chroma samples cost half of what luma samples do, which puts 4:2:2 at a fifth more than 4:2:0.
+double SampleCost(double samplesPerPixel) { return 1.0 + (samplesPerPixel - 1.0) / 2.0; }
+
+double ChromaFactor(const VideoBitrateRow& row, int format)
 {
-    const double depth = std::pow(1.25, (BitDepthOf(format) - 8) / 2.0);
-    const auto luma = [](double samples) { return 1.0 + (samples - 1.0) / 2.0; };
-    return depth * luma(SamplesPerPixel(format)) / luma(1.5);
+    const double samples = SamplesPerPixel(format);
+    if (row.fullChroma > 0)
+        return samples < kFullChroma ? 1.0 : row.fullChroma;
+    return SampleCost(samples) / SampleCost(1.5);
 }
 
-double PixelsOf(const PictureStream& stream)
+// Two more bits a sample cost a quarter more, as YouTube's HDR figures do. The ladders of codecs that are
+// published for more than 8 bits hold as they are.
+double DepthFactor(const VideoBitrateRow& row, int format)
 {
-    return stream.width > 0 && stream.height > 0 ? double(stream.width) * stream.height : kUsualPixels;
+    return row.kind == VideoBitrateKind::Predicted ? std::pow(1.25, (BitDepthOf(format) - 8) / 2.0) : 1.0;
 }
 
-int SampleRateOf(const SoundStream& stream)
+double LadderBitrate(const VideoBitrateRow& row, const PictureStream& stream, std::size_t grade)
 {
-    return stream.sampleRate > 0 ? stream.sampleRate : kUsualSampleRate;
+    const bool isDeep = row.deepGrade > 0 && BitDepthOf(stream.format) > 8;
+    const auto& ladder = row.grades.at(isDeep ? std::max(grade, row.deepGrade) : grade);
+    return 1000.0 * AlongLadder(ladder.points, PixelsOf(stream)) * ladder.factor * row.factor *
+           RateFactor(row, FrameRateOf(stream)) * ChromaFactor(row, stream.format) *
+           DepthFactor(row, stream.format);
 }
 
-int ChannelCountOf(const SoundStream& stream) { return stream.layout ? ChannelsOf(stream.layout) : 2; }
-
-// A subwoofer's channel carries next to nothing, which not every encoder makes use of.
-int PaidChannelsOf(const SoundStream& stream, const AudioBitrateRow& row)
+double LosslessBitrate(const VideoBitrateRow& row, const PictureStream& stream)
 {
-    const auto channels = ChannelCountOf(stream);
-    const bool free = channels > 1 && (stream.layout & kLowFrequency) && !row.countsSubwoofer;
-    return free ? channels - 1 : channels;
+    const double bits = row.bits > 0 ? row.bits : SamplesPerPixel(stream.format) * BitDepthOf(stream.format);
+    return row.share * bits * PixelsOf(stream) * FrameRateOf(stream);
 }
 
-double NearestLegal(double kbps, std::span<const int> legal)
+bool HasRows(int codecID, int format)
 {
-    if (legal.empty())
-        return kbps;
-    return *std::ranges::min_element(legal, {}, [kbps](int each) { return std::abs(each - kbps); });
+    return std::ranges::any_of(ListedBitrates(), [&](const auto& each)
+                               { return each.codecID == codecID && each.format == format; });
 }
 
-double LossyKbps(const AudioBitrateRow& row, const SoundStream& stream, std::size_t grade)
+// The largest size and then the highest frame rate that are not above the stream's; the lowest where all are.
+double BitrateOfList(const CodecCapabilities& codec, const PictureStream& stream, std::size_t grade)
 {
-    const auto rate = SampleRateOf(stream);
-    const auto channels = ChannelCountOf(stream);
-    const double bandwidth = std::min(1.0, rate / 44100.0); // hearing ends where 44.1 kHz does
-    const double wanted = row.perChannel.at(grade) * bandwidth * PaidChannelsOf(stream, row);
-    const double kept =
-        std::clamp(wanted, double(row.minPerChannel) * channels, double(row.maxPerChannel) * channels);
-    return NearestLegal(std::min(kept, double(row.maxTotal)), LegalKbps(row.codecID, rate, channels));
+    const int codecID = codec.codec->id;
+    const int format = HasRows(codecID, stream.format) ? stream.format : codec.formats.front();
+    const ListedBitrate* best = nullptr;
+    for (const auto& row : ListedBitrates())
+    {
+        if (row.codecID != codecID || row.format != format)
+            continue;
+        const bool isLarger = best && row.size != best->size;
+        const bool fits = isLarger ? double(row.size.width) * row.size.height <= PixelsOf(stream)
+                                   : row.frameRate <= FrameRateOf(stream);
+        if (!best || fits)
+            best = &row;
+    }
+    return best ? best->bitrates.at(grade) : kLeastBitrate;
 }
 
-double LosslessKbps(const AudioBitrateRow& row, const CodecCapabilities& codec, const SoundStream& stream)
+double Bitrate(const VideoBitrateRow& row, const CodecCapabilities& codec, const PictureStream& stream,
+               std::size_t grade)
 {
-    // A stream told in a format that the codec does not hold is converted to the one offered first.
-    const bool held = std::ranges::find(codec.formats, stream.format) != codec.formats.end();
-    const int bits = SampleBitsOf(held ? stream.format : codec.formats.front());
-    return row.share * SampleRateOf(stream) * ChannelCountOf(stream) * bits / 1000.0;
+    switch (row.kind)
+    {
+    case VideoBitrateKind::Lossless:
+        return LosslessBitrate(row, stream);
+    case VideoBitrateKind::Listed:
+        return BitrateOfList(codec, stream, grade);
+    default:
+        return LadderBitrate(row, stream, grade);
+    }
 }
 
-template <class Rate>
-Grade NearestGrade(int bitrate, Rate rateOf)
+double MaxBitrate(const VideoBitrateRow& row)
 {
-    Grade best = Grade::QualityLevelLow;
-    const double wanted = std::log(std::max(bitrate, 1));
-    const auto distance = [&](Grade level) { return std::abs(std::log(double(rateOf(level))) - wanted); };
-    for (const auto level : {Grade::QualityLevelNormal, Grade::QualityLevelHigh, Grade::QualityLevelBest})
-        if (distance(level) < distance(best))
-            best = level;
-    return best;
+    if (row.maxBitrate > 0)
+        return double(row.maxBitrate);
+    std::int64_t most = 0;
+    for (const auto& level : LevelsOf(row.codecID))
+        most = std::max(most, level.limits.bitrate);
+    return most > 0 ? double(most) : std::numeric_limits<int>::max();
 }
 
 } // namespace
@@ -130,19 +141,8 @@ int VideoBitrate(const CodecCapabilities& codec, const PictureStream& stream, Gr
     const auto* row = FindVideoBitrate(codec.codec->id);
     if (!row)
         return 1;
-    const double kbps = AlongLadder(ReferenceLadder(IndexOf(level)), PixelsOf(stream)) *
-                        RateFactor(stream.frameRate) * FormatFactor(stream.format) * row->factor;
-    return ToBitrate(std::max(kbps, kLeastKbps) * 1000.0, double(row->maxBitrate));
-}
-
-int AudioBitrate(const CodecCapabilities& codec, const SoundStream& stream, Grade level)
-{
-    const auto* row = FindAudioBitrate(codec.codec->id);
-    if (!row)
-        return 1;
-    const double kbps = row->kind == AudioBitrateKind::Lossless ? LosslessKbps(*row, codec, stream)
-                                                                : LossyKbps(*row, stream, IndexOf(level));
-    return ToBitrate(kbps * 1000.0, std::numeric_limits<int>::max());
+    const double bitrate = Bitrate(*row, codec, stream, IndexOf(level));
+    return ToBitrate(std::max(bitrate, kLeastBitrate), MaxBitrate(*row));
 }
 
 Grade VideoGrade(const CodecCapabilities& codec, const PictureStream& stream, int bitrate)
@@ -150,31 +150,10 @@ Grade VideoGrade(const CodecCapabilities& codec, const PictureStream& stream, in
     return NearestGrade(bitrate, [&](Grade level) { return VideoBitrate(codec, stream, level); });
 }
 
-Grade AudioGrade(const CodecCapabilities& codec, const SoundStream& stream, int bitrate)
-{
-    return NearestGrade(bitrate, [&](Grade level) { return AudioBitrate(codec, stream, level); });
-}
-
 std::pair<int, int> VideoBitrateRange(const CodecCapabilities& codec, const PictureStream& stream)
 {
     return {VideoBitrate(codec, stream, Grade::QualityLevelLow),
             VideoBitrate(codec, stream, Grade::QualityLevelBest)};
-}
-
-std::pair<int, int> AudioBitrateRange(const CodecCapabilities& codec)
-{
-    const auto* row = FindAudioBitrate(codec.codec->id);
-    SoundStream least{codec.sampleRates.front(), codec.layouts.front(), codec.formats.front()};
-    auto most = least;
-    if (row && row->kind == AudioBitrateKind::Lossless)
-    {
-        least = {std::ranges::min(codec.sampleRates), std::ranges::min(codec.layouts, {}, ChannelsOf),
-                 codec.formats.front()};
-        most = {std::ranges::max(codec.sampleRates), std::ranges::max(codec.layouts, {}, ChannelsOf),
-                codec.formats.back()};
-    }
-    return {AudioBitrate(codec, least, Grade::QualityLevelLow),
-            AudioBitrate(codec, most, Grade::QualityLevelBest)};
 }
 
 } // namespace Vexlor

@@ -1,10 +1,13 @@
 #include "runtime/mediacodecs/BitrateTable.h"
 #include "VXMediaCodecs.h"
+#include "runtime/mediacodecs/ChannelLayouts.h"
 #include "runtime/mediacodecs/CodecTable.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
+#include <tuple>
 
 namespace Vexlor
 {
@@ -23,13 +26,61 @@ TEST(BitrateTable, EveryCodecHasItsRow)
 
 TEST(BitrateTable, LaddersRiseWithThePicture)
 {
-    for (std::size_t grade = 0; grade < kGrades; ++grade)
+    for (const auto& codec : CodecTable())
+        if (const auto* row = FindVideoBitrate(codec.id))
+            for (const auto& [points, factor] : row->grades)
+            {
+                EXPECT_GT(factor, 0.0) << codec.name;
+                EXPECT_TRUE(std::ranges::is_sorted(points, std::ranges::less_equal(), &LadderPoint::kbps));
+                EXPECT_TRUE(std::ranges::is_sorted(points, std::ranges::less_equal(),
+                                                   [](const auto& point)
+                                                   { return point.width * point.height; }));
+            }
+}
+
+TEST(BitrateTable, CodecsWithLaddersHaveOneForEveryGrade)
+{
+    for (const auto& codec : CodecTable())
+        if (const auto* row = FindVideoBitrate(codec.id))
+        {
+            const bool hasLadders =
+                row->kind == VideoBitrateKind::Predicted || row->kind == VideoBitrateKind::Intra;
+            for (const auto& ladder : row->grades)
+                EXPECT_EQ(hasLadders, !ladder.points.empty()) << codec.name;
+        }
+}
+
+TEST(BitrateTable, ListedBitratesRise)
+{
+    const auto order = [](const ListedBitrate& row)
+    { return std::tuple(row.codecID, row.format, row.size.width * row.size.height, row.frameRate); };
+    const auto rows = ListedBitrates();
+    for (std::size_t i = 0; i < rows.size(); ++i)
     {
-        const auto ladder = ReferenceLadder(grade);
-        EXPECT_TRUE(std::ranges::is_sorted(ladder, {}, &LadderPoint::kbps));
-        EXPECT_TRUE(
-            std::ranges::is_sorted(ladder, {}, [](const auto& point) { return point.width * point.height; }));
+        EXPECT_TRUE(std::ranges::is_sorted(rows[i].bitrates));
+        for (std::size_t j = i + 1; j < rows.size(); ++j)
+            if (rows[j].codecID == rows[i].codecID && rows[j].format == rows[i].format)
+            {
+                EXPECT_LT(order(rows[i]), order(rows[j]));
+            }
     }
+}
+
+TEST(BitrateTable, EveryOfferedSizeAndFormatOfAListedCodecHasItsRow)
+{
+    const auto isListed = [](const CodecRow& codec, PictureSize size, int format)
+    {
+        return std::ranges::any_of(
+            ListedBitrates(), [&](const ListedBitrate& row)
+            { return row.codecID == codec.id && row.size == size && row.format == format; });
+    };
+    for (const auto& codec : CodecTable())
+        if (const auto* row = FindVideoBitrate(codec.id); row && row->kind == VideoBitrateKind::Listed)
+        {
+            for (const auto size : codec.video.sizes)
+                for (const int format : codec.formats)
+                    EXPECT_TRUE(isListed(codec, size, format)) << codec.name << ' ' << size.width;
+        }
 }
 
 TEST(BitrateTable, ChannelsOfALossyCodecRiseWithTheGrade)
@@ -37,18 +88,28 @@ TEST(BitrateTable, ChannelsOfALossyCodecRiseWithTheGrade)
     for (const auto& codec : CodecTable())
         if (const auto* row = FindAudioBitrate(codec.id); row && row->kind == AudioBitrateKind::Lossy)
         {
-            EXPECT_TRUE(std::ranges::is_sorted(row->perChannel)) << codec.name;
+            EXPECT_TRUE(std::ranges::is_sorted(row->perChannel, std::ranges::less_equal())) << codec.name;
             EXPECT_GT(row->perChannel.front(), 0) << codec.name;
         }
 }
 
+TEST(BitrateTable, SpeechModesRiseAndEveryOfferedRateHasThem)
+{
+    for (const auto& modes : ListedSpeech())
+    {
+        EXPECT_TRUE(std::ranges::is_sorted(modes.bitrates, std::ranges::less_equal()));
+        const auto& offered = FindCodec(modes.codecID)->audio.sampleRates;
+        EXPECT_NE(offered.end(), std::ranges::find(offered, modes.sampleRate)) << modes.codecID;
+    }
+}
+
 TEST(BitrateTable, LegalRatesRise)
 {
-    for (const int id : {VXCodecID_MP3, VXCodecID_MP2, VXCodecID_AC3})
+    for (const int id : {VXCodecID_MP3, VXCodecID_MP2, VXCodecID_AC3, VXCodecID_DTS})
         for (const int rate : {8000, 16000, 44100, 48000})
-            for (const int channels : {1, 2, 6, 64})
+            for (const auto layout : {kMono, kStereo, kLayout51Side, ~std::uint64_t{0}})
             {
-                const auto legal = LegalKbps(id, rate, channels);
+                const auto legal = LegalBitrates(id, rate, layout);
                 EXPECT_FALSE(legal.empty());
                 EXPECT_TRUE(std::ranges::is_sorted(legal));
             }
@@ -56,7 +117,7 @@ TEST(BitrateTable, LegalRatesRise)
 
 TEST(BitrateTable, CodecsWithoutATableTakeAnyRate)
 {
-    EXPECT_TRUE(LegalKbps(VXCodecID_AAC, 48000, 2).empty());
+    EXPECT_TRUE(LegalBitrates(VXCodecID_AAC, 48000, kStereo).empty());
 }
 
 } // namespace

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "BitrateTable.h"
+#include "IVXCodecs.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+
+namespace Vexlor
+{
+
+inline constexpr std::array kAllGrades{IVXCodecs::QualityLevelLow, IVXCodecs::QualityLevelNormal,
+                                       IVXCodecs::QualityLevelHigh, IVXCodecs::QualityLevelBest};
+
+/// A grade as an index; one outside the grades is the nearest of them.
+inline std::size_t IndexOf(IVXCodecs::QualityLevel level)
+{
+    return static_cast<std::size_t>(std::clamp(int{level}, 0, int{kGrades} - 1));
+}
+
+/// A whole number of bits a second, from 1 to most.
+inline int ToBitrate(double bitsPerSecond, double most = std::numeric_limits<int>::max())
+{
+    const double whole = std::clamp(std::round(bitsPerSecond), 1.0, most);
+    return static_cast<int>(std::min<double>(whole, std::numeric_limits<int>::max()));
+}
+
+/// The grade whose bitrate comes nearest by ratio, the lower one on a tie.
+template <class BitrateOf>
+IVXCodecs::QualityLevel NearestGrade(int bitrate, BitrateOf bitrateOf)
+{
+    const double wanted = std::log(std::max(bitrate, 1));
+    std::array<double, kGrades> distances{};
+    std::ranges::transform(kAllGrades, distances.begin(),
+                           [&](IVXCodecs::QualityLevel level)
+                           { return std::abs(std::log(double(bitrateOf(level))) - wanted); });
+    return kAllGrades.at(static_cast<std::size_t>(std::ranges::min_element(distances) - distances.begin()));
+}
+
+} // namespace Vexlor
