@@ -49,8 +49,15 @@ void AddCommands(CLI::App& app, Request& request)
     match->add_option("--preset", request.preset, kPresetHelp)->type_name("PRESET")->required();
     AddCommand(app, request, "formats", "Print the containers and the codecs that each takes",
                FormatsCommand);
-    AddCommand(app, request, "codecs", "Print the codecs and what each accepts", CodecsCommand)
-        ->add_option("CODEC", request.codec, "Name or number of the only codec to print, in full");
+    auto* codecs =
+        AddCommand(app, request, "codecs", "Print the codecs and what each accepts", CodecsCommand);
+    auto* codec =
+        codecs->add_option("CODEC", request.codec, "Name or number of the only codec to print, in full");
+    codecs
+        ->add_flag("--markdown", request.asMarkdown,
+                   "Print the whole reference, with containers and bitrates")
+        ->excludes(codec)
+        ->excludes("--json");
     AddArtworkCommands(app, request);
 }
 

@@ -20,6 +20,7 @@ struct Request
 {
     Command command = nullptr;
     bool asJson = false;
+    bool asMarkdown = false;
     std::optional<std::string> document;
     std::string preset;
     std::string media;

@@ -2,6 +2,8 @@
 
 #include "Text.h"
 
+#include <algorithm>
+
 namespace Vexlor::Tool
 {
 
@@ -10,7 +12,7 @@ namespace
 
 constexpr int kIndent = 2;
 constexpr int kNameWidth = 16;
-constexpr int kLineWidth = 100;
+constexpr int kWidest = 100;
 
 std::string Blanks(int count) { return Padded({}, count); }
 
@@ -24,6 +26,7 @@ std::string Bracketed(const std::string& entry, bool isCurrent)
 std::string ListText(const NamedList& list, const Style& style)
 {
     std::string text = Blanks(kIndent) + Padded(OneLine(list.name), kNameWidth);
+    const int lineWidth = style.width > 0 ? std::min(style.width, kWidest) : kWidest;
     int column = kIndent + kNameWidth;
     for (std::size_t i = 0; i < list.entries.size(); ++i)
     {
@@ -31,7 +34,7 @@ std::string ListText(const NamedList& list, const Style& style)
         const bool isLast = i + 1 == list.entries.size();
         const auto entry = Bracketed(OneLine(list.entries[i]), isCurrent) + (isLast ? "" : ",");
         const int width = DisplayWidth(entry) + 1;
-        if (i > 0 && column + width > kLineWidth)
+        if (i > 0 && column + width > lineWidth)
         {
             column = kIndent + kNameWidth;
             text += '\n' + Blanks(column);

@@ -113,6 +113,29 @@ std::string Padded(const std::string& text, int width)
     return text + std::string(static_cast<std::size_t>(std::max(width - DisplayWidth(text), 0)), ' ');
 }
 
+std::vector<std::string> Entries(std::string_view text)
+{
+    std::vector<std::string> entries;
+    for (auto end = text.find(", "); end != std::string_view::npos; end = text.find(", "))
+    {
+        entries.emplace_back(text.substr(0, end + 1));
+        text.remove_prefix(end + 2);
+    }
+    entries.emplace_back(text);
+    return entries;
+}
+
+std::vector<std::string> Wrapped(std::string_view text, int width)
+{
+    std::vector<std::string> lines;
+    for (const auto& entry : Entries(text))
+        if (lines.empty() || DisplayWidth(lines.back()) + 1 + DisplayWidth(entry) > width)
+            lines.push_back(entry);
+        else
+            lines.back() += ' ' + entry;
+    return lines;
+}
+
 std::string Folded(std::string_view text)
 {
     std::string folded(text);

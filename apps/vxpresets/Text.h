@@ -14,6 +14,10 @@ std::string OneLine(std::string_view text);
 int DisplayWidth(std::string_view text);
 /// The text followed by blanks up to that many columns.
 std::string Padded(const std::string& text, int width);
+/// The text cut behind its commas: "a, b" is "a," and "b".
+std::vector<std::string> Entries(std::string_view text);
+/// The text's entries on lines of at most that many columns; a longer entry has a line of its own.
+std::vector<std::string> Wrapped(std::string_view text, int width);
 /// The text with ASCII capitals made small.
 std::string Folded(std::string_view text);
 /// The text in double quotes, on one line.

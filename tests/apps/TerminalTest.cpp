@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace Vexlor::Apps
 {
 
@@ -13,6 +15,20 @@ std::string OnTerminal(const std::vector<std::string>& arguments, const std::vec
     const auto run = RunTool(arguments, {.environment = environment, .onTerminal = true});
     EXPECT_EQ(0, run.exitCode) << run.err;
     return run.out;
+}
+
+/// Columns of the widest line: every sign counts as one, however many bytes it has.
+int WidestLine(const std::string& text)
+{
+    int widest = 0;
+    int width = 0;
+    for (const char letter : text)
+    {
+        const bool goesOn = (static_cast<unsigned char>(letter) & 0xC0U) == 0x80U;
+        width = letter == '\n' || letter == '\r' ? 0 : width + (goesOn ? 0 : 1);
+        widest = std::max(widest, width);
+    }
+    return widest;
 }
 
 bool HasColours(const std::string& text) { return text.find('\x1b') != std::string::npos; }
@@ -51,7 +67,31 @@ TEST(Terminal, ShowsTheCurrentEntryStrong)
               OnTerminal({"show", "Video/WEBM"}, {"TERM=xterm"}).find("\x1b[1m[VP9],\x1b[0m"));
 }
 
+TEST(Terminal, TablesAreNoWiderThanItIs)
+{
+    const auto text = OnTerminal({"formats"}, {"TERM=xterm", "NO_COLOR=1", "COLUMNS=90"});
+    EXPECT_NE(std::string::npos, text.find("\n          │ ")) << text;
+    EXPECT_LE(WidestLine(text), 90) << text;
+    EXPECT_GT(WidestLine(text), 80) << text;
+}
+
+TEST(Terminal, ListsAreNoWiderThanItIs)
+{
+    EXPECT_LE(WidestLine(OnTerminal({"codecs", "h264"}, {"TERM=xterm", "NO_COLOR=1", "COLUMNS=60"})), 60);
+}
+
+TEST(Terminal, TablesAreAsWideAsTheyMustWhereItIsTooNarrow)
+{
+    const auto narrow = OnTerminal({"formats"}, {"TERM=xterm", "NO_COLOR=1", "COLUMNS=1"});
+    EXPECT_NE(std::string::npos, narrow.find("Microsoft ADPCM,")) << narrow;
+}
+
 TEST(Terminal, GetsPlainJson) { EXPECT_FALSE(HasColours(OnTerminal({"formats", "--json"}, {"TERM=xterm"}))); }
+
+TEST(Pipe, GetsALineForEveryRow)
+{
+    EXPECT_EQ(RunTool({"formats"}).out, RunTool({"formats"}, {.environment = {"COLUMNS=20"}}).out);
+}
 
 TEST(Pipe, GetsPlainText)
 {
