@@ -11,7 +11,6 @@
 #include <array>
 #include <climits>
 #include <cmath>
-#include <ranges>
 #include <vector>
 
 namespace Vexlor
@@ -45,12 +44,10 @@ class PublishedSounds : public testing::TestWithParam<PublishedSound>
 
 TEST_P(PublishedSounds, AreNearAGrade)
 {
-    const auto distance = [](Grade level)
-    {
-        const SoundStream stream{48000, GetParam().layout, kSampleFormatFLTP};
-        return std::abs(Audio(GetParam().codecID, stream, level) / (1000.0 * GetParam().kbps) - 1);
-    };
-    EXPECT_LE(std::ranges::min(kAllGrades | std::views::transform(distance)), 0.15);
+    const SoundStream stream{48000, GetParam().layout, kSampleFormatFLTP};
+    const auto isNear = [&](Grade level)
+    { return std::abs(Audio(GetParam().codecID, stream, level) / (1000.0 * GetParam().kbps) - 1) <= 0.15; };
+    EXPECT_TRUE(std::ranges::any_of(kAllGrades, isNear));
 }
 
 constexpr auto kPublishedSounds = std::to_array<PublishedSound>({
