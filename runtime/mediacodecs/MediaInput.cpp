@@ -1,5 +1,7 @@
 #include "MediaInput.h"
 
+#include "FFmpegError.h"
+
 extern "C"
 {
 #include <libavutil/mem.h>
@@ -48,17 +50,10 @@ std::string_view Refused(std::string_view demuxer)
     return row != kRefusedKinds.end() ? row->what : std::string_view();
 }
 
-std::string ReasonOf(int error)
-{
-    std::array<char, AV_ERROR_MAX_STRING_SIZE> text{};
-    av_strerror(error, text.data(), text.size());
-    return text.data();
-}
-
 std::string Damaged(const BoundedFile& file, int error)
 {
     return file.Exhausted() ? "is damaged or cut off (its description has no end)"
-                            : "is damaged or cut off (" + ReasonOf(error) + ")";
+                            : "is damaged or cut off (" + FFmpegErrorText(error) + ")";
 }
 
 int RefuseToOpen(AVFormatContext*, AVIOContext**, const char*, int, AVDictionary**)

@@ -1,0 +1,204 @@
+#include "EncoderSetup.h"
+
+#include "CodecCapabilities.h"
+#include "EncoderOptions.h"
+#include "EncoderTable.h"
+#include "FFmpegCompat.h"
+#include "FFmpegError.h"
+#include "IVXCodecParameter.h"
+#include "IVXRational.h"
+#include "LevelTable.h"
+#include "ProfileTable.h"
+#include "SampleFormats.h"
+#include "StreamLabels.h"
+#include "VXMediaCodecs.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+/// One encoder on its way to being opened.
+class Opening
+{
+public:
+    Opening(const CodecCapabilities& codec, const AVCodec& encoder)
+        : m_codec(codec), m_encoder(encoder), m_row(FindEncoder(encoder.name)), m_lists(ListsOf(encoder))
+    {
+        m_setup.context.reset(avcodec_alloc_context3(&encoder));
+    }
+
+    EncoderSetup Open(const IVXCodecParameter& stream, const EncoderWish& wish);
+
+private:
+    void SetPicture(const IVXCodecParameter& stream);
+    void SetSound(const IVXCodecParameter& stream);
+    void SetBitrates(const IVXCodecParameter& stream);
+    void SetLabels(const IVXCodecParameter& stream);
+    template <class Label>
+    void SetLabel(int& number, std::string_view option, const Label& label);
+    int PixelFormat(int wanted);
+    int SampleFormat(int wanted);
+    void Complain(int error)
+    {
+        m_setup.complaint = std::string(m_encoder.name) + ": " + FFmpegErrorText(error);
+    }
+
+    const CodecCapabilities& m_codec;
+    const AVCodec& m_encoder;
+    EncoderRow m_row;
+    EncoderLists m_lists;
+    EncoderOptions m_options;
+    EncoderSetup m_setup;
+};
+
+template <class Listed>
+bool Lists(std::span<const Listed> list, Listed value)
+{
+    return list.empty() || std::ranges::find(list, value) != list.end();
+}
+
+// The first format on offer that the encoder takes.
+template <class Listed, class ToListed>
+int FirstTaken(const std::vector<int>& offered, std::span<const Listed> list, ToListed toListed)
+{
+    const auto found =
+        std::ranges::find_if(offered, [&](int format) { return Lists(list, toListed(format)); });
+    return found == offered.end() ? offered.front() : *found;
+}
+
+int Opening::PixelFormat(int wanted)
+{
+    const auto avFormat = AVPixelFormatOf(wanted);
+    if (avFormat != AV_PIX_FMT_NONE && Lists(m_lists.pixelFormats, avFormat))
+        return wanted;
+    const int taken = FirstTaken(m_codec.formats, m_lists.pixelFormats, AVPixelFormatOf);
+    m_setup.changes.push_back("pixel format " + PixFormatName(wanted) + " is not taken; " +
+                              PixFormatName(taken) + " stands in");
+    return taken;
+}
+
+// Planar and interleaved samples are the same sound: where one is not taken, the other is no change.
+int Opening::SampleFormat(int wanted)
+{
+    const auto avFormat = AVSampleFormatOf(wanted);
+    for (const auto same : {avFormat, av_get_planar_sample_fmt(avFormat), av_get_packed_sample_fmt(avFormat)})
+        if (same != AV_SAMPLE_FMT_NONE && Lists(m_lists.sampleFormats, same))
+            return SampleFormatOf(same);
+    const int taken = FirstTaken(m_codec.formats, m_lists.sampleFormats, AVSampleFormatOf);
+    m_setup.changes.push_back("sample format " + SampleFormatName(wanted) + " is not taken; " +
+                              SampleFormatName(taken) + " stands in");
+    return taken;
+}
+
+AVRational Rational(const IVXRational& value) { return {value.Num(), value.Den()}; }
+
+void Opening::SetPicture(const IVXCodecParameter& stream)
+{
+    auto& context = *m_setup.context;
+    context.width = stream.GetWidth();
+    context.height = stream.GetHeight();
+    context.framerate = Rational(*stream.GetFrameRate());
+    context.time_base = av_inv_q(context.framerate);
+    context.sample_aspect_ratio = Rational(*stream.GetAspectRatio());
+    const int format = PixelFormat(stream.GetFormat());
+    context.pix_fmt = AVPixelFormatOf(format);
+    if (m_row.fullRange)
+        context.color_range = AVCOL_RANGE_JPEG;
+}
+
+void Opening::SetSound(const IVXCodecParameter& stream)
+{
+    auto& context = *m_setup.context;
+    context.sample_rate = stream.GetSampleRate();
+    context.time_base = {1, context.sample_rate};
+    context.sample_fmt = AVSampleFormatOf(SampleFormat(stream.GetFormat()));
+    av_channel_layout_from_mask(&context.ch_layout, stream.GetChannelLayout());
+}
+
+// A bound wants a buffer to be kept over; a second of the stream is the usual one.
+void Opening::SetBitrates(const IVXCodecParameter& stream)
+{
+    auto& context = *m_setup.context;
+    context.bit_rate = stream.GetBitrate();
+    if (m_encoder.type != AVMEDIA_TYPE_VIDEO || stream.GetMaxBitrate() <= 0)
+        return;
+    context.rc_max_rate = stream.GetMaxBitrate();
+    context.rc_min_rate = stream.GetMinBitrate();
+    context.rc_buffer_size = stream.GetMaxBitrate();
+}
+
+template <class Label>
+void Opening::SetLabel(int& number, std::string_view option, const Label& label)
+{
+    if (option.empty() || label.option.empty())
+        number = label.avNumber;
+    else
+        m_options.Add(option, label.option);
+}
+
+void Opening::SetLabels(const IVXCodecParameter& stream)
+{
+    auto& context = *m_setup.context;
+    auto labels = FittingLabels(m_codec, stream, PixelFormatOf(context.pix_fmt), m_row.profileOfLevel);
+    std::ranges::move(labels.changes, std::back_inserter(m_setup.changes));
+    if (labels.profile)
+        SetLabel(context.profile, m_row.profileOption, *labels.profile);
+    if (labels.level)
+        SetLabel(context.level, m_row.levelOption, *labels.level);
+}
+
+EncoderSetup Opening::Open(const IVXCodecParameter& stream, const EncoderWish& wish)
+{
+    auto& context = *m_setup.context;
+    if (m_encoder.type == AVMEDIA_TYPE_VIDEO)
+        SetPicture(stream);
+    else
+        SetSound(stream);
+    SetBitrates(stream);
+    if (wish.globalHeader)
+        context.flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
+    if (m_encoder.capabilities & AV_CODEC_CAP_EXPERIMENTAL) // the table has it all the same
+        context.strict_std_compliance = FF_COMPLIANCE_EXPERIMENTAL;
+    int error = m_options.Parse(wish.options);
+    if (error >= 0)
+        error = m_options.Parse(m_row.always);
+    SetLabels(stream);
+    if (error >= 0)
+        error = m_options.Open(context, m_encoder);
+    if (error < 0)
+    {
+        Complain(error);
+        m_setup.context.reset();
+    }
+    return std::move(m_setup);
+}
+
+EncoderSetup Refused(const std::string& complaint)
+{
+    EncoderSetup setup;
+    setup.complaint = complaint;
+    return setup;
+}
+
+} // namespace
+
+EncoderSetup OpenEncoder(const IVXCodecParameter& stream, const EncoderWish& wish)
+{
+    const auto* codec = CapabilitiesOf(stream.GetCodecID());
+    if (!codec)
+        return Refused("codec " + std::to_string(stream.GetCodecID()) + " is not known");
+    const auto name =
+        wish.encoder.empty() && !codec->encoders.empty() ? codec->encoders.front() : wish.encoder;
+    const auto* encoder = avcodec_find_encoder_by_name(name.c_str());
+    if (!encoder || encoder->id != codec->codec->avID)
+        return Refused(std::string(codec->codec->name) + " has no encoder " + name + " here");
+    return Opening(*codec, *encoder).Open(stream, wish);
+}
+
+} // namespace Vexlor

@@ -1,0 +1,42 @@
+#include "EncoderTable.h"
+
+#include "Lookup.h"
+
+#include <array>
+#include <span>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+// Names as in libavcodec's own option tables (ffmpeg -h encoder=...). x265 and SVT-AV1 take their own options
+// as one text, and write what they do to stderr unless told otherwise; mpeg2video refuses a level that comes
+// without a profile.
+constexpr std::array kEncoders{
+    EncoderRow{.encoder = "libx264", .profileOption = "profile", .levelOption = "level"},
+    EncoderRow{.encoder = "libopenh264", .profileOption = "profile"},
+    EncoderRow{.encoder = "h264_videotoolbox", .profileOption = "profile", .levelOption = "level"},
+    EncoderRow{.encoder = "libx265",
+               .profileOption = "profile",
+               .levelOption = "x265-params",
+               .always = "x265-params=log-level=none"},
+    EncoderRow{.encoder = "hevc_videotoolbox", .profileOption = "profile"},
+    EncoderRow{.encoder = "libvpx-vp9", .levelOption = "level"},
+    EncoderRow{.encoder = "libsvtav1", .levelOption = "svtav1-params"},
+    EncoderRow{.encoder = "prores_ks", .profileOption = "profile"},
+    EncoderRow{.encoder = "dnxhd", .profileOption = "profile"},
+    EncoderRow{.encoder = "mpeg2video", .profileOfLevel = 4},
+    EncoderRow{.encoder = "mjpeg", .fullRange = true},
+};
+
+} // namespace
+
+EncoderRow FindEncoder(std::string_view encoder)
+{
+    const auto* row = FindRow(std::span<const EncoderRow>(kEncoders), &EncoderRow::encoder, encoder);
+    return row ? *row : EncoderRow{.encoder = encoder};
+}
+
+} // namespace Vexlor

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string_view>
+
+namespace Vexlor
+{
+
+/// How one encoder of libavcodec is told what the stream's record holds.
+struct EncoderRow
+{
+    std::string_view encoder; ///< libavcodec's name
+    /// The option that takes a profile's text; empty: libavcodec's number is set where a profile has no text.
+    std::string_view profileOption = {};
+    std::string_view levelOption = {}; ///< as above, of a level's text
+    std::string_view always = {};      ///< options that are set whatever the stream is: "name=value"
+    bool fullRange = false;            ///< takes limited range only as an unofficial extension
+    int profileOfLevel = -99;          ///< profile of ours that a level without one goes with
+};
+
+/// The row of an encoder; one with its name alone for an encoder that needs no more.
+EncoderRow FindEncoder(std::string_view encoder);
+
+} // namespace Vexlor

@@ -1,0 +1,102 @@
+#include "StreamLabels.h"
+
+#include "CodecCapabilities.h"
+#include "IVXCodecParameter.h"
+#include "IVXCodecs.h"
+#include "LevelTable.h"
+#include "Lookup.h"
+#include "ProfileFormats.h"
+#include "ProfileTable.h"
+#include "VXLevels.h"
+#include "VXMediaCodecs.h"
+#include "VXMediaCodecs.h"
+
+#include <algorithm>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+template <class Row>
+std::string NameOf(const Row* row)
+{
+    return row ? std::string(row->name) : std::string("the encoder's choice");
+}
+
+template <class Row>
+std::string GaveWay(const std::string& label, const Row& wanted, const std::string& what, const Row* taken)
+{
+    return label + ' ' + std::string(wanted.name) + " cannot hold " + what + "; " + NameOf(taken) +
+           " stands in";
+}
+
+int FirstToHold(const CodecCapabilities& codec, int format)
+{
+    const auto found = std::ranges::find_if(codec.profiles, [&](int profile)
+                                            { return ProfileHolds(codec.codec->id, profile, format); });
+    return found == codec.profiles.end() ? IVXCodecs::VXProfileUnknown : *found;
+}
+
+const ProfileRow* FindProfile(int codecID, int profile)
+{
+    return FindRow(ProfilesOf(codecID), &ProfileRow::number, profile);
+}
+
+const LevelRow* FindLevel(int codecID, int level)
+{
+    return FindRow(LevelsOf(codecID), &LevelRow::number, level);
+}
+
+void SetProfile(StreamLabels& labels, const CodecCapabilities& codec, int wanted, int format)
+{
+    const int codecID = codec.codec->id;
+    labels.profile = FindProfile(codecID, wanted);
+    if (!labels.profile || ProfileHolds(codecID, wanted, format))
+        return;
+    const auto& refused = *labels.profile;
+    labels.profile = FindProfile(codecID, FirstToHold(codec, format));
+    labels.changes.push_back(GaveWay("profile", refused, PixFormatName(format), labels.profile));
+}
+
+void SetLevel(StreamLabels& labels, int wanted, const VXLevelStream& stream)
+{
+    labels.level = FindLevel(stream.codecID, wanted);
+    if (!labels.level || LevelHolds(wanted, stream))
+        return;
+    const auto& refused = *labels.level;
+    const auto tiers = IsHighTier(wanted) ? VXLevelTiers::Both : VXLevelTiers::Main;
+    labels.level = FindLevel(stream.codecID, SmallestLevel(stream, tiers));
+    labels.changes.push_back(GaveWay("level", refused, "the stream", labels.level));
+}
+
+VXLevelStream LevelStream(const IVXCodecParameter& stream, const ProfileRow* profile)
+{
+    VXLevelStream seen;
+    seen.codecID = stream.GetCodecID();
+    seen.profile = profile ? profile->number : IVXCodecs::VXProfileUnknown;
+    seen.width = stream.GetWidth();
+    seen.height = stream.GetHeight();
+    seen.frameRate = stream.GetFrameRate();
+    seen.bitrate = std::max(stream.GetBitrate(), stream.GetMaxBitrate());
+    return seen;
+}
+
+} // namespace
+
+StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParameter& stream, int pixelFormat,
+                           int profileOfLevel)
+{
+    StreamLabels labels;
+    const bool wantsLevel = FindLevel(codec.codec->id, stream.GetLevel()) != nullptr;
+    const bool wantsProfile = FindProfile(codec.codec->id, stream.GetProfile()) != nullptr;
+    const int profile = !wantsProfile && wantsLevel ? profileOfLevel : stream.GetProfile();
+    SetProfile(labels, codec, profile, pixelFormat);
+    if (!wantsProfile)
+        labels.changes.clear(); // nobody asked for the one that gave way
+    SetLevel(labels, stream.GetLevel(), LevelStream(stream, labels.profile));
+    return labels;
+}
+
+} // namespace Vexlor

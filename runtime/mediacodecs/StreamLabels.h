@@ -1,0 +1,29 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Vexlor
+{
+
+class IVXCodecParameter;
+struct CodecCapabilities;
+struct LevelRow;
+struct ProfileRow;
+
+/// What a stream says of itself to players: which of them can take it.
+struct StreamLabels
+{
+    const ProfileRow* profile = nullptr; ///< null: the encoder chooses
+    const LevelRow* level = nullptr;     ///< as above
+    std::vector<std::string> changes;    ///< what gave way, a sentence each
+};
+
+/// The labels nearest to the stream's own that its format, size, rates and bitrate allow. A profile that
+/// cannot hold the pixel format gives way to the first on offer that can, a level that cannot hold the stream
+/// to the lowest that can; where there is none, the encoder chooses. A level without a profile goes with
+/// profileOfLevel, if that is known.
+StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParameter& stream, int pixelFormat,
+                           int profileOfLevel);
+
+} // namespace Vexlor
