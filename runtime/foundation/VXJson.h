@@ -24,9 +24,9 @@ enum class JsonStyle
 /// Reads a JSON text of at most 4 GiB: UTF-8, with or without a byte order mark.
 ///
 /// The values are views into the document, which lives as long as any handle into it; looking one up
-/// allocates nothing. Where an object has several members of one name, the first is the one that is found. An
-/// integer that needs more than 64 bits reads as a floating-point number. Any number of threads may read a
-/// document.
+/// allocates nothing, but for a handle to a scalar member. Where an object has several members of one name,
+/// the first is the one that is found. An integer that needs more than 64 bits reads as a floating-point
+/// number. Any number of threads may read a document.
 ///
 /// Answers an empty handle when the text cannot be read; error, where given, then tells "line:column:
 /// reason". Both count from 1; a column is one character, a tab too. error is left alone after a success.

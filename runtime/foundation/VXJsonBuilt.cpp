@@ -65,11 +65,11 @@ public:
     ~VXJsonArray() { LetGo(std::move(m_elements)); }
 
     JsonItem Self() const override { return {.kind = JsonKind::Array, .bits = 0, .text = {}, .node = this}; }
-    bool Next(std::size_t& cursor, JsonEntry& entry) const override
+    bool Next(JsonCursor& cursor, JsonEntry& entry) const override
     {
-        if (cursor == m_elements.size())
+        if (cursor.at == m_elements.size())
             return false;
-        entry.item = ItemOf(m_elements[cursor++]);
+        entry.item = ItemOf(m_elements[cursor.at++]);
         return true;
     }
 
@@ -109,10 +109,10 @@ public:
         return {.kind = kind, .bits = 0, .text = {}, .node = this};
     }
 
-    bool Next(std::size_t& cursor, JsonEntry& entry) const override
+    bool Next(JsonCursor& cursor, JsonEntry& entry) const override
     {
         JsonMember member;
-        if (!m_members.Next(cursor, member))
+        if (!m_members.Next(cursor.at, member))
             return false;
         entry = {.name = member.name, .item = Item(member)};
         return true;

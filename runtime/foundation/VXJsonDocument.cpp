@@ -3,8 +3,6 @@
 #include "runtime/foundation/VXJson.h"
 #include "runtime/foundation/VXLargePages.h"
 
-#include <algorithm>
-#include <array>
 #include <cstring>
 
 namespace Vexlor
@@ -51,25 +49,24 @@ JsonKind KindOf(char type)
     }
 }
 
-// How many words a value takes, by its type: numbers have their bits in a second one. 0 for containers.
-constexpr std::array<std::uint8_t, 256> LengthTable()
-{
-    std::array<std::uint8_t, 256> table{};
-    table.fill(1);
-    table['l'] = table['u'] = table['d'] = 2;
-    table['{'] = table['['] = 0;
-    return table;
-}
+bool IsContainer(std::uint64_t word) { return Type(word) == '{' || Type(word) == '['; }
 
-constexpr auto kLengths = LengthTable();
-
-bool IsContainer(std::uint64_t word) { return kLengths[word >> 56] == 0; }
-
-// The word behind a value; a container says where that is.
+// The word behind a value. Numbers have their bits in a second word; a container says where it ends. Asked as
+// questions, whose answers the processor guesses: it need not wait for one word to find the next.
 const std::uint64_t* Behind(const std::uint64_t* tape, const std::uint64_t* word)
 {
-    const std::size_t length = kLengths[*word >> 56];
-    return length == 0 ? tape + static_cast<std::uint32_t>(*word) : word + length;
+    switch (Type(*word))
+    {
+    case '{':
+    case '[':
+        return tape + static_cast<std::uint32_t>(*word);
+    case 'l':
+    case 'u':
+    case 'd':
+        return word + 2;
+    default:
+        return word + 1;
+    }
 }
 
 } // namespace
@@ -77,6 +74,11 @@ const std::uint64_t* Behind(const std::uint64_t* tape, const std::uint64_t* word
 std::shared_ptr<const IVXJsonValue> JsonNull() { return WithoutOwner(kNull); }
 
 std::shared_ptr<const IVXJsonValue> JsonEmptyArray() { return WithoutOwner(kEmptyArray); }
+
+inline const std::uint64_t* VXJsonView::Tape() const { return m_document->m_document.tape.get(); }
+
+// The last word of a container.
+inline const std::uint64_t* VXJsonView::End() const { return Behind(Tape(), m_word) - 1; }
 
 inline std::string_view VXJsonView::Text(std::uint64_t word) const
 {
@@ -92,15 +94,19 @@ inline const VXJsonView& VXJsonView::Child(std::size_t index) const
     return m_document->m_views[m_first + index];
 }
 
-inline const VXJsonView* VXJsonView::FindView(std::string_view name) const
+inline VXJsonView::Member VXJsonView::FindMember(std::string_view name) const
 {
-    if (!IsA('{') || m_count == 0)
-        return nullptr;
-    const VXJsonView* child = &Child(0);
-    const VXJsonView* const end = child + m_count;
-    while (child != end && Text(child->m_word[-1]) != name)
-        ++child;
-    return child == end ? nullptr : child;
+    if (!IsA('{'))
+        return {};
+    const std::uint64_t* const tape = Tape();
+    const std::uint64_t* const end = End();
+    Member member{.name = m_word + 1, .containersBefore = 0};
+    while (member.name != end && Text(*member.name) != name)
+    {
+        member.containersBefore += IsContainer(member.name[1]) ? 1 : 0;
+        member.name = Behind(tape, member.name + 1);
+    }
+    return member.name == end ? Member() : member;
 }
 
 std::shared_ptr<const IVXJsonValue> VXJsonView::Handle() const
@@ -108,44 +114,84 @@ std::shared_ptr<const IVXJsonValue> VXJsonView::Handle() const
     return {m_document->shared_from_this(), this};
 }
 
+// A scalar member has no view of its own; whoever wants a handle to it gets one.
+std::shared_ptr<const IVXJsonValue> VXJsonView::ScalarHandle(const std::uint64_t* word) const
+{
+    struct Scalar
+    {
+        std::shared_ptr<const VXJsonDocument> document;
+        VXJsonView view;
+    };
+    auto scalar = std::make_shared<Scalar>(Scalar{m_document->shared_from_this(), {m_document, word}});
+    return {scalar, &scalar->view};
+}
+
+// The scalar itself, or the view of the child of that number.
+inline JsonItem VXJsonView::ItemAt(const std::uint64_t* word, std::size_t child) const
+{
+    JsonItem item{.kind = KindOf(Type(*word)), .bits = 0, .text = {}, .node = nullptr};
+    if (item.kind == JsonKind::String)
+        item.text = Text(*word);
+    else if (item.kind == JsonKind::Bool)
+        item.bits = Type(*word) == 't';
+    else if (item.kind == JsonKind::Int64 || item.kind == JsonKind::Uint64 || item.kind == JsonKind::Double)
+        item.bits = word[1];
+    else if (item.kind != JsonKind::Null)
+        item.node = &Child(child);
+    return item;
+}
+
 JsonItem VXJsonView::Self() const
 {
-    JsonItem item{.kind = KindOf(Type(*m_word)), .bits = 0, .text = {}, .node = this};
-    if (item.kind == JsonKind::String)
-        item.text = Text(*m_word);
-    else if (item.kind == JsonKind::Bool)
-        item.bits = IsA('t');
-    else if (item.kind == JsonKind::Int64 || item.kind == JsonKind::Uint64 || item.kind == JsonKind::Double)
-        item.bits = m_word[1];
-    return item;
+    if (!IsContainer(*m_word))
+        return ItemAt(m_word, 0);
+    return {.kind = KindOf(Type(*m_word)), .bits = 0, .text = {}, .node = this};
 }
 
 JsonItem VXJsonView::Find(std::string_view name) const
 {
-    const VXJsonView* member = FindView(name);
-    return member ? member->Self() : JsonItem();
+    const Member member = FindMember(name);
+    return member.name ? ItemAt(member.name + 1, member.containersBefore) : JsonItem();
 }
 
-bool VXJsonView::Next(std::size_t& cursor, JsonEntry& entry) const
+bool VXJsonView::Next(JsonCursor& cursor, JsonEntry& entry) const
 {
-    if (cursor == m_count)
+    return IsA('{') ? NextMember(cursor, entry) : NextElement(cursor, entry);
+}
+
+bool VXJsonView::NextMember(JsonCursor& cursor, JsonEntry& entry) const
+{
+    const std::uint64_t* const name = m_word + 1 + cursor.at;
+    if (name == End())
         return false;
-    const VXJsonView& child = Child(cursor++);
-    entry.name = IsA('{') ? Text(child.m_word[-1]) : std::string_view();
-    entry.item = child.Self();
+    entry = {.name = Text(*name), .item = ItemAt(name + 1, cursor.child)};
+    cursor.child += IsContainer(name[1]) ? 1 : 0;
+    cursor.at = static_cast<std::size_t>(Behind(Tape(), name + 1) - (m_word + 1));
+    return true;
+}
+
+bool VXJsonView::NextElement(JsonCursor& cursor, JsonEntry& entry) const
+{
+    if (cursor.at == m_count)
+        return false;
+    entry = {.name = {}, .item = Child(cursor.at++).Self()};
     return true;
 }
 
 std::shared_ptr<const IVXJsonValue> VXJsonView::operator[](std::string_view name) const
 {
-    const VXJsonView* member = FindView(name);
-    return member ? member->Handle() : JsonNull();
+    const Member member = FindMember(name);
+    if (!member.name)
+        return JsonNull();
+    return IsContainer(member.name[1]) ? Child(member.containersBefore).Handle()
+                                       : ScalarHandle(member.name + 1);
 }
 
 std::shared_ptr<const IVXJsonValue> VXJsonView::GetValueArray(std::string_view name) const
 {
-    const VXJsonView* member = FindView(name);
-    return member && member->IsA('[') ? member->Handle() : JsonEmptyArray();
+    const Member member = FindMember(name);
+    const bool isArray = member.name && Type(member.name[1]) == '[';
+    return isArray ? Child(member.containersBefore).Handle() : JsonEmptyArray();
 }
 
 int VXJsonView::Size() const { return IsA('[') ? SizeOf(m_count) : 0; }
@@ -176,23 +222,27 @@ simdjson::error_code VXJsonDocument::BuildViews()
 {
     const std::uint64_t* const tape = m_document.tape.get();
     const auto words = static_cast<std::uint32_t>(tape[0]);
-    m_views.reserve(words / 2); // most values take two words and more, with their names or ends
+    m_views.reserve(words / 4); // most take four words and more, with their members or ends
     UseLargePages(m_views.data(), m_views.capacity() * sizeof(VXJsonView));
     m_views.emplace_back(this, tape + 1);
-    int depth = 0;
-    for (std::size_t parent = 0, nextLevel = 0; parent < m_views.size(); ++parent)
+    // Children follow their parent at once, while its part of the tape is still at hand.
+    std::vector<Siblings> open{{.next = 0, .end = 1}};
+    while (!open.empty())
     {
-        if (parent == nextLevel)
+        if (open.back().next == open.back().end)
         {
-            nextLevel = m_views.size();
-            ++depth;
+            open.pop_back();
+            continue;
         }
+        const std::size_t parent = open.back().next++;
         if (!IsContainer(*m_views[parent].m_word))
             continue;
         // simdjson does not count an empty container inside the deepest one.
-        if (depth > kJsonMaxDepth)
+        if (open.size() > kJsonMaxDepth)
             return simdjson::DEPTH_ERROR;
         AppendChildren(parent);
+        if (const auto& view = m_views[parent]; view.m_count > 0)
+            open.push_back({.next = view.m_first, .end = std::size_t{view.m_first} + view.m_count});
     }
     return simdjson::SUCCESS;
 }
@@ -200,12 +250,16 @@ simdjson::error_code VXJsonDocument::BuildViews()
 void VXJsonDocument::AppendChildren(std::size_t parent)
 {
     const std::uint64_t* const tape = m_document.tape.get();
-    const std::uint64_t* const start = m_views[parent].m_word;
-    const std::uint64_t* const end = Behind(tape, start) - 1;
-    const int name = m_views[parent].IsA('{') ? 1 : 0;
+    const std::uint64_t* const end = m_views[parent].End();
+    const bool isArray = m_views[parent].IsA('[');
+    const int name = isArray ? 0 : 1;
     const std::size_t first = m_views.size();
-    for (const std::uint64_t* word = start + 1; word < end; word = Behind(tape, word + name))
-        m_views.emplace_back(this, word + name);
+    for (const std::uint64_t* word = m_views[parent].m_word + 1; word != end; word = Behind(tape, word))
+    {
+        word += name;
+        if (isArray || IsContainer(*word))
+            m_views.emplace_back(this, word);
+    }
     m_views[parent].m_first = static_cast<std::uint32_t>(first);
     m_views[parent].m_count = static_cast<std::uint32_t>(m_views.size() - first);
 }

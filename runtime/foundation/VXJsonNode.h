@@ -46,6 +46,13 @@ struct JsonEntry
     JsonItem item;
 };
 
+/// A place between the elements or members of a container; the first one to begin with.
+struct JsonCursor
+{
+    std::size_t at = 0;
+    std::size_t child = 0; ///< how many containers stand before it, where that is of use
+};
+
 /// Null and the empty array; they belong to no document and need no owner.
 std::shared_ptr<const IVXJsonValue> JsonNull();
 std::shared_ptr<const IVXJsonValue> JsonEmptyArray();
@@ -56,8 +63,8 @@ class VXJsonNode : public IVXJsonValue
 {
 public:
     virtual JsonItem Self() const = 0;
-    /// The element or member at cursor, which moves on; 0 is the first, false when there is none.
-    virtual bool Next(std::size_t& /*cursor*/, JsonEntry& /*entry*/) const { return false; }
+    /// The element or member at cursor, which moves on; false when there is none.
+    virtual bool Next(JsonCursor& /*cursor*/, JsonEntry& /*entry*/) const { return false; }
 
     std::shared_ptr<const IVXJsonValue> operator[](std::string_view) const override { return JsonNull(); }
     std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view) const override

@@ -135,7 +135,7 @@ private:
     {
         const VXJsonNode* node;
         bool named;
-        std::size_t cursor;
+        JsonCursor cursor;
     };
 
     void WriteItem(const JsonItem& item)
@@ -149,7 +149,7 @@ private:
     void WriteNext()
     {
         Container& container = m_open.back();
-        const bool isFirst = container.cursor == 0;
+        const bool isFirst = container.cursor.at == 0;
         JsonEntry entry;
         if (!container.node->Next(container.cursor, entry))
             return Close();
@@ -170,7 +170,7 @@ private:
         if (m_open.size() >= kJsonMaxDepth && !m_deep.insert(&node).second)
             m_isCyclic = true;
         m_text += named ? '{' : '[';
-        m_open.push_back({.node = &node, .named = named, .cursor = 0});
+        m_open.push_back({.node = &node, .named = named, .cursor = {}});
     }
 
     void Close()
@@ -179,7 +179,7 @@ private:
         m_open.pop_back();
         if (m_open.size() >= kJsonMaxDepth)
             m_deep.erase(container.node);
-        if (container.cursor > 0)
+        if (container.cursor.at > 0)
             StartLine();
         m_text += container.named ? '}' : ']';
     }
