@@ -6,8 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
-#include <vector>
 
 namespace Vexlor
 {
@@ -259,13 +257,18 @@ int FactorOf(int codecID, int profile)
     return row == kBitrateFactors.end() ? 1000 : row->factor;
 }
 
-/// The rows of a profile that has limits of its own.
-std::vector<ProfileLimits> OwnLimits(int codecID, int profile)
+bool HasOwnLimits(int codecID, int profile)
 {
-    std::vector<ProfileLimits> own;
-    std::ranges::copy_if(kProfileLimits, std::back_inserter(own),
-                         [&](const auto& row) { return row.codecID == codecID && row.profile == profile; });
-    return own;
+    return std::ranges::any_of(kProfileLimits, [&](const auto& each)
+                               { return each.codecID == codecID && each.profile == profile; });
+}
+
+std::optional<LevelLimits> OwnLimits(int codecID, int profile, int level)
+{
+    for (const auto& row : kProfileLimits)
+        if (row.codecID == codecID && row.profile == profile && row.level == level)
+            return row.limits;
+    return std::nullopt;
 }
 
 } // namespace
@@ -285,11 +288,8 @@ int LevelNumberOf(int codecID, int avLevel)
 std::optional<LevelLimits> LimitsOf(int codecID, int profile, int level)
 {
     const int standard = StandardOf(codecID);
-    if (const auto own = OwnLimits(standard, profile); !own.empty())
-    {
-        const auto* row = FindRow(std::span<const ProfileLimits>(own), &ProfileLimits::level, level);
-        return row ? std::optional(row->limits) : std::nullopt;
-    }
+    if (HasOwnLimits(standard, profile))
+        return OwnLimits(standard, profile, level);
     const auto* row = FindRow(LevelsOf(standard), &LevelRow::number, level);
     if (!row)
         return std::nullopt;
