@@ -17,12 +17,12 @@ constexpr std::array kAudio{
     // mono and 5.1), 80 (HandBrake; Shaka in stereo), 102 and 128 (YouTube in 5.1 and mono; Jellyfin's most),
     // 192 (YouTube in stereo). A frame of a channel has 6144 bits at most, ISO/IEC 14496-3 4.5.3.1.
     AudioBitrateRow{
-        .codecID = VXCodecID_AAC, .perChannel = {56, 80, 112, 192}, .minPerChannel = 8, .maxPerChannel = 256},
+        .codecID = VXCodecID_AAC, .perChannel = {48, 72, 112, 192}, .minPerChannel = 8, .maxPerChannel = 256},
     // HandBrake 32; CoreAudio takes 12 to 40, fdk-aac as much as 64 in mono.
     AudioBitrateRow{
         .codecID = VXCodecID_HEAAC, .perChannel = {16, 24, 32, 40}, .minPerChannel = 12, .maxPerChannel = 40},
-    // HandBrake 160 in stereo; LAME's V5 to V0 are 130 to 245, and 320 is the most.
-    AudioBitrateRow{.codecID = VXCodecID_MP3, .perChannel = {56, 80, 112, 160}},
+    // What most files in stereo have, 128 and 192; HandBrake's 160 is between. 320 is the most.
+    AudioBitrateRow{.codecID = VXCodecID_MP3, .perChannel = {48, 64, 96, 160}},
     // DVB's usual 192 and 256 in stereo, VCD's 224 between them; 384 is the most.
     AudioBitrateRow{.codecID = VXCodecID_MP2, .perChannel = {64, 96, 128, 192}},
     // Shaka 92, 192, 384 and HandBrake 96, 224, 640 in mono, stereo and 5.1; 640 is the most.

@@ -157,7 +157,7 @@ TEST(Codecs, AnAudioCodecAnswersItsOwnRangeWhateverThePicture)
 {
     const auto aac = Encoder(VXCodecID_AAC);
     EXPECT_EQ(aac->BitrateRangeFor(0, 0, nullptr, 0, ""), aac->BitrateRangeFor(1920, 1080, k30, -5, ""));
-    EXPECT_THAT(aac->BitrateRangeFor(0, 0, nullptr, 0, ""), Pair(96'000, 256'000));
+    EXPECT_THAT(aac->BitrateRangeFor(0, 0, nullptr, 0, ""), Pair(96'000, 384'000));
 }
 
 TEST(Codecs, NoCodecIsBoundToListedBitrates)
