@@ -1,18 +1,55 @@
 include(CMakePackageConfigHelpers)
 
-install(TARGETS VXFoundation2 VXMediaCodecs VXMediaPresets EXPORT VXMediaPresetsTargets
-        FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VXMediaPresets
-        FILE_SET hosts DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/VXMediaPresets)
+# Three components, as distributions part them: what programs need to run, what their builds need, the tool.
+set(headers ${CMAKE_INSTALL_INCLUDEDIR}/VXMediaPresets)
+foreach(target IN LISTS VX_RUNTIME_TARGETS ITEMS VXMediaPresets)
+  get_target_property(sets ${target} INTERFACE_HEADER_SETS)
+  set(file_sets)
+  foreach(set IN LISTS sets)
+    list(APPEND file_sets FILE_SET ${set} DESTINATION ${headers} COMPONENT development)
+  endforeach()
+  install(TARGETS ${target} EXPORT VXMediaPresetsTargets
+          RUNTIME COMPONENT libraries
+          LIBRARY COMPONENT libraries NAMELINK_COMPONENT development
+          ARCHIVE COMPONENT development
+          ${file_sets})
+endforeach()
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/VXMediaPresets)
-install(EXPORT VXMediaPresetsTargets NAMESPACE Vexlor:: DESTINATION ${package_folder})
+install(EXPORT VXMediaPresetsTargets NAMESPACE Vexlor:: DESTINATION ${package_folder} COMPONENT development)
 configure_package_config_file(cmake/VXMediaPresetsConfig.cmake.in VXMediaPresetsConfig.cmake
                               INSTALL_DESTINATION ${package_folder})
 write_basic_package_version_file(VXMediaPresetsConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/VXMediaPresetsConfig.cmake ${PROJECT_BINARY_DIR}/VXMediaPresetsConfigVersion.cmake
-        DESTINATION ${package_folder})
+        DESTINATION ${package_folder} COMPONENT development)
+
+# vx_install_pkgconfig(NAME DESCRIPTION REQUIRES PRIVATE): the pkg-config file of one library.
+function(vx_install_pkgconfig pc_name pc_description pc_requires pc_requires_private)
+  file(RELATIVE_PATH pc_prefix /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+  string(REGEX REPLACE "/$" "" pc_prefix ${pc_prefix})
+  if(NOT BUILD_SHARED_LIBS)
+    set(pc_flags " -DVX_STATIC") # whoever links it links what it is linked with
+    set(pc_requires "${pc_requires} ${pc_requires_private}")
+    set(pc_requires_private "")
+  endif()
+  configure_file(packaging/pkgconfig.pc.in ${pc_name}.pc @ONLY)
+  install(FILES ${PROJECT_BINARY_DIR}/${pc_name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
+endfunction()
+if(VXMEDIAPRESETS_RUNTIME)
+  vx_install_pkgconfig(VXFoundation2 "JSON, log and storage beneath VXMediaPresets" "" simdjson)
+  vx_install_pkgconfig(VXMediaCodecs "Codecs and containers beneath VXMediaPresets, on FFmpeg" VXFoundation2
+                       "libavformat libavcodec libavutil")
+  vx_install_pkgconfig(VXMediaPresets "${PROJECT_DESCRIPTION}" "VXMediaCodecs VXFoundation2" Qt6Gui)
+endif()
 
 if(VX_BUILD_APPS)
-  install(TARGETS vxpresets)
-  install(FILES ${PROJECT_BINARY_DIR}/apps/vxpresets/vxpresets.artwork DESTINATION ${CMAKE_INSTALL_DATADIR}/vxpresets)
+  set(tool ${PROJECT_BINARY_DIR}/apps/vxpresets)
+  install(TARGETS vxpresets RUNTIME COMPONENT tools)
+  install(FILES ${tool}/vxpresets.artwork DESTINATION ${CMAKE_INSTALL_DATADIR}/vxpresets COMPONENT tools)
+  install(FILES ${tool}/vxpresets.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
+  install(FILES ${tool}/vxpresets.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME vxpresets
+          COMPONENT tools)
+  install(FILES ${tool}/vxpresets.zsh DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions RENAME _vxpresets
+          COMPONENT tools)
+  install(FILES ${tool}/vxpresets.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tools)
 endif()

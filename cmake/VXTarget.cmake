@@ -19,6 +19,11 @@ function(vx_add_library target build_define header_folder)
   target_compile_definitions(${target} PRIVATE ${build_define} PUBLIC $<$<NOT:$<BOOL:${BUILD_SHARED_LIBS}>>:VX_STATIC>)
   set_target_properties(${target} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
                                              VERIFY_INTERFACE_HEADER_SETS ON INSTALL_RPATH $ORIGIN)
+  if(BUILD_SHARED_LIBS AND UNIX AND NOT APPLE)
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/exports.map.in ${target}.map @ONLY)
+    target_link_options(${target} PRIVATE LINKER:--version-script=${CMAKE_CURRENT_BINARY_DIR}/${target}.map)
+    set_target_properties(${target} PROPERTIES LINK_DEPENDS ${CMAKE_CURRENT_BINARY_DIR}/${target}.map)
+  endif()
   add_library(Vexlor::${target} ALIAS ${target})
 endfunction()
 

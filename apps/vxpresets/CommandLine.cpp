@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "ArtworkCommands.h"
+#include "CommandOutline.h"
 #include "Failure.h"
 #include "Text.h"
 
@@ -39,7 +40,9 @@ CLI::App* AddCommand(CLI::App& app, Request& request, const char* name, const ch
 void AddCommands(CLI::App& app, Request& request)
 {
     AddCommand(app, request, "tree", "Print the tree of presets, with the number of presets in each category",
-               TreeCommand);
+               TreeCommand)
+        ->add_flag("--paths", request.asPaths, "Print the paths of the presets, one a line")
+        ->excludes("--json");
     AddCommand(app, request, "show", "Print a preset: every list, the current entry in brackets", ShowCommand)
         ->add_option("PRESET", request.preset, kPresetHelp)
         ->required();
@@ -59,6 +62,18 @@ void AddCommands(CLI::App& app, Request& request)
         ->excludes(codec)
         ->excludes("--json");
     AddArtworkCommands(app, request);
+}
+
+/// What packagers install beside the tool, made from what the tool itself knows of its commands.
+void AddGenerate(CLI::App& app, std::string& text)
+{
+    const std::string kinds = "man, bash, zsh or fish";
+    auto* generate = app.add_subcommand("generate", "Print the manual page or a shell's completion");
+    auto kind = std::make_shared<std::string>();
+    generate->add_option("KIND", *kind, "What to print: " + kinds)
+        ->required()
+        ->check(CLI::IsMember({"man", "bash", "zsh", "fish"}).description(""));
+    generate->callback([&app, &text, kind] { text = Generated(*kind, OutlineOf(app)); });
 }
 
 /// The last of the commands that were named, one inside the other; the program itself where none was.
@@ -91,6 +106,7 @@ CommandLine ReadCommandLine(int argc, const char* const* argv)
     app.require_subcommand(1);
     AddCommonOptions(app, line.request);
     AddCommands(app, line.request);
+    AddGenerate(app, line.text);
     try
     {
         app.parse(argc, argv);

@@ -21,6 +21,7 @@ struct Request
     Command command = nullptr;
     bool asJson = false;
     bool asMarkdown = false;
+    bool asPaths = false;
     std::optional<std::string> document;
     std::string preset;
     std::string media;

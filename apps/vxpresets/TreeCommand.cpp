@@ -45,12 +45,22 @@ void AddNode(Table& table, const IVXFormatNode& node, const std::string& indent)
         AddNode(table, *child, inner);
 }
 
+std::string Paths(const Catalogue& catalogue)
+{
+    std::string paths;
+    for (const auto& entry : catalogue.entries)
+        paths += OneLine(entry.path) + '\n';
+    return paths;
+}
+
 } // namespace
 
 std::string TreeCommand(const Request& request, const Catalogue& catalogue, const Style& style)
 {
     if (request.asJson)
         return JsonDocument(*catalogue.root->JsonValue());
+    if (request.asPaths)
+        return Paths(catalogue);
     Table table;
     AddNode(table, *catalogue.root, {});
     return table.Text(style);
