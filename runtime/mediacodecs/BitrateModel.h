@@ -38,7 +38,7 @@ IVXCodecs::QualityLevel VideoGrade(const CodecCapabilities& codec, const Picture
 IVXCodecs::QualityLevel AudioGrade(const CodecCapabilities& codec, const SoundStream& stream, int bitrate);
 /// The bitrates from the lowest grade to the highest.
 std::pair<int, int> VideoBitrateRange(const CodecCapabilities& codec, const PictureStream& stream);
-/// The codec's own range: its grades at the rate and layout offered first; of a lossless codec from the
+/// The codec's own range: its grades at the rate and layout offered first; of a codec without grades from the
 /// smallest sound that it takes to the largest.
 std::pair<int, int> AudioBitrateRange(const CodecCapabilities& codec);
 
