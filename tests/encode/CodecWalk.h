@@ -1,0 +1,45 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+namespace Vexlor
+{
+
+/// What went wrong, or gave way, how often, and one example of it.
+struct Findings
+{
+    struct Finding
+    {
+        int count = 0;
+        std::string example;
+    };
+    std::map<std::string, Finding> all;
+
+    void Add(const std::string& what, const std::string& example);
+    /// "3 times: what (example)", a line each; empty when there is none.
+    std::string Text() const;
+    int Count() const;
+};
+
+/// What was tried of a codec, and what came of it.
+struct WalkedCodec
+{
+    std::string codec;
+    std::string encoder;
+    int combinations = 0;
+    std::string containers; ///< the names, separated by blanks
+    int files = 0;
+    int leftOut = 0; ///< further combinations, of pictures larger than 4K
+    double seconds = 0;
+    Findings failures;   ///< did not open, was not encoded, not written, or read back as something else
+    Findings notCarried; ///< read back as something else, for a reason that is known
+    Findings gaveWay;    ///< asked for, but excluded by something else that was asked for
+};
+
+/// Chooses pairwise among everything that the codec's preset offers, in every container that lists the codec,
+/// matches, opens the preferred encoder, encodes ten pictures or a second of sound, writes them into every
+/// container and reads each file back.
+WalkedCodec WalkCodec(int codecID);
+
+} // namespace Vexlor

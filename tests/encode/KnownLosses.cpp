@@ -1,0 +1,85 @@
+#include "VXMediaCodecs.h"
+#include "tests/encode/ReadBack.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+/// A property that does not survive, and why that cannot be otherwise. Channels are counted apart, so that a
+/// row about the places of loudspeakers never hides a lost one.
+struct LossRow
+{
+    std::string_view containers; ///< separated by blanks; empty: any
+    std::span<const int> codecs;
+    std::string_view property;
+    std::string_view reason;
+};
+
+template <int... kIDs>
+constexpr std::array<int, sizeof...(kIDs)> kCodecs{kIDs...};
+
+constexpr auto kPCM = kCodecs<VXCodecID_PCM16, VXCodecID_PCM24, VXCodecID_PCM32, VXCodecID_PCMFloat,
+                              VXCodecID_PCM16BE, VXCodecID_PCM24BE>;
+
+constexpr std::array kLosses{
+    LossRow{"", kCodecs<VXCodecID_Opus>, "sample rate", "Opus always decodes to 48 kHz (RFC 7845 5.1)"},
+    LossRow{
+        "", kCodecs<VXCodecID_AAC>, "layout",
+        "libavcodec reads channel configuration 7 as back loudspeakers unless told to be strict, since most "
+        "encoders mean them"},
+    LossRow{"OGG OGV", kCodecs<VXCodecID_FLAC>, "layout",
+            "FLAC has one place for back and side loudspeakers (RFC 9639 9.1.3)"},
+    LossRow{"CAF AIFF", kPCM, "layout", "libavformat writes no layout of its own where a tag is near enough"},
+    LossRow{"MKV MKA MXF", kPCM, "layout", "the number of channels of PCM is stored, not their places"},
+    LossRow{"MKV", kCodecs<VXCodecID_DIVX>, "codec", "Matroska names MPEG-4 without the encoder's tag"},
+};
+
+/// How exactly a container tells a frame rate.
+struct ClockRow
+{
+    std::string_view containers;
+    double tolerance;
+    std::string_view reason;
+};
+
+constexpr double kExact = 0.0002; // below what tells 29.97 from 30
+
+constexpr std::array kClocks{
+    ClockRow{"TS M2TS ASF WMV FLV F4V", 0.0011,
+             "no frame rate is stored, and the time stamps of ten frames do not tell 59.94 from 60"},
+};
+
+bool Names(std::string_view words, std::string_view word)
+{
+    return words.empty() ||
+           (' ' + std::string(words) + ' ').find(' ' + std::string(word) + ' ') != std::string::npos;
+}
+
+} // namespace
+
+std::string ReasonOf(const Difference& difference, const std::string& container, int codecID)
+{
+    for (const auto& row : kLosses)
+        if (row.property == difference.property && Names(row.containers, container) &&
+            std::ranges::find(row.codecs, codecID) != row.codecs.end())
+            return std::string(row.reason);
+    return {};
+}
+
+double RateToleranceOf(const std::string& container)
+{
+    for (const auto& row : kClocks)
+        if (Names(row.containers, container))
+            return row.tolerance;
+    return kExact;
+}
+
+} // namespace Vexlor

@@ -1,0 +1,89 @@
+#include "runtime/mediacodecs/StreamLabels.h"
+
+#include "IVXCodecs.h"
+#include "VXMediaCodecs.h"
+#include "runtime/mediacodecs/CodecCapabilities.h"
+#include "runtime/mediacodecs/LevelTable.h"
+#include "runtime/mediacodecs/ProfileTable.h"
+#include "tests/encode/Streams.h"
+
+#include <gtest/gtest.h>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+constexpr int kUnknown = -99;
+
+/// A stream's labels and what becomes of them: "High, 4", "-" for the encoder's choice.
+struct LabelCase
+{
+    const char* name;
+    int codecID;
+    int format;
+    int profile;
+    int level;
+    const char* labels;
+    std::size_t changes;
+};
+
+constexpr LabelCase kLabels[] = {
+    {"NoneAskedFor", VXCodecID_H264, VXPixFormat_YUV420P, kUnknown, kUnknown, "-, -", 0},
+    {"BothHold", VXCodecID_H264, VXPixFormat_YUV420P, 77, 41, "Main, 4.1", 0},
+    {"ProfileWithoutThatChroma", VXCodecID_H264, kPixFormatYUV422P, 66, kUnknown, "High 4:2:2, -", 1},
+    {"ProfileWithoutThatDepth", VXCodecID_H264, kPixFormatYUV420P10, 100, kUnknown, "High 10, -", 1},
+    {"ProfileOfMoreThanTheFormat", VXCodecID_HEVC, VXPixFormat_YUV420P, 2, kUnknown, "Main 10, -", 0},
+    {"LevelTooLow", VXCodecID_H264, VXPixFormat_YUV420P, 100, 10, "High, 3", 1},
+    {"HighTierIsOfferedToHighTierOnly", VXCodecID_HEVC, VXPixFormat_YUV420P, 1, 30, "Main, 3", 1},
+    {"LevelOfMPEG2NeedsAProfile", VXCodecID_MPEG2, VXPixFormat_YUV420P, kUnknown, 8, "Main, Main", 0},
+    {"AndOneThatHoldsTheFormat", VXCodecID_MPEG2, kPixFormatYUV422P, kUnknown, 8, "4:2:2, Main", 0},
+    {"DNxHRNeedsAProfile", VXCodecID_DNxHR, kPixFormatYUV422P, kUnknown, kUnknown, "SQ, -", 0},
+    {"AndOneOfTenBits", VXCodecID_DNxHR, kPixFormatYUV422P10, kUnknown, kUnknown, "HQX, -", 0},
+    {"NumberThatIsNotKnown", VXCodecID_H264, VXPixFormat_YUV420P, 12345, 12345, "-, -", 0},
+    {"CodecWithoutLabels", VXCodecID_VP8, VXPixFormat_YUV420P, 1, 1, "-, -", 0},
+};
+
+class Labels : public testing::TestWithParam<LabelCase>
+{
+protected:
+    Labels()
+    {
+        const auto& test = GetParam();
+        const auto stream = Picture(test.codecID);
+        stream->SetProfile(test.profile);
+        stream->SetLevel(test.level);
+        labels = FittingLabels(*CapabilitiesOf(test.codecID), *stream, test.format);
+    }
+
+    template <class Row>
+    static std::string NameOf(const Row* row)
+    {
+        return row ? std::string(row->name) : "-";
+    }
+
+    StreamLabels labels;
+};
+
+TEST_P(Labels, AreTheNearestThatHoldTheStream)
+{
+    EXPECT_EQ(GetParam().labels, NameOf(labels.profile) + ", " + NameOf(labels.level));
+}
+
+TEST_P(Labels, TellWhatGaveWay) { EXPECT_EQ(GetParam().changes, labels.changes.size()); }
+
+INSTANTIATE_TEST_SUITE_P(Streams, Labels, testing::ValuesIn(kLabels),
+                         [](const auto& test) { return test.param.name; });
+
+TEST(StreamLabels, ChangeNamesBothLabelsAndTheCause)
+{
+    const auto stream = Picture(VXCodecID_H264);
+    stream->SetProfile(66);
+    const auto labels = FittingLabels(*CapabilitiesOf(VXCodecID_H264), *stream, kPixFormatYUV422P);
+    EXPECT_EQ("profile Baseline cannot hold YUV 4:2:2; High 4:2:2 stands in", labels.changes.at(0));
+}
+
+} // namespace
+
+} // namespace Vexlor
