@@ -145,7 +145,7 @@ void Opening::SetLabel(int& number, std::string_view option, const Label& label)
 void Opening::SetLabels(const IVXCodecParameter& stream)
 {
     auto& context = *m_setup.context;
-    auto labels = FittingLabels(m_codec, stream, PixelFormatOf(context.pix_fmt), m_row.profileOfLevel);
+    auto labels = FittingLabels(m_codec, stream, PixelFormatOf(context.pix_fmt));
     std::ranges::move(labels.changes, std::back_inserter(m_setup.changes));
     if (labels.profile)
         SetLabel(context.profile, m_row.profileOption, *labels.profile);

@@ -23,9 +23,9 @@ using EncoderContext = std::unique_ptr<AVCodecContext, CloseEncoder>;
 /// What an encoder is told beyond the stream's parameters.
 struct EncoderWish
 {
-    std::string encoder;       ///< libavcodec's name; empty: the preferred one that is here
+    std::string encoder = {};  ///< libavcodec's name; empty: the preferred one that is here
     bool globalHeader = false; ///< the container keeps the codec's headers, as AVFMT_GLOBALHEADER says
-    std::string options;       ///< the encoder's own, in libavcodec's words: "preset=fast:threads=2"
+    std::string options = {};  ///< the encoder's own, in libavcodec's words: "preset=fast:threads=2"
 };
 
 /// An encoder that is ready for its first frame, or the reason why it is not.
@@ -42,6 +42,9 @@ struct EncoderSetup
 /// beyond them excludes itself, the label gives way: a sample format that the encoder lacks to one that it
 /// has, a profile that cannot hold the format to the first that can, a level that cannot hold the stream to
 /// the lowest that can. Frames are to be made as the context says. The time base is one frame, or one sample.
+///
+/// SVT-AV1 tells stderr what it does unless the environment has SVT_LOG=1, and waits for ever when it is
+/// closed in the middle of a stream: it has to see a frame and the end.
 EncoderSetup OpenEncoder(const IVXCodecParameter& stream, const EncoderWish& wish);
 
 } // namespace Vexlor

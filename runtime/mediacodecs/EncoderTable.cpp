@@ -12,8 +12,7 @@ namespace
 {
 
 // Names as in libavcodec's own option tables (ffmpeg -h encoder=...). x265 and SVT-AV1 take their own options
-// as one text, and write what they do to stderr unless told otherwise; mpeg2video refuses a level that comes
-// without a profile.
+// as one text; x265 writes what it does to stderr unless it is told otherwise.
 constexpr std::array kEncoders{
     EncoderRow{.encoder = "libx264", .profileOption = "profile", .levelOption = "level"},
     EncoderRow{.encoder = "libopenh264", .profileOption = "profile"},
@@ -27,7 +26,6 @@ constexpr std::array kEncoders{
     EncoderRow{.encoder = "libsvtav1", .levelOption = "svtav1-params"},
     EncoderRow{.encoder = "prores_ks", .profileOption = "profile"},
     EncoderRow{.encoder = "dnxhd", .profileOption = "profile"},
-    EncoderRow{.encoder = "mpeg2video", .profileOfLevel = 4},
     EncoderRow{.encoder = "mjpeg", .fullRange = true},
 };
 

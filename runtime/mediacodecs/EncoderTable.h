@@ -14,7 +14,6 @@ struct EncoderRow
     std::string_view levelOption = {}; ///< as above, of a level's text
     std::string_view always = {};      ///< options that are set whatever the stream is: "name=value"
     bool fullRange = false;            ///< takes limited range only as an unofficial extension
-    int profileOfLevel = -99;          ///< profile of ours that a level without one goes with
 };
 
 /// The row of an encoder; one with its name alone for an encoder that needs no more.

@@ -38,7 +38,8 @@ struct ProfileFormatRow
 };
 
 // H.264: ITU-T H.264 A.2. HEVC: ITU-T H.265 A.3.2 to A.3.5. MPEG-2: ISO/IEC 13818-2 tables 8-5 and 8-13.
-// VP9: bitstream 7.2. AV1: bitstream A.2.
+// VP9: bitstream 7.2. AV1: bitstream A.2. ProRes: SMPTE RDD 36, 5.1.1. DNxHR: SMPTE ST 2019-1 table 2.
+// ProRes, DNxHR: what prores_ks and dnxhd have, who take ten bits for twelve.
 constexpr std::array kRows{
     ProfileFormatRow{VXCodecID_H264, 66, Chroma::Is420, Chroma::Is420, 8, 8},
     ProfileFormatRow{VXCodecID_H264, 1066, Chroma::Is420, Chroma::Is420, 8, 8},
@@ -65,6 +66,28 @@ constexpr std::array kRows{
     ProfileFormatRow{VXCodecID_AV1, 0, Chroma::Gray, Chroma::Is420, 8, 10},
     ProfileFormatRow{VXCodecID_AV1, 1, Chroma::Is444, Chroma::Is444, 8, 10},
     ProfileFormatRow{VXCodecID_AV1, 2, Chroma::Gray, Chroma::Is444, 8, 12},
+    ProfileFormatRow{VXCodecID_ProRes, 0, Chroma::Is422, Chroma::Is422, 10, 10},
+    ProfileFormatRow{VXCodecID_ProRes, 1, Chroma::Is422, Chroma::Is422, 10, 10},
+    ProfileFormatRow{VXCodecID_ProRes, 2, Chroma::Is422, Chroma::Is422, 10, 10},
+    ProfileFormatRow{VXCodecID_ProRes, 3, Chroma::Is422, Chroma::Is422, 10, 10},
+    ProfileFormatRow{VXCodecID_ProRes, 4, Chroma::Is444, Chroma::Is444, 10, 12},
+    ProfileFormatRow{VXCodecID_ProRes, 5, Chroma::Is444, Chroma::Is444, 10, 12},
+    ProfileFormatRow{VXCodecID_DNxHR, 1, Chroma::Is422, Chroma::Is422, 8, 8},
+    ProfileFormatRow{VXCodecID_DNxHR, 2, Chroma::Is422, Chroma::Is422, 8, 8},
+    ProfileFormatRow{VXCodecID_DNxHR, 3, Chroma::Is422, Chroma::Is422, 8, 8},
+    ProfileFormatRow{VXCodecID_DNxHR, 4, Chroma::Is422, Chroma::Is422, 10, 10},
+    ProfileFormatRow{VXCodecID_DNxHR, 5, Chroma::Is444, Chroma::Is444, 10, 10},
+    ProfileFormatRow{VXCodecID_ProRes, 0, Chroma::Is422, Chroma::Is422, 10, 10},
+    ProfileFormatRow{VXCodecID_ProRes, 1, Chroma::Is422, Chroma::Is422, 10, 10},
+    ProfileFormatRow{VXCodecID_ProRes, 2, Chroma::Is422, Chroma::Is422, 10, 10},
+    ProfileFormatRow{VXCodecID_ProRes, 3, Chroma::Is422, Chroma::Is422, 10, 10},
+    ProfileFormatRow{VXCodecID_ProRes, 4, Chroma::Is444, Chroma::Is444, 10, 10},
+    ProfileFormatRow{VXCodecID_ProRes, 5, Chroma::Is444, Chroma::Is444, 10, 10},
+    ProfileFormatRow{VXCodecID_DNxHR, 1, Chroma::Is422, Chroma::Is422, 8, 8},
+    ProfileFormatRow{VXCodecID_DNxHR, 2, Chroma::Is422, Chroma::Is422, 8, 8},
+    ProfileFormatRow{VXCodecID_DNxHR, 3, Chroma::Is422, Chroma::Is422, 8, 8},
+    ProfileFormatRow{VXCodecID_DNxHR, 4, Chroma::Is422, Chroma::Is422, 10, 10},
+    ProfileFormatRow{VXCodecID_DNxHR, 5, Chroma::Is444, Chroma::Is444, 10, 10},
 };
 
 Chroma ChromaOf(int format)

@@ -9,15 +9,38 @@
 #include "ProfileTable.h"
 #include "VXLevels.h"
 #include "VXMediaCodecs.h"
-#include "VXMediaCodecs.h"
 
 #include <algorithm>
+#include <array>
 
 namespace Vexlor
 {
 
 namespace
 {
+
+/// A profile that the encoder has to be told although the stream leaves it open.
+struct NeededProfile
+{
+    int codecID;
+    int profile;
+    bool withLevelOnly;
+};
+
+// libavcodec's MPEG-2 encoder refuses a level that comes without a profile; without one, its DNxHD encoder
+// takes the stream for DNxHD and its few sizes.
+constexpr std::array kNeededProfiles{
+    NeededProfile{VXCodecID_MPEG2, 4, true},
+    NeededProfile{VXCodecID_DNxHR, 2, false},
+};
+
+int ProfileNeededBy(const IVXCodecParameter& stream)
+{
+    const auto* row = FindRow(std::span<const NeededProfile>(kNeededProfiles), &NeededProfile::codecID,
+                              stream.GetCodecID());
+    const bool hasLevel = stream.GetLevel() != IVXCodecs::VXLevelUnknown;
+    return row && (hasLevel || !row->withLevelOnly) ? row->profile : IVXCodecs::VXProfileUnknown;
+}
 
 template <class Row>
 std::string NameOf(const Row* row)
@@ -53,7 +76,9 @@ void SetProfile(StreamLabels& labels, const CodecCapabilities& codec, int wanted
 {
     const int codecID = codec.codec->id;
     labels.profile = FindProfile(codecID, wanted);
-    if (!labels.profile || ProfileHolds(codecID, wanted, format))
+    if (!labels.profile && codec.codec->needsProfile)
+        labels.profile = FindProfile(codecID, FirstToHold(codec, format));
+    if (!labels.profile || ProfileHolds(codecID, labels.profile->number, format))
         return;
     const auto& refused = *labels.profile;
     labels.profile = FindProfile(codecID, FirstToHold(codec, format));
@@ -85,15 +110,12 @@ VXLevelStream LevelStream(const IVXCodecParameter& stream, const ProfileRow* pro
 
 } // namespace
 
-StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParameter& stream, int pixelFormat,
-                           int profileOfLevel)
+StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParameter& stream, int pixelFormat)
 {
     StreamLabels labels;
-    const bool wantsLevel = FindLevel(codec.codec->id, stream.GetLevel()) != nullptr;
-    const bool wantsProfile = FindProfile(codec.codec->id, stream.GetProfile()) != nullptr;
-    const int profile = !wantsProfile && wantsLevel ? profileOfLevel : stream.GetProfile();
-    SetProfile(labels, codec, profile, pixelFormat);
-    if (!wantsProfile)
+    const bool isOpen = !FindProfile(codec.codec->id, stream.GetProfile());
+    SetProfile(labels, codec, isOpen ? ProfileNeededBy(stream) : stream.GetProfile(), pixelFormat);
+    if (isOpen)
         labels.changes.clear(); // nobody asked for the one that gave way
     SetLevel(labels, stream.GetLevel(), LevelStream(stream, labels.profile));
     return labels;

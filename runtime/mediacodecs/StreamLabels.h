@@ -21,9 +21,7 @@ struct StreamLabels
 
 /// The labels nearest to the stream's own that its format, size, rates and bitrate allow. A profile that
 /// cannot hold the pixel format gives way to the first on offer that can, a level that cannot hold the stream
-/// to the lowest that can; where there is none, the encoder chooses. A level without a profile goes with
-/// profileOfLevel, if that is known.
-StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParameter& stream, int pixelFormat,
-                           int profileOfLevel);
+/// to the lowest that can; where there is none, the encoder chooses.
+StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParameter& stream, int pixelFormat);
 
 } // namespace Vexlor
