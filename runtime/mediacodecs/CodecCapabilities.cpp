@@ -77,6 +77,18 @@ std::vector<int> OfferedLevels(const CodecRow& codec)
     return numbers;
 }
 
+// Sides of 1, 2 or 4, so that the larger is a multiple of the smaller.
+ChromaBlock LargestBlock(std::span<const int> formats)
+{
+    ChromaBlock largest;
+    for (const int format : formats)
+    {
+        const auto block = ChromaBlockOf(format);
+        largest = {std::max(largest.width, block.width), std::max(largest.height, block.height)};
+    }
+    return largest;
+}
+
 CodecCapabilities Capabilities(const CodecRow& codec)
 {
     CodecCapabilities all;
@@ -94,7 +106,7 @@ CodecCapabilities Capabilities(const CodecRow& codec)
     all.layouts = Narrowed(codec.audio.layouts, std::span<const std::uint64_t>(masks), std::identity());
     all.profiles = OfferedProfiles(codec, preferred);
     all.levels = OfferedLevels(codec);
-    all.block = codec.type == VXCodecTypeVideo ? ChromaBlockOf(all.formats.front()) : ChromaBlock();
+    all.block = codec.type == VXCodecTypeVideo ? LargestBlock(all.formats) : ChromaBlock();
     return all;
 }
 

@@ -22,7 +22,7 @@ struct CodecCapabilities
     std::vector<std::uint64_t> layouts;
     std::vector<int> profiles;
     std::vector<int> levels;
-    ChromaBlock block; ///< what the sides of a picture are multiples of, in the format offered first
+    ChromaBlock block; ///< what the sides of a picture are multiples of, in whichever format
 };
 
 /// The capabilities of a codec of ours, made at the first call and shared by all; null when there is none.

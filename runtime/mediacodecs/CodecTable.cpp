@@ -99,9 +99,9 @@ constexpr auto kWideband = kRates<16000>;
 constexpr auto kMonoOnly = kLayouts<kMono>;
 constexpr auto kMonoStereo = kLayouts<kMono, kStereo>; // as speech is offered
 constexpr auto kStereoMono = kLayouts<kStereo, kMono>;
-// channelConfiguration: ISO/IEC 14496-3 table 1.19.
-constexpr auto kAACLayouts =
-    kLayouts<kStereo, kMono, kLayout30, kLayout40, kLayout50, kLayout51, kLayout71Wide>;
+// channelConfiguration 1 to 6: ISO/IEC 14496-3 table 1.19. The seventh, 7.1 (wide), is read back as one of
+// three layouts, as the decoder likes.
+constexpr auto kAACLayouts = kLayouts<kStereo, kMono, kLayout30, kLayout40, kLayout50, kLayout51>;
 // acmod and lfeon: ATSC A/52 table 5.8.
 constexpr auto kAC3Layouts = kLayouts<kStereo, kMono, kLayout21, kLayout30, kLayout30Back, kLayout31,
                                       kLayout40, kQuadSide, kLayout41, kLayout50Side, kLayout51Side>;
@@ -116,6 +116,8 @@ constexpr auto kFLACLayouts =
 // ALACChannelLayoutTags of ALAC's reference: one to eight channels in MPEG's order.
 constexpr auto kALACLayouts =
     kLayouts<kStereo, kMono, kLayout30, kLayout40, kLayout50, kLayout51, kLayout61Back, kLayout71Wide>;
+// A TTA file tells the number of channels alone; what the decoder takes three, four and six for.
+constexpr auto kTTALayouts = kLayouts<kStereo, kMono, kLayout21, kQuad, kLayout51>;
 constexpr auto kWaveLayouts = kLayouts<kStereo, kMono, kLayout21, kLayout30, kLayout40, kQuad, kLayout50,
                                        kLayout51, kLayout61, kLayout71>;
 
@@ -264,7 +266,8 @@ constexpr std::array kTable{
              .avID = AV_CODEC_ID_PRORES,
              .encoders = "prores_ks",
              .formats = kOffered<k422x10, k444x10, kPixFormatYUVA444P10>,
-             .video = {.min = {16, 16}, .max = kAnySize, .maxArea = kAnyArea}},
+             .video = {.min = {16, 16}, .max = kAnySize, .maxArea = kAnyArea},
+             .needsProfile = true},
     // The two rasters of SMPTE ST 2019-1 that are coded both with 8 and with 10 bits; 1440 x 1080 and
     // 960 x 720 have 8 only.
     CodecRow{.id = VXCodecID_DNxHD,
@@ -523,7 +526,7 @@ constexpr std::array kTable{
              .avID = AV_CODEC_ID_TTA,
              .encoders = "tta",
              .formats = kOffered<kSampleFormatS16, kSampleFormatS32>,
-             .audio = {kLosslessRates, kWaveLayouts}},
+             .audio = {kLosslessRates, kTTALayouts}},
     CodecRow{.id = VXCodecID_PCM16BE,
              .name = "PCM 16-bit big-endian",
              .type = VXCodecTypeAudio,

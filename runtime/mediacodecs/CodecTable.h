@@ -56,8 +56,8 @@ struct CodecRow
         formats; ///< pixel or sample formats (ours), in the order in which a user is offered them
     VideoLimits video = {};
     AudioLimits audio = {};
-    /// Its encoder makes another codec unless it is told a profile: the first that holds the format where
-    /// none is chosen.
+    /// Without a profile its encoder makes another codec, or a container does not take it: the first one that
+    /// holds the format is set where none is chosen.
     bool needsProfile = false;
 };
 

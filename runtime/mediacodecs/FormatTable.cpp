@@ -1,5 +1,6 @@
 #include "FormatTable.h"
 
+#include "ChannelLayouts.h"
 #include "CodecCapabilities.h"
 #include "Lookup.h"
 #include "VXMediaCodecs.h"
@@ -22,6 +23,9 @@ namespace
 
 template <int... kIDs>
 constexpr std::array<int, sizeof...(kIDs)> kCodecs{kIDs...};
+
+template <int... kHz>
+constexpr std::array<int, sizeof...(kHz)> kRates{kHz...};
 
 constexpr int kH264 = VXCodecID_H264;
 constexpr int kHEVC = VXCodecID_HEVC;
@@ -77,6 +81,28 @@ constexpr int kTTA = VXCodecID_TTA;
 constexpr int kPCM16BE = VXCodecID_PCM16BE;
 constexpr int kPCM24BE = VXCodecID_PCM24BE;
 
+// The object type of MP3 in MP4 has no half sample rates below MPEG-2's: libavformat's movenc.c.
+constexpr std::array kMP3InMP4{
+    StreamLimit{.codecs = kCodecs<kMP3>, .sampleRates = kRates<48000, 44100, 32000, 24000, 22050, 16000>}};
+
+// SoundRate has two bits, so 5.5, 11, 22 or 44 kHz: the FLV chapter of the Flash video format, version 10.1,
+// E.4.2.1. Players read 48 kHz out of the stream itself, and libavformat writes it so.
+constexpr std::array kMP3InFLV{
+    StreamLimit{.codecs = kCodecs<kMP3>, .sampleRates = kRates<44100, 48000, 22050, 11025>}};
+
+// Edit units of SMPTE ST 377-1 as libavformat's mxfenc.c counts them: rates of television, sound at 48 kHz.
+constexpr std::array kTelevisionRates{AVRational{60, 1}, AVRational{60000, 1001}, AVRational{50, 1},
+                                      AVRational{30, 1}, AVRational{30000, 1001}, AVRational{25, 1},
+                                      AVRational{24, 1}, AVRational{24000, 1001}};
+constexpr std::array kMXFLimits{
+    StreamLimit{.codecs = kCodecs<kProRes, kDNxHR, kH264>, .frameRates = kTelevisionRates},
+    StreamLimit{.codecs = kCodecs<kPCM16, kPCM24>, .sampleRates = kRates<48000>}};
+
+// Audio auxiliary data, IEC 61834-2: two channels of 16 bits.
+constexpr std::array kStereoOnly{kStereo};
+constexpr std::array kDVLimits{StreamLimit{
+    .codecs = kCodecs<kPCM16>, .sampleRates = kRates<48000, 44100, 32000>, .layouts = kStereoOnly}};
+
 // MPG is written by the muxer of MPEG-2 program streams; the one named "mpeg" makes MPEG-1 system streams.
 constexpr std::array kFormats{
     FormatRow{.name = "MP4",
@@ -84,13 +110,14 @@ constexpr std::array kFormats{
               .demuxer = "mp4",
               .endings = "mp4",
               .videoCodecs = kCodecs<kH264, kHEVC, kAV1, kVP9, kMPEG4, kMPEG2, kMPEG1>,
-              .audioCodecs = kCodecs<kAAC, kHEAAC, kMP3, kAC3, kEAC3, kOpus, kFLAC, kALAC, kMP2>},
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kMP3, kAC3, kEAC3, kOpus, kALAC>,
+              .limits = kMP3InMP4},
     FormatRow{.name = "MOV",
               .muxer = "mov",
               .demuxer = "mov",
               .endings = "mov qt",
-              .videoCodecs = kCodecs<kH264, kHEVC, kProRes, kDNxHR, kDNxHD, kMJPEG, kDV, kDVNTSC, kMPEG4,
-                                     kMPEG2, kH263, kH261>,
+              .videoCodecs =
+                  kCodecs<kH264, kHEVC, kProRes, kDNxHR, kDNxHD, kMJPEG, kDV, kDVNTSC, kMPEG4, kMPEG2, kH263>,
               .audioCodecs = kCodecs<kAAC, kHEAAC, kALAC, kPCM16, kPCM24, kPCM32, kPCMFloat, kMP3, kAC3,
                                      kEAC3, kPCM16BE, kPCM24BE, kALaw, kMuLaw>},
     FormatRow{.name = "MKV",
@@ -123,7 +150,7 @@ constexpr std::array kFormats{
               .audioCodecs = kCodecs<kMP2, kAC3, kMP3>},
     FormatRow{.name = "M4V",
               .muxer = "ipod",
-              .demuxer = "m4v",
+              .demuxer = "mp4",
               .endings = "m4v",
               .videoCodecs = kCodecs<kH264, kMPEG4>,
               .audioCodecs = kCodecs<kAAC, kHEAAC, kAC3, kALAC>},
@@ -138,7 +165,7 @@ constexpr std::array kFormats{
               .demuxer = "mpegts",
               .endings = "ts",
               .videoCodecs = kCodecs<kH264, kHEVC, kMPEG2, kMPEG4, kMPEG1>,
-              .audioCodecs = kCodecs<kAAC, kHEAAC, kAC3, kEAC3, kMP2, kMP3, kDTS, kOpus>},
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kAC3, kEAC3, kMP2, kMP3, kDTS>},
     FormatRow{.name = "M2TS",
               .muxer = "mpegts",
               .demuxer = "mpegts",
@@ -162,13 +189,15 @@ constexpr std::array kFormats{
               .demuxer = "flv",
               .endings = "flv",
               .videoCodecs = kCodecs<kH264, kFLV1>,
-              .audioCodecs = kCodecs<kAAC, kHEAAC, kMP3>},
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kMP3>,
+              .limits = kMP3InFLV},
     FormatRow{.name = "F4V",
               .muxer = "f4v",
               .demuxer = "mov",
               .endings = "f4v",
               .videoCodecs = kCodecs<kH264>,
-              .audioCodecs = kCodecs<kAAC, kHEAAC, kMP3>},
+              .audioCodecs = kCodecs<kAAC, kHEAAC, kMP3>,
+              .limits = kMP3InMP4},
     FormatRow{.name = "3GP",
               .muxer = "3gp",
               .demuxer = "3gp",
@@ -186,13 +215,15 @@ constexpr std::array kFormats{
               .demuxer = "mxf",
               .endings = "mxf",
               .videoCodecs = kCodecs<kMPEG2, kDNxHD, kDNxHR, kProRes, kH264, kDV, kDVNTSC>,
-              .audioCodecs = kCodecs<kPCM16, kPCM24>},
+              .audioCodecs = kCodecs<kPCM16, kPCM24>,
+              .limits = kMXFLimits},
     FormatRow{.name = "DV",
               .muxer = "dv",
               .demuxer = "dv",
               .endings = "dv dif",
               .videoCodecs = kCodecs<kDV, kDVNTSC>,
-              .audioCodecs = kCodecs<kPCM16>},
+              .audioCodecs = kCodecs<kPCM16>,
+              .limits = kDVLimits},
     FormatRow{.name = "GIF",
               .muxer = "gif",
               .demuxer = "gif",
@@ -265,14 +296,13 @@ constexpr std::array kFormats{
               .endings = "aiff aif",
               .videoCodecs = {},
               .audioCodecs = kCodecs<kPCM16BE, kPCM24BE>},
-    FormatRow{
-        .name = "CAF",
-        .muxer = "caf",
-        .demuxer = "caf",
-        .endings = "caf",
-        .videoCodecs = {},
-        .audioCodecs =
-            kCodecs<kALAC, kPCM16, kPCM24, kPCM32, kPCMFloat, kPCM16BE, kPCM24BE, kALaw, kMuLaw, kOpus>},
+    FormatRow{.name = "CAF",
+              .muxer = "caf",
+              .demuxer = "caf",
+              .endings = "caf",
+              .videoCodecs = {},
+              .audioCodecs =
+                  kCodecs<kALAC, kPCM16, kPCM24, kPCM32, kPCMFloat, kPCM16BE, kPCM24BE, kALaw, kMuLaw>},
     FormatRow{.name = "MKA",
               .muxer = "matroska",
               .demuxer = "matroska",

@@ -1,14 +1,29 @@
 #pragma once
 
+#include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+extern "C"
+{
+#include <libavutil/rational.h>
+}
+
 struct AVInputFormat;
 
 namespace Vexlor
 {
+
+/// What of a codec a container takes, where it does not take all; an empty list limits nothing.
+struct StreamLimit
+{
+    std::span<const int> codecs;
+    std::span<const int> sampleRates = {};
+    std::span<const std::uint64_t> layouts = {};
+    std::span<const AVRational> frameRates = {};
+};
 
 /// One container that has a name of ours.
 struct FormatRow
@@ -19,6 +34,7 @@ struct FormatRow
     std::string_view endings;         ///< file name endings, the usual one first, separated by blanks
     std::span<const int> videoCodecs; ///< what players accept, preferred first
     std::span<const int> audioCodecs; ///< as above
+    std::span<const StreamLimit> limits = {};
 };
 
 /// Every container with a name of ours, in the order in which a user is offered them, muxer here or not.

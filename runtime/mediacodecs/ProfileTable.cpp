@@ -78,12 +78,13 @@ constexpr std::array kAV1Profiles{
 };
 
 // The six members of the family as the encoder numbers them; SMPTE RDD 36 leaves them to the container's tag:
-// apco, apcs, apcn, apch, ap4h, ap4x.
+// apco, apcs, apcn, apch, ap4h, ap4x. The one without an addition to its name is what is made without a
+// choice.
 constexpr std::array kProResProfiles{
-    ProfileRow{0, VX_AV_PROFILE(PRORES_PROXY), "Proxy", "prores_ks", "proxy"},
-    ProfileRow{1, VX_AV_PROFILE(PRORES_LT), "LT", "prores_ks", "lt"},
     ProfileRow{2, VX_AV_PROFILE(PRORES_STANDARD), "Standard", "prores_ks", "standard"},
     ProfileRow{3, VX_AV_PROFILE(PRORES_HQ), "HQ", "prores_ks", "hq"},
+    ProfileRow{1, VX_AV_PROFILE(PRORES_LT), "LT", "prores_ks", "lt"},
+    ProfileRow{0, VX_AV_PROFILE(PRORES_PROXY), "Proxy", "prores_ks", "proxy"},
     ProfileRow{4, VX_AV_PROFILE(PRORES_4444), "4444", "prores_ks", "4444"},
     ProfileRow{5, VX_AV_PROFILE(PRORES_XQ), "4444 XQ", "prores_ks", "4444xq"},
 };

@@ -1,5 +1,9 @@
 #include "IVXFormatParameter.h"
 
+#include "FormatLimits.h"
+#include "IVXCodecParameter.h"
+#include "VXFormatParameter.h"
+
 #include <utility>
 
 namespace Vexlor
@@ -11,7 +15,8 @@ namespace
 class VXFormatParameter final : public IVXFormatParameter
 {
 public:
-    VXFormatParameter(std::string name, std::string hint) : m_name(std::move(name)), m_hint(std::move(hint))
+    VXFormatParameter(std::string name, std::string hint, bool isOutput)
+        : m_name(std::move(name)), m_hint(std::move(hint)), m_isOutput(isOutput)
     {
     }
 
@@ -23,17 +28,27 @@ public:
     void SetVideoCodecParameter(const std::shared_ptr<IVXCodecParameter>& parameter) override
     {
         m_video = parameter;
+        Fit(m_video);
     }
     std::shared_ptr<IVXCodecParameter> GetAudioCodecParameter() override { return m_audio; }
     std::shared_ptr<const IVXCodecParameter> GetAudioCodecParameter() const override { return m_audio; }
     void SetAudioCodecParameter(const std::shared_ptr<IVXCodecParameter>& parameter) override
     {
         m_audio = parameter;
+        Fit(m_audio);
     }
 
 private:
+    // A source is what it is; an output is made so that the container takes it.
+    void Fit(const std::shared_ptr<IVXCodecParameter>& stream) const
+    {
+        if (m_isOutput && stream)
+            FitIntoContainer(*stream, m_name);
+    }
+
     std::string m_name;
     std::string m_hint;
+    bool m_isOutput;
     std::shared_ptr<IVXCodecParameter> m_video;
     std::shared_ptr<IVXCodecParameter> m_audio;
 };
@@ -43,7 +58,12 @@ private:
 std::shared_ptr<IVXFormatParameter> IVXFormatParameter::MallocFormatParameter(const std::string& formatName,
                                                                               const std::string& formatHint)
 {
-    return std::make_shared<VXFormatParameter>(formatName, formatHint);
+    return std::make_shared<VXFormatParameter>(formatName, formatHint, true);
+}
+
+std::shared_ptr<IVXFormatParameter> MallocSourceParameter(const std::string& formatName)
+{
+    return std::make_shared<VXFormatParameter>(formatName, std::string(), false);
 }
 
 } // namespace Vexlor

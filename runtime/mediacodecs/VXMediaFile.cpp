@@ -2,10 +2,10 @@
 
 #include "FFmpegQuiet.h"
 #include "FormatTable.h"
-#include "IVXFormatParameter.h"
 #include "MediaInput.h"
 #include "SourceBitrates.h"
 #include "SourceStreams.h"
+#include "VXFormatParameter.h"
 
 namespace Vexlor
 {
@@ -35,7 +35,7 @@ VXMediaFile Filled(const MediaInput& input, const BestStreams& best, const std::
     VXMediaFile file;
     file.size = input.Size();
     file.duration = input.Duration();
-    file.parameter = IVXFormatParameter::MallocFormatParameter(ContainerName(input, path), "");
+    file.parameter = MallocSourceParameter(ContainerName(input, path));
     const auto bitrates = SourceBitrates(input);
     if (best.video)
     {

@@ -49,10 +49,32 @@ TEST(CodecCapabilities, WithoutAnEncoderTheTableAnswers)
         EXPECT_FALSE(CapabilitiesOf(codec.id)->formats.empty()) << codec.name;
 }
 
-TEST(CodecCapabilities, PicturesOfEightBitsAndHalfChromaAreOfferedFirst)
+TEST(CodecCapabilities, PicturesOfEightBitsAndHalfChromaAreOfferedFirstWhereTheCodecHasThem)
 {
     for (const int id : CodecIDs(VXCodecTypeVideo))
-        EXPECT_EQ(VXPixFormat_YUV420P, CapabilitiesOf(id)->formats.front()) << id;
+    {
+        const auto& formats = CapabilitiesOf(id)->formats;
+        if (std::ranges::find(formats, VXPixFormat_YUV420P) != formats.end())
+            EXPECT_EQ(VXPixFormat_YUV420P, formats.front()) << id;
+    }
+}
+
+TEST(CodecCapabilities, NoPictureIsOfferedInAFormatOfGraphicsCards)
+{
+    for (const int id : CodecIDs(VXCodecTypeVideo))
+        for (const int format : CapabilitiesOf(id)->formats)
+            EXPECT_THAT(PixFormatName(format), Not(testing::HasSubstr("semi-planar"))) << id;
+}
+
+// The format that is chosen later must not be refused for the sides chosen now.
+TEST(CodecCapabilities, SidesSuitTheChromaOfEveryOfferedFormat)
+{
+    for (const int id : CodecIDs(VXCodecTypeVideo))
+        for (const int format : CapabilitiesOf(id)->formats)
+        {
+            EXPECT_EQ(0, CapabilitiesOf(id)->block.width % ChromaBlockOf(format).width) << id;
+            EXPECT_EQ(0, CapabilitiesOf(id)->block.height % ChromaBlockOf(format).height) << id;
+        }
 }
 
 TEST(CodecCapabilities, AreNarrowedToWhatTheEncoderTakes)
@@ -64,18 +86,22 @@ TEST(CodecCapabilities, AreNarrowedToWhatTheEncoderTakes)
     EXPECT_THAT(av1->profiles, ElementsAre(0));
 }
 
-TEST(CodecCapabilities, StereoIsOfferedFirst)
+TEST(CodecCapabilities, StereoIsOfferedFirstButForSpeech)
 {
     for (const int id : CodecIDs(VXCodecTypeAudio))
-        EXPECT_EQ(kStereo, CapabilitiesOf(id)->layouts.front()) << id;
+    {
+        const bool isSpeech = CapabilitiesOf(id)->sampleRates.front() <= 32000;
+        EXPECT_EQ(isSpeech ? kMono : kStereo, CapabilitiesOf(id)->layouts.front()) << id;
+    }
 }
 
-TEST(CodecCapabilities, HeAacIsOfferedOnlyWithAnEncoderForIt)
+TEST(CodecCapabilities, HeAacIsACodecOfItsOwn)
 {
     const auto* aac = CapabilitiesOf(VXCodecID_AAC);
-    if (aac->encoders.empty() || aac->encoders.front() != "aac")
-        GTEST_SKIP() << "another AAC encoder is here";
+    if (aac->encoders.empty())
+        GTEST_SKIP() << "no AAC encoder is here";
     EXPECT_THAT(aac->profiles, ElementsAre(2));
+    EXPECT_THAT(CapabilitiesOf(VXCodecID_HEAAC)->encoders, Not(Contains("aac")));
 }
 
 TEST(CodecCapabilities, Mp3TakesTheRatesOfThreeVersionsOfMpeg)

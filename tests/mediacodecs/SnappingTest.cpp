@@ -1,20 +1,14 @@
 #include "runtime/mediacodecs/Snapping.h"
-#include "CodecLists.h"
-#include "VXMediaCodecs.h"
+#include "PictureSizes.h"
 #include "runtime/mediacodecs/ChannelLayouts.h"
-#include "runtime/mediacodecs/CodecCapabilities.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <climits>
-#include <cmath>
-#include <random>
 
 namespace Vexlor
 {
-
-void PrintTo(PictureSize size, std::ostream* out) { *out << size.width << 'x' << size.height; }
 
 namespace
 {
@@ -84,75 +78,6 @@ TEST(SnapSize, KeepsToTheArea)
     EXPECT_EQ((PictureSize{200, 200}), SnapSize({1000, 1000}, kArea, kHalfChroma));
     EXPECT_EQ((PictureSize{400, 100}), SnapSize({800, 200}, kArea, kHalfChroma));
 }
-
-int AnySide(std::mt19937& random)
-{
-    // All magnitudes alike, not nearly all of them huge.
-    const int bits = std::uniform_int_distribution(1, 30)(random);
-    return std::uniform_int_distribution(-8, (1 << bits) - 1 + (1 << (bits - 1)))(random);
-}
-
-class EveryVideoCodec : public testing::TestWithParam<int>
-{
-protected:
-    static const CodecCapabilities& Codec() { return *CapabilitiesOf(GetParam()); }
-    static const VideoLimits& Limits() { return Codec().codec->video; }
-    static PictureSize Snap(PictureSize size) { return SnapSize(size, Limits(), Codec().block); }
-    static bool Holds(PictureSize size)
-    {
-        const auto& min = Limits().min;
-        const auto& max = Limits().max;
-        const auto area = Limits().maxArea;
-        return size.width >= min.width && size.width <= max.width && size.height >= min.height &&
-               size.height <= max.height && (area == 0 || std::int64_t{size.width} * size.height <= area) &&
-               size.width % Codec().block.width == 0 && size.height % Codec().block.height == 0;
-    }
-
-    static bool Holds(AVRational rate)
-    {
-        return av_q2d(rate) >= av_q2d(Limits().minRate) && av_q2d(rate) <= av_q2d(Limits().maxRate);
-    }
-
-    std::mt19937 m_random{42};
-};
-
-TEST_P(EveryVideoCodec, SnapsEverySizeIntoItsLimitsForGood)
-{
-    for (int i = 0; i < 20000; ++i)
-    {
-        const PictureSize wanted{AnySide(m_random), AnySide(m_random)};
-        const auto best = Snap(wanted);
-        ASSERT_TRUE(Holds(best)) << wanted.width << 'x' << wanted.height << " -> " << best.width << 'x'
-                                 << best.height;
-        ASSERT_EQ(best, Snap(best)) << wanted.width << 'x' << wanted.height;
-    }
-}
-
-TEST_P(EveryVideoCodec, KeepsTheShapeOfUsualPictures)
-{
-    for (const auto size : {PictureSize{7680, 4320}, {4096, 1716}, {2160, 3840}, {1440, 1080}})
-    {
-        const auto best = Snap(size);
-        const double bent = double(best.width) * size.height / best.height / size.width;
-        EXPECT_NEAR(1.0, bent, 0.003) << size.width << 'x' << size.height;
-    }
-}
-
-TEST_P(EveryVideoCodec, SnapsEveryRateIntoItsLimitsForGood)
-{
-    for (int i = 0; i < 20000; ++i)
-    {
-        const AVRational wanted{AnySide(m_random), AnySide(m_random)};
-        const auto best = SnapFrameRate(wanted, Limits());
-        const auto again = SnapFrameRate(best, Limits());
-        ASSERT_TRUE(Holds(best)) << wanted.num << '/' << wanted.den;
-        ASSERT_EQ(std::pair(best.num, best.den), std::pair(again.num, again.den))
-            << wanted.num << '/' << wanted.den;
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(Codecs, EveryVideoCodec, testing::ValuesIn(CodecIDs(VXCodecTypeVideo)),
-                         CodecTestName);
 
 struct RateCase
 {

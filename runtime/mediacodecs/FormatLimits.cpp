@@ -1,0 +1,70 @@
+#include "FormatLimits.h"
+
+#include "BitrateModel.h"
+#include "FormatTable.h"
+#include "IVXCodecParameter.h"
+#include "IVXRational.h"
+#include "Snapping.h"
+
+#include <algorithm>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+void FitPicture(IVXCodecParameter& stream, const StreamLimit& limit)
+{
+    const auto rate = stream.GetFrameRate();
+    const VideoLimits rates{.min = {}, .max = {}, .rates = limit.frameRates};
+    const auto fitting = SnapFrameRate({rate->Num(), rate->Den()}, rates);
+    stream.SetFramePerSecond(IVXRational::MallocRational(fitting.num, fitting.den));
+}
+
+SoundStream SoundOf(const IVXCodecParameter& stream)
+{
+    return {stream.GetSampleRate(), stream.GetChannelLayout(), stream.GetFormat()};
+}
+
+// Where sound of one kind has one bitrate, as PCM has, sound of another kind has another.
+void FollowSound(IVXCodecParameter& stream, const CodecCapabilities& codec)
+{
+    const auto sound = SoundOf(stream);
+    const int bitrate = AudioBitrate(codec, sound, IVXCodecs::QualityLevelLow);
+    if (bitrate == AudioBitrate(codec, sound, IVXCodecs::QualityLevelBest))
+        stream.SetBitrate(bitrate);
+}
+
+void FitSound(IVXCodecParameter& stream, const StreamLimit& limit)
+{
+    const auto before = SoundOf(stream);
+    if (!limit.sampleRates.empty())
+        stream.SetSampleRate(SnapSampleRate(before.sampleRate, limit.sampleRates));
+    if (!limit.layouts.empty())
+        stream.SetChannelLayout(SnapLayout(before.layout, limit.layouts));
+    const auto after = SoundOf(stream);
+    const auto* codec = CapabilitiesOf(stream.GetCodecID());
+    if (codec && (after.sampleRate != before.sampleRate || after.layout != before.layout))
+        FollowSound(stream, *codec);
+}
+
+} // namespace
+
+void FitIntoContainer(IVXCodecParameter& stream, std::string_view formatName)
+{
+    const auto* format = FindFormat(formatName);
+    if (!format)
+        return;
+    for (const auto& limit : format->limits)
+    {
+        if (std::ranges::find(limit.codecs, stream.GetCodecID()) == limit.codecs.end())
+            continue;
+        if (!limit.frameRates.empty())
+            FitPicture(stream, limit);
+        else
+            FitSound(stream, limit);
+    }
+}
+
+} // namespace Vexlor

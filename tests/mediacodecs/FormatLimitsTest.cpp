@@ -1,0 +1,135 @@
+#include "runtime/mediacodecs/FormatLimits.h"
+#include "IVXCodecParameter.h"
+#include "IVXFormatParameter.h"
+#include "IVXRational.h"
+#include "VXMediaCodecs.h"
+#include "runtime/mediacodecs/ChannelLayouts.h"
+#include "runtime/mediacodecs/CodecCapabilities.h"
+#include "runtime/mediacodecs/FormatTable.h"
+#include "runtime/mediacodecs/SampleFormats.h"
+#include "runtime/mediacodecs/Snapping.h"
+#include "runtime/mediacodecs/VXFormatParameter.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+std::shared_ptr<IVXCodecParameter> Sound(int codecID, int sampleRate, std::uint64_t layout)
+{
+    auto sound = IVXCodecParameter::MallocCodecParamter(codecID);
+    sound->SetSampleRate(sampleRate);
+    sound->SetChannelLayout(layout);
+    sound->SetFormat(kSampleFormatS16);
+    return sound;
+}
+
+int RateIn(const char* container, int codecID, int sampleRate)
+{
+    const auto sound = Sound(codecID, sampleRate, kStereo);
+    FitIntoContainer(*sound, container);
+    return sound->GetSampleRate();
+}
+
+TEST(FormatLimits, SoundTakesTheNearestRateThatTheContainerHas)
+{
+    EXPECT_EQ(22050, RateIn("FLV", VXCodecID_MP3, 24000));
+    EXPECT_EQ(16000, RateIn("MP4", VXCodecID_MP3, 8000));
+    EXPECT_EQ(48000, RateIn("MXF", VXCodecID_PCM24, 192000));
+}
+
+TEST(FormatLimits, WhatTheContainerTakesStays)
+{
+    EXPECT_EQ(48000, RateIn("FLV", VXCodecID_MP3, 48000));
+    EXPECT_EQ(8000, RateIn("FLV", VXCodecID_AAC, 8000)); // the limit is MP3's alone
+    EXPECT_EQ(8000, RateIn("MP3", VXCodecID_MP3, 8000));
+    EXPECT_EQ(8000, RateIn("no such container", VXCodecID_MP3, 8000));
+}
+
+TEST(FormatLimits, SoundInDVIsStereo)
+{
+    const auto sound = Sound(VXCodecID_PCM16, 44100, kLayout51);
+    FitIntoContainer(*sound, "DV");
+    EXPECT_EQ(kStereo, sound->GetChannelLayout());
+    EXPECT_EQ(44100, sound->GetSampleRate());
+}
+
+TEST(FormatLimits, TheBitrateOfPlainSamplesFollowsThem)
+{
+    const auto sound = Sound(VXCodecID_PCM16, 96000, kStereo);
+    sound->SetBitrate(96000 * 2 * 16);
+    FitIntoContainer(*sound, "MXF");
+    EXPECT_EQ(48000 * 2 * 16, sound->GetBitrate());
+}
+
+TEST(FormatLimits, AChosenBitrateStays)
+{
+    const auto sound = Sound(VXCodecID_MP3, 32000, kStereo);
+    sound->SetBitrate(96'000);
+    FitIntoContainer(*sound, "FLV");
+    EXPECT_EQ(96'000, sound->GetBitrate());
+}
+
+TEST(FormatLimits, PicturesInMXFHaveARateOfTelevision)
+{
+    const auto video = IVXCodecParameter::MallocCodecParamter(VXCodecID_ProRes);
+    video->SetFramePerSecond(IVXRational::MallocRational(15, 1));
+    FitIntoContainer(*video, "MXF");
+    EXPECT_EQ("24000/1001", std::to_string(video->GetFrameRate()->Num()) + "/" +
+                                std::to_string(video->GetFrameRate()->Den()));
+}
+
+TEST(FormatLimits, AnOutputsStreamsAreFitted)
+{
+    const auto output = IVXFormatParameter::MallocFormatParameter("MXF", "");
+    output->SetAudioCodecParameter(Sound(VXCodecID_PCM16, 44100, kStereo));
+    EXPECT_EQ(48000, output->GetAudioCodecParameter()->GetSampleRate());
+}
+
+TEST(FormatLimits, ASourceIsWhatItIs)
+{
+    const auto source = MallocSourceParameter("MXF");
+    source->SetAudioCodecParameter(Sound(VXCodecID_PCM16, 44100, kStereo));
+    EXPECT_EQ(44100, source->GetAudioCodecParameter()->GetSampleRate());
+}
+
+template <class Value>
+bool HoldsAll(std::span<const Value> all, std::span<const Value> some)
+{
+    return std::ranges::all_of(some, [&](const Value& value)
+                               { return std::ranges::find(all, value) != all.end(); });
+}
+
+// Or what is fitted into the container would no longer be what the codec accepts.
+TEST(FormatLimits, AreWithinWhatTheirCodecsAccept)
+{
+    for (const auto& format : FormatTable())
+        for (const auto& limit : format.limits)
+            for (const int codecID : limit.codecs)
+            {
+                const auto& codec = *FindCodec(codecID);
+                EXPECT_TRUE(HoldsAll(codec.audio.sampleRates, limit.sampleRates)) << codec.name;
+                EXPECT_TRUE(HoldsAll(codec.audio.layouts, limit.layouts)) << codec.name;
+                for (const auto rate : limit.frameRates)
+                    EXPECT_EQ(0, av_cmp_q(rate, SnapFrameRate(rate, codec.video))) << codec.name;
+            }
+}
+
+TEST(FormatLimits, AreOfCodecsThatTheContainerLists)
+{
+    for (const auto& format : FormatTable())
+        for (const auto& limit : format.limits)
+            for (const int codecID : limit.codecs)
+                EXPECT_TRUE(std::ranges::find(format.audioCodecs, codecID) != format.audioCodecs.end() ||
+                            std::ranges::find(format.videoCodecs, codecID) != format.videoCodecs.end())
+                    << format.name << ' ' << codecID;
+}
+
+} // namespace
+
+} // namespace Vexlor
