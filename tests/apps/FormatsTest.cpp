@@ -2,33 +2,57 @@
 
 #include "VXMediaCodecs.h"
 
+#include <sstream>
+
 namespace Vexlor::Apps
 {
 
 namespace
 {
 
-constexpr std::string_view kFormats =
-    R"(Container  Video codecs                                              Audio codecs
-MP4        H.264, HEVC, AV1, VP9, MPEG-4, MPEG-2, MPEG-1             AAC, MP3, AC-3, Opus, FLAC, MP2
-MOV        H.264, HEVC, MPEG-4, MPEG-2                               AAC, PCM 16-bit, MP3, AC-3
-MKV        H.264, HEVC, AV1, VP9, VP8, MPEG-4, DivX, MPEG-2, MPEG-1  AAC, Opus, MP3, AC-3, FLAC, Vorbis, MP2, PCM 16-bit
-WEBM       VP9, AV1, VP8                                             Opus, Vorbis
-AVI        MPEG-4, DivX, H.264, MPEG-2, MPEG-1                       MP3, AC-3, PCM 16-bit, MP2, AAC
-MPG        MPEG-2, MPEG-1                                            MP2, AC-3, MP3
-MP3                                                                  MP3
-M4A                                                                  AAC
-WAV                                                                  PCM 16-bit
-FLAC                                                                 FLAC
-OGG                                                                  Vorbis, Opus, FLAC
-)";
+std::vector<std::string> Lines(const std::string& text)
+{
+    std::istringstream stream(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
 
-TEST(FormatsCommand, PrintsEveryContainerWithItsCodecs)
+/// The line of the table that is a container's.
+std::string LineOf(const std::string& container)
+{
+    for (const auto& line : Lines(RunTool({"formats"}).out))
+        if (line.starts_with(container + ' '))
+            return line;
+    return {};
+}
+
+TEST(FormatsCommand, PrintsALineForEveryContainer)
 {
     const auto run = RunTool({"formats"});
-    EXPECT_EQ(kFormats, run.out);
+    const auto lines = Lines(run.out);
+    const auto names = VXMediaCodecSupportOutputAllMediaFormats();
+    ASSERT_EQ(names.size() + 1, lines.size());
+    for (std::size_t i = 0; i < names.size(); ++i)
+        EXPECT_EQ(names[i], lines[i + 1].substr(0, lines[i + 1].find(' ')));
     EXPECT_EQ("", run.err);
     EXPECT_EQ(0, run.exitCode);
+}
+
+TEST(FormatsCommand, PrintsTheCodecsOfAContainer)
+{
+    const auto webm = LineOf("WEBM");
+    EXPECT_NE(std::string::npos, webm.find("  VP9, AV1, VP8  ")) << webm;
+    EXPECT_TRUE(webm.ends_with("  Opus, Vorbis")) << webm;
+}
+
+TEST(FormatsCommand, CodecsStandUnderTheirHeadings)
+{
+    const auto heading = LineOf("Container");
+    EXPECT_EQ(heading.find("Video codecs"), LineOf("WEBM").find("VP9"));
+    EXPECT_EQ(heading.find("Audio codecs"), LineOf("WEBM").find("Opus"));
+    EXPECT_EQ(heading.find("Audio codecs"), LineOf("MP3").rfind("MP3"));
 }
 
 TEST(FormatsCommand, JsonHasAnElementForEveryContainer)
@@ -40,12 +64,20 @@ TEST(FormatsCommand, JsonHasAnElementForEveryContainer)
         EXPECT_EQ(names[static_cast<std::size_t>(i)], json->At(i)->GetValueString("name"));
 }
 
+std::shared_ptr<const IVXJsonValue> ElementOf(const IVXJsonValue& json, std::string_view container)
+{
+    int i = 0;
+    while (i < json.Size() && json.At(i)->GetValueString("name") != container)
+        ++i;
+    return json.At(i);
+}
+
 TEST(FormatsCommand, JsonElementsHaveExactlyTheseMembers)
 {
     const auto json = RunForJson({"formats"});
     EXPECT_EQ(R"({"name":"WEBM","videoCodecs":["VP9","AV1","VP8"],"audioCodecs":["Opus","Vorbis"]})",
-              JsonText(*json->At(3)));
-    EXPECT_EQ(R"({"name":"MP3","videoCodecs":[],"audioCodecs":["MP3"]})", JsonText(*json->At(6)));
+              JsonText(*ElementOf(*json, "WEBM")));
+    EXPECT_EQ(R"({"name":"MP3","videoCodecs":[],"audioCodecs":["MP3"]})", JsonText(*ElementOf(*json, "MP3")));
 }
 
 TEST(FormatsCommand, ChecksTheDocumentAllTheSame)

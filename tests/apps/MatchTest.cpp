@@ -213,9 +213,9 @@ INSTANTIATE_TEST_SUITE_P(Streams, AbsentStream, testing::ValuesIn(kAbsent),
 
 TEST(MatchCommand, NamesACodecThatHasNoNumberHere)
 {
-    const auto video = (*(*MatchJson("prores.mov", "Video/MP4"))["source"])["video"];
+    const auto video = (*(*MatchJson("animation.mov", "Video/MP4"))["source"])["video"];
     EXPECT_EQ(0, video->GetValueInt("codecID"));
-    EXPECT_EQ("prores", video->GetValueString("codec"));
+    EXPECT_EQ("qtrle", video->GetValueString("codec"));
 }
 
 /// Expects one line of complaint that begins with the file's name, and nothing else.

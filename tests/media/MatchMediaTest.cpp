@@ -68,7 +68,7 @@ constexpr std::array kMatches{
               "MP3: no video, audio 1002 48000 Hz 0x3"},
     MatchCase{"AudioOnly", "music.mp3", "MP4", "MP4: no video, audio 1001 44100 Hz 0x3"},
     MatchCase{"VideoOnly", "silent.mp4", "MP4", "MP4: video 1 320x180 at 25/1, no audio"},
-    MatchCase{"CodecWithoutAnIdentifier", "prores.mov", "MP4",
+    MatchCase{"CodecWithoutAnIdentifier", "animation.mov", "MP4",
               "MP4: video 1 640x360 at 25/1, audio 1001 48000 Hz 0x3"},
     MatchCase{"NumberOfChannelsOnly", "count.au", "WAV", "WAV: no video, audio 1008 48000 Hz 0x3f"},
     MatchCase{"FractionOfAFrameRate", "film.mkv", "MKV",

@@ -80,8 +80,8 @@ constexpr std::array kClips{
     ClipCase{"FilmInWEBM", "film.webm",
              "WEBM, video 8 320x180 shown 320x180 at 25/1, audio 1005 48000 Hz 0x3"},
     ClipCase{"FilmInAVI", "film.avi", "AVI, video 3 320x240 shown 320x240 at 25/1, audio 1002 44100 Hz 0x3"},
-    ClipCase{"FilmInAContainerWithoutANameOfOurs", "film.ts",
-             "mpegts, video 1 320x180 shown 320x180 at 25/1, audio 1001 48000 Hz 0x3"},
+    ClipCase{"FilmInTS", "film.ts",
+             "TS, video 1 320x180 shown 320x180 at 25/1, audio 1001 48000 Hz 0x3"},
     ClipCase{"WidePixels", "anamorphic.mp4", "MP4, video 1 720x576 shown 1024x576 at 25/1"},
     ClipCase{"QuarterTurn", "rotated.mp4",
              "MP4, video 1 1920x1080 shown 1080x1920 at 30/1, audio 1001 48000 Hz 0x4"},
@@ -90,11 +90,11 @@ constexpr std::array kClips{
     ClipCase{"Surround", "surround.mp4",
              "MP4, video 1 320x180 shown 320x180 at 25/1, audio 1001 48000 Hz 0x3f"},
     ClipCase{"VideoOnly", "silent.mp4", "MP4, video 1 320x180 shown 320x180 at 25/1"},
-    ClipCase{"CodecWithoutAnIdentifier", "prores.mov",
+    ClipCase{"CodecWithoutAnIdentifier", "animation.mov",
              "MOV, video 0 640x360 shown 640x360 at 25/1, audio 1008 48000 Hz 0x3"},
     ClipCase{"CoverPictureIsNoVideo", "music.mp3", "MP3, audio 1002 44100 Hz 0x3"},
     ClipCase{"AudioOnly", "music.flac", "FLAC, audio 1007 44100 Hz 0x3"},
-    ClipCase{"NumberOfChannelsOnly", "count.au", "au, audio 0 48000 Hz 0x3f"},
+    ClipCase{"NumberOfChannelsOnly", "count.au", "au, audio 1027 48000 Hz 0x3f"},
 };
 
 class MediaFileOutline : public testing::TestWithParam<ClipCase>
@@ -165,7 +165,7 @@ TEST(MediaFile, NamesCodecs)
 
 TEST(MediaFile, NamesCodecWithoutAnIdentifierAsTheEngineDoes)
 {
-    EXPECT_EQ("prores", Read("prores.mov").videoCodec);
+    EXPECT_EQ("qtrle", Read("animation.mov").videoCodec);
 }
 
 TEST(MediaFile, LeavesNameOfMissingStreamEmpty)
@@ -177,7 +177,7 @@ TEST(MediaFile, LeavesNameOfMissingStreamEmpty)
 TEST(MediaFile, TellsBitrateOfStreamsThatHaveOne)
 {
     EXPECT_EQ(128000, AudioOf("music.mp3")->GetBitrate());
-    EXPECT_EQ(1536000, AudioOf("prores.mov")->GetBitrate());
+    EXPECT_EQ(1536000, AudioOf("animation.mov")->GetBitrate());
 }
 
 // The container's own bytes are a few per cent of such short files.

@@ -24,7 +24,7 @@ namespace Vexlor::Media
 /// | surround.mp4   | H.264 320x180 at 25 fps, AAC 5.1 48 kHz                                        |
 /// | silent.mp4     | H.264 320x180 at 25 fps, no sound                                              |
 /// | uneven.mp4     | H.264 320x180: 10 pictures at 30 fps, then 10 at 15 fps                        |
-/// | prores.mov     | ProRes 422 640x360 at 25 fps, 16-bit PCM; we have no identifier for the codec  |
+/// | animation.mov  | QuickTime Animation 640x360 at 25 fps, PCM; we have no identifier for it       |
 /// | music.mp3      | MP3 stereo 44.1 kHz, 128 kb/s, with a cover picture                            |
 /// | music.flac     | FLAC stereo 44.1 kHz                                                           |
 /// | count.au       | 16-bit PCM of six channels; the container tells their number only              |
