@@ -20,21 +20,21 @@ class IVXError;
 class VX_PRESETS_API IVXArtworkImageMgr
 {
 public:
-    static constexpr int CategoryFaceIDCustomize = 10000000;
-    static constexpr int CategoryFaceIDRecentList = 10000001;
-    static constexpr int CategoryFaceIDGeneral = 10000002;
-    static constexpr int CategoryFaceIDVideo = 10000003;
-    static constexpr int CategoryFaceIDAudio = 10000004;
-    static constexpr int CategoryFaceIDDevice = 10000005;
-    static constexpr int CategoryFaceIDWebVideo = 10000006;
-    static constexpr int FormatFaceIDMP4 = 20000000;
-    static constexpr int FormatFaceIDAVI = 20000001;
-    static constexpr int FormatFaceIDWEBM = 20000002;
-    static constexpr int FormatFaceIDMKV = 20000003;
-    static constexpr int FormatFaceIDMP3 = 20001000;
-    static constexpr int FormatFaceIDM4A = 20001001;
-    static constexpr int FormatFaceIDWAV = 20001002;
-    static constexpr int FormatFaceIDWMA = 20001003;
+    static constexpr int CategoryFaceIDCustomize = 10000000;  ///< category: presets of the user's own
+    static constexpr int CategoryFaceIDRecentList = 10000001; ///< category: presets used lately
+    static constexpr int CategoryFaceIDGeneral = 10000002;    ///< category: presets for most purposes
+    static constexpr int CategoryFaceIDVideo = 10000003;      ///< category: containers of pictures and sound
+    static constexpr int CategoryFaceIDAudio = 10000004;      ///< category: containers of sound
+    static constexpr int CategoryFaceIDDevice = 10000005;     ///< category: presets for devices
+    static constexpr int CategoryFaceIDWebVideo = 10000006;   ///< category: presets for the web
+    static constexpr int FormatFaceIDMP4 = 20000000;          ///< container: MP4
+    static constexpr int FormatFaceIDAVI = 20000001;          ///< container: AVI
+    static constexpr int FormatFaceIDWEBM = 20000002;         ///< container: WEBM
+    static constexpr int FormatFaceIDMKV = 20000003;          ///< container: MKV
+    static constexpr int FormatFaceIDMP3 = 20001000;          ///< container: MP3
+    static constexpr int FormatFaceIDM4A = 20001001;          ///< container: M4A
+    static constexpr int FormatFaceIDWAV = 20001002;          ///< container: WAV
+    static constexpr int FormatFaceIDWMA = 20001003;          ///< container: WMA
 
     /// Opens the file of that path for reading. Never empty; error is accepted and never written.
     static std::shared_ptr<const IVXArtworkImageMgr> MallocArtworkImageMgr(const std::string& path,

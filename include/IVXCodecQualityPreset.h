@@ -21,12 +21,6 @@ class IVXJsonValue;
 class VX_PRESETS_API IVXCodecQualityPreset
 {
 public:
-    IVXCodecQualityPreset() = default;
-    IVXCodecQualityPreset(const IVXCodecQualityPreset&) = default;
-    IVXCodecQualityPreset(IVXCodecQualityPreset&&) = default;
-    IVXCodecQualityPreset& operator=(const IVXCodecQualityPreset&) = default;
-    IVXCodecQualityPreset& operator=(IVXCodecQualityPreset&&) = default;
-
     /// The Auto setting: quality value -1, bitrate -1.
     static std::shared_ptr<IVXCodecQualityPreset> MallocCodecQualityPreset();
     /// The setting of that grade, without a bitrate.
@@ -74,7 +68,15 @@ public:
     virtual std::shared_ptr<IVXJsonValue> JsonValue() const = 0;
 
 protected:
+    /// Only the class behind the interface makes, copies and destroys these.
+    /// @{
+    IVXCodecQualityPreset() = default;
+    IVXCodecQualityPreset(const IVXCodecQualityPreset&) = default;
+    IVXCodecQualityPreset(IVXCodecQualityPreset&&) = default;
+    IVXCodecQualityPreset& operator=(const IVXCodecQualityPreset&) = default;
+    IVXCodecQualityPreset& operator=(IVXCodecQualityPreset&&) = default;
     ~IVXCodecQualityPreset() = default;
+    /// @}
 };
 
 } // namespace Vexlor

@@ -23,12 +23,6 @@ class IVXJsonValue;
 class VX_PRESETS_API IVXFormatPreset
 {
 public:
-    IVXFormatPreset() = default;
-    IVXFormatPreset(const IVXFormatPreset&) = default;
-    IVXFormatPreset(IVXFormatPreset&&) = default;
-    IVXFormatPreset& operator=(const IVXFormatPreset&) = default;
-    IVXFormatPreset& operator=(IVXFormatPreset&&) = default;
-
     /// A preset of that container with a codec preset for every codec that the container takes; empty when
     /// the codec library cannot write a container of exactly that name. The second text is not consulted.
     static std::shared_ptr<IVXFormatPreset> MallocFormatPreset(const std::string& formatName,
@@ -191,7 +185,15 @@ public:
     std::shared_ptr<IVXFormatParameter> DefaultFormatParameter() const;
 
 protected:
+    /// Only the class behind the interface makes, copies and destroys these.
+    /// @{
+    IVXFormatPreset() = default;
+    IVXFormatPreset(const IVXFormatPreset&) = default;
+    IVXFormatPreset(IVXFormatPreset&&) = default;
+    IVXFormatPreset& operator=(const IVXFormatPreset&) = default;
+    IVXFormatPreset& operator=(IVXFormatPreset&&) = default;
     ~IVXFormatPreset() = default;
+    /// @}
 
 private:
     void MatchVideo(IVXFormatParameter& output, const IVXFormatParameter& source) const;
