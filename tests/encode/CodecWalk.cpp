@@ -4,7 +4,6 @@
 #include "IVXCodecPreset.h"
 #include "IVXCodecs.h"
 #include "IVXFormatParameter.h"
-#include "IVXRational.h"
 #include "VXMediaCodecs.h"
 #include "runtime/mediacodecs/CodecTable.h"
 #include "runtime/mediacodecs/EncoderSetup.h"
@@ -15,14 +14,12 @@
 #include "tests/encode/Muxing.h"
 #include "tests/encode/Pairwise.h"
 #include "tests/encode/ReadBack.h"
+#include "tests/encode/StreamOutline.h"
+#include "tests/encode/WalkCosts.h"
 #include "tests/foundation/TestFolder.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
-#include <limits>
-#include <numeric>
-#include <string_view>
 
 namespace Vexlor
 {
@@ -30,71 +27,7 @@ namespace Vexlor
 namespace
 {
 
-/// What is done with pictures up to an area.
-struct AreaRow
-{
-    int area;
-    int frames;
-    bool isWritten; ///< into files
-    int tries;      ///< of each size; what is beyond is counted as left out
-};
-
-// Three frames still tell a rate. Of what is larger than 4K a few are opened and encoded, no more: in every
-// combination and container they would take as long as all the rest.
-constexpr int kEvery = std::numeric_limits<int>::max();
-constexpr std::array kAreas{
-    AreaRow{1920 * 1088, 10, true, kEvery},
-    AreaRow{4096 * 2304, 3, true, kEvery},
-    AreaRow{std::numeric_limits<int>::max(), 1, false, 4},
-};
-
-/// Words of an encoder that make it quick; what it offers stays the same.
-struct QuickRow
-{
-    std::string_view encoder;
-    std::string_view options;
-};
-
-constexpr std::array kQuick{
-    QuickRow{"libx264", "preset=ultrafast"},
-    QuickRow{"libx265", "preset=ultrafast"},
-    QuickRow{"libsvtav1", "preset=12"},
-    QuickRow{"libvpx", "deadline=realtime:cpu-used=8"},
-    QuickRow{"libvpx-vp9", "deadline=realtime:cpu-used=8"},
-};
-
-std::string QuickOptions(std::string_view encoder)
-{
-    for (const auto& row : kQuick)
-        if (row.encoder == encoder)
-            return std::string(row.options);
-    return {};
-}
-
 bool IsVideo(const IVXCodecParameter& stream) { return stream.GetCodecType() == VXCodecTypeVideo; }
-
-/// Everything that an encoder is told, but for the container's tag.
-std::string Outline(const IVXCodecParameter& stream)
-{
-    const auto codecs = stream.GetCodecs(true);
-    const auto labels = codecs->ProfileName(stream.GetProfile()) + ", level " +
-                        codecs->LevelName(stream.GetLevel()) + ", " + std::to_string(stream.GetBitrate()) +
-                        " b/s";
-    if (!IsVideo(stream))
-        return std::to_string(stream.GetSampleRate()) + " Hz " +
-               VXChannelLayoutName(stream.GetChannelLayout()) + ", " + SampleFormatName(stream.GetFormat()) +
-               ", profile " + labels;
-    const auto rate = stream.GetFrameRate();
-    return std::to_string(stream.GetWidth()) + 'x' + std::to_string(stream.GetHeight()) + " at " +
-           std::to_string(rate->Num()) + '/' + std::to_string(rate->Den()) + ", " +
-           PixFormatName(stream.GetFormat()) + ", profile " + labels;
-}
-
-const AreaRow& AreaOf(const IVXCodecParameter& stream)
-{
-    const int area = stream.GetWidth() * stream.GetHeight(); // of sound none
-    return *std::ranges::find_if(kAreas, [area](const auto& row) { return area <= row.area; });
-}
 
 /// One codec's walk.
 class Walk
@@ -130,24 +63,25 @@ private:
     std::vector<Container> m_containers;
     std::map<std::string, EncodedStream> m_encoded; // of one case: containers that are told the same share it
     std::map<std::string, EncodedStream> m_companions; // by container
-    std::map<std::int64_t, int> m_tries;               // by size
+    std::map<std::pair<int, int>, int> m_tries;        // by size
     TestFolder m_folder;
     WalkedCodec m_walked;
 };
 
 EncodedStream Walk::Encode(const IVXCodecParameter& stream, bool globalHeader)
 {
-    const auto setup = OpenEncoder(stream, {m_walked.encoder, globalHeader, QuickOptions(m_walked.encoder)});
+    const auto setup =
+        OpenEncoder(stream, {m_walked.encoder, globalHeader, QuickOptionsOf(m_walked.encoder)});
     for (const auto& change : setup.changes)
-        m_walked.gaveWay.Add(change, Outline(stream));
+        m_walked.gaveWay.Add(change, StreamOutline(stream));
     EncodedStream encoded;
     if (!setup.context)
         encoded.complaint = "not opened: " + setup.complaint;
     else
-        encoded = IsVideo(stream) ? EncodePictures(*setup.context, AreaOf(stream).frames)
+        encoded = IsVideo(stream) ? EncodePictures(*setup.context, FramesOf(stream, m_walked.encoder))
                                   : EncodeSound(*setup.context);
     if (!encoded.complaint.empty())
-        m_walked.failures.Add(encoded.complaint, Outline(stream));
+        m_walked.failures.Add(encoded.complaint, StreamOutline(stream));
     return encoded;
 }
 
@@ -161,7 +95,7 @@ bool HasHeaders(int codecID)
 const EncodedStream& Walk::Encoded(const IVXCodecParameter& stream, bool globalHeader)
 {
     const bool isGlobal = globalHeader && HasHeaders(m_codecID);
-    const auto key = Outline(stream) + (isGlobal ? " with a global header" : "");
+    const auto key = StreamOutline(stream) + (isGlobal ? " with a global header" : "");
     const auto found = m_encoded.find(key);
     if (found != m_encoded.end())
         return found->second;
@@ -179,14 +113,16 @@ const EncodedStream* Walk::Companion(const Container& container)
     const auto setup = OpenEncoder(*picture, {"", WantsGlobalHeader(container.muxer), ""});
     if (!setup.context)
         return nullptr;
-    return &m_companions.emplace(container.name, EncodePictures(*setup.context, kAreas.front().frames))
+    return &m_companions
+                .emplace(container.name,
+                         EncodePictures(*setup.context, FramesOf(*picture, setup.context->codec->name)))
                 .first->second;
 }
 
 void Walk::Write(const Container& container, const EncodedStream& encoded, const IVXCodecParameter& asked)
 {
     const auto path = m_folder / ("walk." + container.ending);
-    const auto example = Outline(asked);
+    const auto example = StreamOutline(asked);
     std::vector<MuxedStream> streams{{&encoded, asked.GetCodecTag()}};
     if (const auto* companion = Companion(container))
         streams.insert(streams.begin(), {companion, 0});
@@ -204,9 +140,7 @@ void Walk::Write(const Container& container, const EncodedStream& encoded, const
 
 bool Walk::IsLeftOut(const IVXCodecParameter& stream)
 {
-    if (!IsVideo(stream))
-        return false;
-    int& tries = m_tries[stream.GetWidth() + stream.GetHeight() * std::int64_t{kEvery}];
+    int& tries = m_tries[{stream.GetWidth(), stream.GetHeight()}];
     return ++tries > AreaOf(stream).tries;
 }
 
@@ -248,33 +182,13 @@ void Walk::Try(const PairwiseCase& entries)
 void Walk::All()
 {
     const auto start = std::chrono::steady_clock::now();
-    for (const auto& entries : PairwiseCases(ChoiceCounts(*m_preset)))
-        Try(entries);
+    const auto cases = PairwiseCases(ChoiceCounts(*m_preset));
+    for (std::size_t index = 0; index < cases.size(); index += StepOf())
+        Try(cases[index]);
     m_walked.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 } // namespace
-
-void Findings::Add(const std::string& what, const std::string& example)
-{
-    auto& finding = all[what];
-    if (finding.count++ == 0)
-        finding.example = example;
-}
-
-std::string Findings::Text() const
-{
-    std::string text;
-    for (const auto& [what, finding] : all)
-        text += std::to_string(finding.count) + " times: " + what + " (" + finding.example + ")\n";
-    return text;
-}
-
-int Findings::Count() const
-{
-    return std::accumulate(all.begin(), all.end(), 0,
-                           [](int sum, const auto& each) { return sum + each.second.count; });
-}
 
 WalkedCodec WalkCodec(int codecID)
 {

@@ -1,26 +1,11 @@
 #pragma once
 
-#include <map>
+#include "tests/encode/Findings.h"
+
 #include <string>
 
 namespace Vexlor
 {
-
-/// What went wrong, or gave way, how often, and one example of it.
-struct Findings
-{
-    struct Finding
-    {
-        int count = 0;
-        std::string example;
-    };
-    std::map<std::string, Finding> all;
-
-    void Add(const std::string& what, const std::string& example);
-    /// "3 times: what (example)", a line each; empty when there is none.
-    std::string Text() const;
-    int Count() const;
-};
 
 /// What was tried of a codec, and what came of it.
 struct WalkedCodec

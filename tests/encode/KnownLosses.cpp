@@ -53,8 +53,11 @@ struct ClockRow
 constexpr double kExact = 0.0002; // below what tells 29.97 from 30
 
 constexpr std::array kClocks{
-    ClockRow{"TS M2TS ASF WMV FLV F4V", 0.0011,
+    ClockRow{"TS M2TS FLV", 0.0011,
              "no frame rate is stored, and the time stamps of ten frames do not tell 59.94 from 60"},
+    ClockRow{"GIF", 0.003,
+             "time stamps are hundredths, and libavformat takes the nearest twelfth of a frame"},
+    ClockRow{"ASF WMV", 0.02, "the same, with a clock of milliseconds and three frames of a large picture"},
 };
 
 bool Names(std::string_view words, std::string_view word)

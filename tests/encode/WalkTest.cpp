@@ -6,6 +6,11 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <limits>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace Vexlor
 {
@@ -26,6 +31,15 @@ class WalkReport : public testing::Environment
 public:
     void Add(WalkedCodec walked) { m_walked.push_back(std::move(walked)); }
     void AddWithoutEncoder(const std::string& codec) { m_withoutEncoder.push_back(codec); }
+    // Frames come and go by megabytes: handing each back to the system would cost a third of the time.
+    void SetUp() override
+    {
+#ifdef __GLIBC__
+        mallopt(M_MMAP_MAX, 0);
+        mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+        mallopt(M_ARENA_MAX, 1);
+#endif
+    }
     void TearDown() override
     {
         std::printf("%-22s %-14s %8s %6s %8s %8s %8s %8s  %s\n", "codec", "encoder", "combin.", "files",
