@@ -87,6 +87,49 @@ TEST(CodecTable, RatesOfMpeg1And2AreTheCodedOnes)
         EXPECT_EQ(8U, FindCodec(id)->video.rates.size());
 }
 
+std::string SizesOf(int codecID)
+{
+    std::string text;
+    for (const auto size : FindCodec(codecID)->video.sizes)
+        text += std::to_string(size.width) + 'x' + std::to_string(size.height) + ' ';
+    return text;
+}
+
+TEST(CodecTable, FixedSizesAreThoseOfTheStandards)
+{
+    EXPECT_EQ("352x288 176x144 ", SizesOf(VXCodecID_H261));
+    EXPECT_EQ("1408x1152 704x576 352x288 176x144 128x96 ", SizesOf(VXCodecID_H263));
+    EXPECT_EQ("1920x1080 1280x720 ", SizesOf(VXCodecID_DNxHD));
+    EXPECT_EQ("720x576 ", SizesOf(VXCodecID_DV));
+    EXPECT_EQ("720x480 ", SizesOf(VXCodecID_DVNTSC));
+    EXPECT_EQ("", SizesOf(VXCodecID_DNxHR));
+}
+
+TEST(CodecTable, FixedSizesLieWithinTheLimits)
+{
+    for (const auto& codec : CodecTable())
+        for (const auto size : codec.video.sizes)
+        {
+            EXPECT_GE(size.width, codec.video.min.width) << codec.name;
+            EXPECT_GE(size.height, codec.video.min.height) << codec.name;
+            EXPECT_LE(size.width, codec.video.max.width) << codec.name;
+            EXPECT_LE(size.height, codec.video.max.height) << codec.name;
+        }
+}
+
+TEST(CodecTable, RatesOfGifAreWholeHundredthsOfASecond)
+{
+    for (const auto rate : FindCodec(VXCodecID_GIF)->video.rates)
+        EXPECT_EQ(0, 100 * rate.den % rate.num) << rate.num << '/' << rate.den;
+}
+
+TEST(CodecTable, HasTheCodecsThatPeopleConvertTo)
+{
+    const auto videos = std::ranges::count(CodecTable(), VXCodecTypeVideo, &CodecRow::type);
+    EXPECT_GE(videos, 20);
+    EXPECT_GE(static_cast<int>(CodecTable().size()) - videos, 25);
+}
+
 TEST(CodecTable, HasNoRowForOtherNumbers)
 {
     EXPECT_EQ(nullptr, FindCodec(VXCodecID_None));
