@@ -1,69 +1,10 @@
 #include "tests/artwork/ArtworkFixture.h"
 
+#include "tests/memory/CountedMemory.h"
+
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <cstdlib>
-#include <cstring>
 #include <limits>
-#include <new>
-
-namespace
-{
-
-// Each block begins with its size, in a header that keeps the alignment.
-constexpr std::size_t kHeader = alignof(std::max_align_t);
-
-std::size_t theBytesInUse = 0;
-std::size_t theMostBytesInUse = 0;
-std::size_t theAllocationsLeft = std::numeric_limits<std::size_t>::max();
-bool oneWasRefused = false;
-
-} // namespace
-
-// Every form is replaced, so that none is freed by another; not inlined, or the compiler takes free() for the
-// wrong partner of what it sees as operator new.
-#define VX_NOT_INLINED __attribute__((noinline))
-
-VX_NOT_INLINED void* operator new(std::size_t size, const std::nothrow_t&) noexcept
-{
-    oneWasRefused = oneWasRefused || theAllocationsLeft == 0;
-    auto* block = theAllocationsLeft > 0 ? static_cast<std::byte*>(std::malloc(size + kHeader)) : nullptr;
-    if (!block)
-        return nullptr;
-    --theAllocationsLeft;
-    std::memcpy(block, &size, sizeof size);
-    theBytesInUse += size;
-    theMostBytesInUse = std::max(theMostBytesInUse, theBytesInUse);
-    return block + kHeader;
-}
-
-VX_NOT_INLINED void* operator new(std::size_t size)
-{
-    if (void* memory = operator new(size, std::nothrow))
-        return memory;
-    throw std::bad_alloc();
-}
-
-void* operator new[](std::size_t size) { return operator new(size); }
-void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
-{
-    return operator new(size, std::nothrow);
-}
-
-VX_NOT_INLINED void operator delete(void* memory) noexcept
-{
-    if (!memory)
-        return;
-    auto* block = static_cast<std::byte*>(memory) - kHeader;
-    std::size_t size = 0;
-    std::memcpy(&size, block, sizeof size);
-    theBytesInUse -= size;
-    std::free(block);
-}
-void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
-void operator delete[](void* memory) noexcept { operator delete(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { operator delete(memory); }
 
 namespace Vexlor
 {
@@ -74,26 +15,6 @@ namespace
 constexpr int kMost = std::numeric_limits<int>::max();
 constexpr std::size_t kOneKiB = 1024;
 constexpr std::size_t kFree = 4096; // what a file of nothing may cost
-
-/// The most bytes in use at any time during the operation, beyond those in use before it.
-template <class Operation>
-std::size_t MostBytesOf(Operation operation)
-{
-    const auto before = theMostBytesInUse = theBytesInUse;
-    operation();
-    return theMostBytesInUse - before;
-}
-
-/// Runs the operation with memory for so many allocations, and says whether that was enough.
-template <class Operation>
-bool RunsWithin(std::size_t allocations, Operation operation)
-{
-    oneWasRefused = false;
-    theAllocationsLeft = allocations;
-    operation();
-    theAllocationsLeft = std::numeric_limits<std::size_t>::max();
-    return !oneWasRefused;
-}
 
 using ArtworkMemory = ArtworkFileTest;
 

@@ -32,6 +32,7 @@ template <class... Arguments>
 std::string CallText(std::string_view operation, const Arguments&... arguments)
 {
     std::ostringstream stream;
+    stream.exceptions(std::ios::badbit); // a stream keeps std::bad_alloc to itself otherwise
     stream << std::boolalpha << operation << '(';
     std::string_view gap;
     ((stream << std::exchange(gap, ", "), WriteArgument(stream, arguments)), ...);
