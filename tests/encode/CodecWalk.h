@@ -15,7 +15,7 @@ struct WalkedCodec
     int combinations = 0;
     std::string containers; ///< the names, separated by blanks
     int files = 0;
-    int leftOut = 0; ///< further combinations, of pictures larger than 4K
+    int leftOut = 0; ///< further combinations, of pictures larger than 1080p
     double seconds = 0;
     Findings failures;   ///< did not open, was not encoded, not written, or read back as something else
     Findings notCarried; ///< read back as something else, for a reason that is known

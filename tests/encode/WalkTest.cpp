@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <limits>
 
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -35,8 +34,8 @@ public:
     void SetUp() override
     {
 #ifdef __GLIBC__
-        mallopt(M_MMAP_MAX, 0);
-        mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
+        mallopt(M_MMAP_THRESHOLD, 32 << 20); // the largest that it takes
+        mallopt(M_TRIM_THRESHOLD, 1 << 30);
         mallopt(M_ARENA_MAX, 1);
 #endif
     }
