@@ -38,7 +38,6 @@ public:
 private:
     void SetPicture(const IVXCodecParameter& stream);
     void SetSound(const IVXCodecParameter& stream);
-    void SetBitrates(const IVXCodecParameter& stream);
     void SetLabels(const IVXCodecParameter& stream);
     template <class Label>
     void SetLabel(int& number, std::string_view option, const Label& label);
@@ -96,6 +95,17 @@ int Opening::SampleFormat(int wanted)
     return taken;
 }
 
+// A bound wants a buffer to be kept over; a second of the stream is the usual one.
+void SetBitrates(AVCodecContext& context, const IVXCodecParameter& stream)
+{
+    context.bit_rate = stream.GetBitrate();
+    if (context.codec_type != AVMEDIA_TYPE_VIDEO || stream.GetMaxBitrate() <= 0)
+        return;
+    context.rc_max_rate = stream.GetMaxBitrate();
+    context.rc_min_rate = stream.GetMinBitrate();
+    context.rc_buffer_size = stream.GetMaxBitrate();
+}
+
 AVRational Rational(const IVXRational& value) { return {value.Num(), value.Den()}; }
 
 void Opening::SetPicture(const IVXCodecParameter& stream)
@@ -119,18 +129,6 @@ void Opening::SetSound(const IVXCodecParameter& stream)
     context.time_base = {1, context.sample_rate};
     context.sample_fmt = AVSampleFormatOf(SampleFormat(stream.GetFormat()));
     av_channel_layout_from_mask(&context.ch_layout, stream.GetChannelLayout());
-}
-
-// A bound wants a buffer to be kept over; a second of the stream is the usual one.
-void Opening::SetBitrates(const IVXCodecParameter& stream)
-{
-    auto& context = *m_setup.context;
-    context.bit_rate = stream.GetBitrate();
-    if (m_encoder.type != AVMEDIA_TYPE_VIDEO || stream.GetMaxBitrate() <= 0)
-        return;
-    context.rc_max_rate = stream.GetMaxBitrate();
-    context.rc_min_rate = stream.GetMinBitrate();
-    context.rc_buffer_size = stream.GetMaxBitrate();
 }
 
 template <class Label>
@@ -160,7 +158,7 @@ EncoderSetup Opening::Open(const IVXCodecParameter& stream, const EncoderWish& w
         SetPicture(stream);
     else
         SetSound(stream);
-    SetBitrates(stream);
+    SetBitrates(context, stream);
     if (wish.globalHeader)
         context.flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
     if (m_encoder.capabilities & AV_CODEC_CAP_EXPERIMENTAL) // the table has it all the same
