@@ -19,6 +19,7 @@
 #include "tests/foundation/TestFolder.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 
 namespace Vexlor
@@ -85,16 +86,16 @@ EncodedStream Walk::Encode(const IVXCodecParameter& stream, bool globalHeader)
     return encoded;
 }
 
-// Only a codec whose frames lean on each other has headers of its own to put somewhere.
-bool HasHeaders(int codecID)
-{
-    const auto* descriptor = avcodec_descriptor_get(FindCodec(codecID)->avID);
-    return descriptor && (descriptor->props & AV_CODEC_PROP_INTRA_ONLY) == 0;
-}
+// Their headers stand in the stream or in the container, as the encoder is told; those of all others have one
+// place.
+constexpr std::array kTwoPlaces{VXCodecID_H264, VXCodecID_HEVC,  VXCodecID_MPEG4,
+                                VXCodecID_DIVX, VXCodecID_MPEG1, VXCodecID_MPEG2};
+
+bool HasTwoPlaces(int codecID) { return std::ranges::find(kTwoPlaces, codecID) != kTwoPlaces.end(); }
 
 const EncodedStream& Walk::Encoded(const IVXCodecParameter& stream, bool globalHeader)
 {
-    const bool isGlobal = globalHeader && HasHeaders(m_codecID);
+    const bool isGlobal = globalHeader || !HasTwoPlaces(m_codecID);
     const auto key = StreamOutline(stream) + (isGlobal ? " with a global header" : "");
     const auto found = m_encoded.find(key);
     if (found != m_encoded.end())

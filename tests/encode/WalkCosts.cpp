@@ -17,12 +17,12 @@ namespace
 constexpr int kAllFrames = 10;
 constexpr int kMost = std::numeric_limits<int>::max();
 
-// Up to 1080p everything is tried. Of larger sizes a few combinations are, and above 4K these are opened and
+// Up to 1080p everything is tried. Of larger sizes a few combinations are, and above 4K one is opened and
 // encoded, no more: everything in every container would take as long as all the rest together.
 constexpr std::array kAreas{
     AreaRow{1920 * 1088, kAllFrames, true, kMost},
-    AreaRow{4096 * 2304, 3, true, 8},
-    AreaRow{kMost, 1, false, 2},
+    AreaRow{4096 * 2304, 3, true, 4},
+    AreaRow{kMost, 1, false, 1},
 };
 
 struct QuickRow
