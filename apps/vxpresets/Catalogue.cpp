@@ -3,6 +3,7 @@
 #include "DefaultTree.h"
 #include "Failure.h"
 #include "NameSearch.h"
+#include "Text.h"
 
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
@@ -19,17 +20,6 @@ namespace
 
 constexpr auto* kTool = "vxpresets";
 
-std::string Escaped(const std::string& name)
-{
-    std::string escaped;
-    for (const char letter : name)
-    {
-        escaped += letter == '/' ? "\\" : "";
-        escaped += letter;
-    }
-    return escaped;
-}
-
 // As deep as the document is nested, which the parser bounds.
 void Collect(const IVXFormatNode& node, const std::string& path, const std::string& plain,
              std::vector<CatalogueEntry>& entries)
@@ -37,10 +27,10 @@ void Collect(const IVXFormatNode& node, const std::string& path, const std::stri
     for (int i = 0; i < node.FormatPresetCount(); ++i)
     {
         const auto preset = node.GetFormatPreset(i);
-        entries.push_back({path + Escaped(preset->Name()), plain + preset->Name(), preset});
+        entries.push_back({path + PathEscaped(preset->Name()), plain + preset->Name(), preset});
     }
     for (const auto& child : node.GetChildList())
-        Collect(*child, path + Escaped(child->Name()) + '/', plain + child->Name() + '/', entries);
+        Collect(*child, path + PathEscaped(child->Name()) + '/', plain + child->Name() + '/', entries);
 }
 
 std::shared_ptr<const IVXJsonValue> ReadDocument(const std::string& path)

@@ -37,6 +37,23 @@ CLI::App* AddCommand(CLI::App& app, Request& request, const char* name, const ch
     return sub;
 }
 
+void AddCheck(CLI::App& app, Request& request)
+{
+    auto* check = app.add_subcommand(
+        "check", "Print what a preset document has wrong; exit code 1 for more than warnings");
+    check->add_option("DOCUMENT", request.document, "Preset document")->required();
+    check->add_option("--artwork", request.artwork.file, "Artwork file in place of the built-in one")
+        ->type_name("FILE");
+    check->add_flag("--json", request.asJson, "Print JSON, for programs");
+    check->footer(kFooter);
+    check->callback(
+        [&request]
+        {
+            request.command = CheckCommand;
+            request.needsCatalogue = false;
+        });
+}
+
 void AddCommands(CLI::App& app, Request& request)
 {
     AddCommand(app, request, "tree", "Print the tree of presets, with the number of presets in each category",
@@ -61,6 +78,7 @@ void AddCommands(CLI::App& app, Request& request)
                    "Print the whole reference, with containers and bitrates")
         ->excludes(codec)
         ->excludes("--json");
+    AddCheck(app, request);
     AddArtworkCommands(app, request);
 }
 

@@ -40,5 +40,7 @@ std::string MatchCommand(const Request& request, const Catalogue& catalogue, con
 std::string FormatsCommand(const Request& request, const Catalogue& catalogue, const Style& style);
 /// The codecs, and what each accepts.
 std::string CodecsCommand(const Request& request, const Catalogue& catalogue, const Style& style);
+/// What a preset document has wrong.
+std::string CheckCommand(const Request& request, const Catalogue& catalogue, const Style& style);
 
 } // namespace Vexlor::Tool

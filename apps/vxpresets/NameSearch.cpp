@@ -114,6 +114,20 @@ std::string Listed(const std::vector<Candidate>& candidates, const Positions& po
 
 } // namespace
 
+std::string NearestName(const std::vector<std::string>& names, std::string_view text)
+{
+    const auto folded = Folded(text.substr(0, kLongestCompared));
+    std::string nearest;
+    auto least = folded.size() / 2 + 1; // half of it may be wrong
+    for (const auto& name : names)
+        if (const auto distance = EditDistance(folded, Folded(name)); distance < least)
+        {
+            least = distance;
+            nearest = name;
+        }
+    return nearest;
+}
+
 std::size_t FindByName(const std::vector<Candidate>& candidates, std::string_view text,
                        const std::string& kind, const std::string& origin)
 {

@@ -15,6 +15,10 @@ struct Candidate
     std::vector<std::string> names; ///< what it answers to, the most exact first; as many for every candidate
 };
 
+/// The one of the names that comes nearest to the text by the letters to change; empty where all of them are
+/// far from it.
+std::string NearestName(const std::vector<std::string>& names, std::string_view text);
+
 /// Position of the one candidate that the text means. A whole name comes before a part of one, a name of the
 /// right case before others, and an exact kind of name before a looser one.
 ///

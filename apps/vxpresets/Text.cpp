@@ -147,6 +147,17 @@ std::string Folded(std::string_view text)
 
 std::string Quoted(std::string_view text) { return '"' + OneLine(text) + '"'; }
 
+std::string PathEscaped(std::string_view name)
+{
+    std::string escaped;
+    for (const char letter : name)
+    {
+        escaped += letter == '/' ? "\\" : "";
+        escaped += letter;
+    }
+    return escaped;
+}
+
 std::string Joined(const std::vector<std::string>& parts, std::string_view separator)
 {
     std::string text;

@@ -22,6 +22,8 @@ std::vector<std::string> Wrapped(std::string_view text, int width);
 std::string Folded(std::string_view text);
 /// The text in double quotes, on one line.
 std::string Quoted(std::string_view text);
+/// The name as a part of a path of names: "\/" for each slash.
+std::string PathEscaped(std::string_view name);
 /// The parts one after the other with the separator in between.
 std::string Joined(const std::vector<std::string>& parts, std::string_view separator);
 /// "1 preset", "3 presets".
