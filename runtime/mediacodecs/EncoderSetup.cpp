@@ -36,17 +36,15 @@ public:
     EncoderSetup Open(const IVXCodecParameter& stream, const EncoderWish& wish);
 
 private:
+    int TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish);
     void SetPicture(const IVXCodecParameter& stream);
     void SetSound(const IVXCodecParameter& stream);
+    void SetFlags(const EncoderWish& wish);
     void SetLabels(const IVXCodecParameter& stream);
     template <class Label>
     void SetLabel(int& number, std::string_view option, const Label& label);
     int PixelFormat(int wanted);
     int SampleFormat(int wanted);
-    void Complain(int error)
-    {
-        m_setup.complaint = std::string(m_encoder.name) + ": " + FFmpegErrorText(error);
-    }
 
     const CodecCapabilities& m_codec;
     const AVCodec& m_encoder;
@@ -151,27 +149,38 @@ void Opening::SetLabels(const IVXCodecParameter& stream)
         SetLabel(context.level, m_row.levelOption, *labels.level);
 }
 
-EncoderSetup Opening::Open(const IVXCodecParameter& stream, const EncoderWish& wish)
+void Opening::SetFlags(const EncoderWish& wish)
 {
     auto& context = *m_setup.context;
-    if (m_encoder.type == AVMEDIA_TYPE_VIDEO)
-        SetPicture(stream);
-    else
-        SetSound(stream);
-    SetBitrates(context, stream);
     if (wish.globalHeader)
         context.flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
     if (m_encoder.capabilities & AV_CODEC_CAP_EXPERIMENTAL) // the table has it all the same
         context.strict_std_compliance = FF_COMPLIANCE_EXPERIMENTAL;
-    int error = m_options.Parse(wish.options);
-    if (error >= 0)
-        error = m_options.Parse(m_row.always);
-    SetLabels(stream);
-    if (error >= 0)
-        error = m_options.Open(context, m_encoder);
+}
+
+int Opening::TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish)
+{
+    if (!m_setup.context)
+        return AVERROR(ENOMEM);
+    if (m_encoder.type == AVMEDIA_TYPE_VIDEO)
+        SetPicture(stream);
+    else
+        SetSound(stream);
+    SetBitrates(*m_setup.context, stream);
+    SetFlags(wish);
+    const int error = m_options.Parse(wish.options);
     if (error < 0)
+        return error;
+    m_options.Parse(m_row.always);
+    SetLabels(stream);
+    return m_options.Open(*m_setup.context, m_encoder);
+}
+
+EncoderSetup Opening::Open(const IVXCodecParameter& stream, const EncoderWish& wish)
+{
+    if (const int error = TryToOpen(stream, wish); error < 0)
     {
-        Complain(error);
+        m_setup.complaint = std::string(m_encoder.name) + ": " + FFmpegErrorText(error);
         m_setup.context.reset();
     }
     return std::move(m_setup);
