@@ -64,9 +64,10 @@ constexpr std::array kCodedRates{AVRational{60, 1}, AVRational{60000, 1001}, AVR
 constexpr AVRational kPictureClock{30000, 1001};
 
 // Delays are whole hundredths of a second (GIF89a, section 23); viewers show a delay of one as one of ten.
+// Those of seven and nine are left out: libavformat reads them back as 57/4 and 133/12.
 constexpr std::array kDelays{AVRational{50, 1}, AVRational{100, 3}, AVRational{25, 1}, AVRational{20, 1},
-                             AVRational{50, 3}, AVRational{100, 7}, AVRational{25, 2}, AVRational{100, 9},
-                             AVRational{10, 1}, AVRational{5, 1},   AVRational{2, 1},  AVRational{1, 1}};
+                             AVRational{50, 3}, AVRational{25, 2},  AVRational{10, 1}, AVRational{5, 1},
+                             AVRational{2, 1},  AVRational{1, 1}};
 
 // The frame rates for which DNxHD's bitrates are published: SMPTE ST 2019-1, annex.
 constexpr std::array kStudioRates{AVRational{60, 1},       AVRational{60000, 1001}, AVRational{50, 1},
