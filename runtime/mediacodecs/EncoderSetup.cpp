@@ -39,7 +39,6 @@ private:
     int TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish);
     void SetPicture(const IVXCodecParameter& stream);
     void SetSound(const IVXCodecParameter& stream);
-    void SetFlags(const EncoderWish& wish);
     void SetLabels(const IVXCodecParameter& stream);
     template <class Label>
     void SetLabel(int& number, std::string_view option, const Label& label);
@@ -104,6 +103,14 @@ void SetBitrates(AVCodecContext& context, const IVXCodecParameter& stream)
     context.rc_buffer_size = stream.GetMaxBitrate();
 }
 
+void SetFlags(AVCodecContext& context, const EncoderWish& wish)
+{
+    if (wish.globalHeader)
+        context.flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
+    if (context.codec->capabilities & AV_CODEC_CAP_EXPERIMENTAL) // the table has it all the same
+        context.strict_std_compliance = FF_COMPLIANCE_EXPERIMENTAL;
+}
+
 AVRational Rational(const IVXRational& value) { return {value.Num(), value.Den()}; }
 
 void Opening::SetPicture(const IVXCodecParameter& stream)
@@ -149,15 +156,6 @@ void Opening::SetLabels(const IVXCodecParameter& stream)
         SetLabel(context.level, m_row.levelOption, *labels.level);
 }
 
-void Opening::SetFlags(const EncoderWish& wish)
-{
-    auto& context = *m_setup.context;
-    if (wish.globalHeader)
-        context.flags |= AV_CODEC_FLAG_GLOBAL_HEADER;
-    if (m_encoder.capabilities & AV_CODEC_CAP_EXPERIMENTAL) // the table has it all the same
-        context.strict_std_compliance = FF_COMPLIANCE_EXPERIMENTAL;
-}
-
 int Opening::TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish)
 {
     if (!m_setup.context)
@@ -167,7 +165,7 @@ int Opening::TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish)
     else
         SetSound(stream);
     SetBitrates(*m_setup.context, stream);
-    SetFlags(wish);
+    SetFlags(*m_setup.context, wish);
     const int error = m_options.Parse(wish.options);
     if (error < 0)
         return error;
