@@ -1,3 +1,7 @@
+#include "RunTool.h"
+
+#include "tests/media/MediaMaker.h"
+
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
 #include "IVXJsonValue.h"
@@ -33,13 +37,15 @@ rapidjson::Document Parsed(const std::string& text)
     return document;
 }
 
-rapidjson::Document SchemaDocument()
+std::string ContentOf(const char* path)
 {
-    std::ifstream file(VX_SCHEMA);
+    std::ifstream file(path);
     std::ostringstream text;
     text << file.rdbuf();
-    return Parsed(text.str());
+    return text.str();
 }
+
+rapidjson::Document SchemaDocument() { return Parsed(ContentOf(VX_SCHEMA)); }
 
 /// What a document has against the schema, a line each; empty when it fits.
 std::string Misfits(const std::string& text)
@@ -195,6 +201,13 @@ TEST_P(SchemaDefinition, NamesTheMembersThatLoadersRead)
     EXPECT_EQ(asked, std::set<std::string>(names.begin(), names.end()));
 }
 
+TEST_P(SchemaDefinition, HasItsMembersInThePageOfDocuments)
+{
+    const auto page = ContentOf(VX_DOCUMENT_PAGE);
+    for (const auto& name : NamesOf(GetParam()))
+        EXPECT_NE(std::string::npos, page.find('`' + name + '`')) << name;
+}
+
 /// The member names of the first object of each definition, in their order.
 void Collect(const rapidjson::Value& object, const std::string& definition,
              std::map<std::string, Names>& names)
@@ -225,6 +238,17 @@ INSTANTIATE_TEST_SUITE_P(Definitions, SchemaDefinition,
                                          "resolutionPreset", "frameratePreset", "sampleratePreset",
                                          "channelLayoutPreset", "profilePreset", "levelPreset"),
                          [](const auto& test) { return std::string(test.param); });
+
+TEST(Schema, TakesTheExampleOfThePageOfDocuments)
+{
+    const auto page = ContentOf(VX_DOCUMENT_PAGE);
+    const auto begin = page.find("```json\n") + 8;
+    const auto example = page.substr(begin, page.find("```", begin) - begin);
+    EXPECT_EQ("", Misfits(example));
+    Media::ScratchFolder folder;
+    const auto run = RunTool({"check", folder.Write("presets.json", example)});
+    EXPECT_TRUE(run.out.ends_with("presets.json: 1 preset, nothing wrong\n")) << run.out;
+}
 
 TEST(Schema, HasNoOtherDefinitions)
 {
