@@ -2,10 +2,10 @@
 #include "IVXArtworkImageMgr.h"
 #include "IVXData.h"
 
+#include "fuzz/Require.h"
 #include "tests/platform/ScriptedPlatform.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 // Any bytes open as an artwork file, all its groups can be asked for, and an addition that is answered by an
 // identifier is there when the file is opened again, behind the entries that were there before.
@@ -41,12 +41,6 @@ void Walk(const IVXArtworkImageMgr& manager)
     }
     manager.GetArtworkImageGroup(-1);
     manager.GetArtworkImageGroup(manager.ArtworkImageGroupCount());
-}
-
-void Require(bool holds)
-{
-    if (!holds)
-        std::abort();
 }
 
 void Change(ScriptedFile& file)

@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
-"""Writes the seeds of the artwork fuzzers into corpus/: small blobs and files, well formed and damaged.
+"""Writes the named seeds of the fuzzers into corpus/: small artwork blobs and files, preset documents, and command
+lines with documents, well formed and damaged. Seeds without a name are what a run of the fuzzers found worth keeping.
 
 The files' groups lie right behind their tables, within the head, so that the seeds stay small."""
+import json
 import pathlib
 import struct
 
@@ -47,7 +49,67 @@ FILES = {
     "cut_table": artwork((5, TWO), (6, TWO))[:60],
     "other_magic": b"ZQAW2024CC\0" + artwork((5, TWO))[11:],
 }
-for target, seeds in (("artwork_group", GROUPS), ("artwork_file", FILES)):
+
+
+def codec(**members):
+    return {"codecID": 1, **members}
+
+
+def container(**members):
+    return {"name": "Any", "formatName": "MP4", **members}
+
+
+def document(*presets, children=()):
+    return json.dumps({"name": "Presets", "faceID": 7, "formatPresetList": presets, "childList": children}).encode()
+
+
+VIDEO = codec(aspectPreset={"num": 4, "den": 3, "type": 13}, indexForResolutionPreset=1,
+              resolutionPresets=[{"width": 0, "height": 0}, {"width": 1280, "height": 720}],
+              frameratePresets=[{"num": 30000, "den": 1001}], profilesPresets=[{"profile": 100, "name": "High"}],
+              levelPresets=[{"level": -99, "name": "Unknown"}, {"level": 31, "name": "3.1"}], indexForSampleFmts=1)
+AUDIO = codec(codecID=1001, sampleratePresets=[{"samplerate": 48000}], channelLayoutPresets=[{"chLayout": 3}])
+FULL = container(indexForVideoCodecPresets=1, videoCodecPresets=[{"codecID": 0}, VIDEO], audioCodecPresets=[AUDIO],
+                 maxWidth=640, maxHeight=480, maxVideoBitrate=8000000, minAudioBitrate=-1)
+PHONES = {"name": "Pho/nes", "formatPresetList": [container(name="Small")]}
+DOCUMENTS = {
+    "nothing": b"{}",
+    "null": b"null",
+    "two_levels": document(FULL, children=[PHONES, {"childList": [{}, {}]}]),
+    "old_names": document({"formatName": "MPEG1"}, {"formatName": "MPEG2", "videoCodecPresets": [{}]}),
+    "levels_without_unknown": document(container(videoCodecPresets=[
+        codec(indexForLevelPresets=2147483647, levelPresets=[{"level": 31}])])),
+    "numbers_out_of_range": document(container(maxWidth=1e300, minWidth=-2**63, faceID=2**64, audioCodecPresets=[
+        codec(channelLayoutPresets=[{"chLayout": 2**64 - 1}, {"chLayout": -2**63}, {"chLayout": 0.5}])])),
+    "other_kinds": b'{"name":1,"formatPresetList":{"a":[]},"childList":[1,"b",[null],{"name":{},"faceID":"x"}]}',
+    "repeated_member": b'{"name":"a","name":"b","childList":[],"childList":[{}]}',
+    "escapes": '{"name":"\\ud83c\\udfac\\u0000\\n\u00e9"}'.encode(),
+    "deep": b'{"childList":[' * 40 + b"{}" + b"]}" * 40,
+    "cut": document(FULL)[:-200],
+}
+
+
+def command_line(*arguments, text=document(FULL, container(name="a"), children=[PHONES])):
+    return "\n".join(arguments).encode() + b"\0" + text
+
+
+COMMAND_LINES = {
+    "tree": command_line("tree"),
+    "tree_json": command_line("tree", "--json", "--document", "x"),
+    "paths": command_line("tree", "--paths"),
+    "show": command_line("show", "Any"),
+    "show_escaped": command_line("--json", "show", "Pho\\/nes/Small"),
+    "unknown_preset": command_line("show", "Smal1"),
+    "nothing_told": command_line(),
+    "help": command_line("--help"),
+    "manual": command_line("generate", "man"),
+    "wrong_command": command_line("tre", "--json"),
+    "picture": command_line("artwork", "add", "f", "--picture", "0:normal=x", "--picture", "1:normal=y"),
+    "match": command_line("match", "a.mov", "--preset", "Any", text=b""),
+    "broken_document": command_line("tree", text=b'{"childList":['),
+    "same_path_twice": command_line("show", "a", text=document(container(name="a"), container(name="a"))),
+}
+for target, seeds in (("artwork_group", GROUPS), ("artwork_file", FILES), ("document", DOCUMENTS),
+                      ("arguments", COMMAND_LINES)):
     (CORPUS / target).mkdir(parents=True, exist_ok=True)
     for name, data in seeds.items():
         (CORPUS / target / name).write_bytes(data)
