@@ -39,6 +39,7 @@ private:
     int TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish);
     void SetPicture(const IVXCodecParameter& stream);
     void SetSound(const IVXCodecParameter& stream);
+    void LimitBitrate();
     void SetLabels(const IVXCodecParameter& stream);
     template <class Label>
     void SetLabel(int& number, std::string_view option, const Label& label);
@@ -136,6 +137,16 @@ void Opening::SetSound(const IVXCodecParameter& stream)
     av_channel_layout_from_mask(&context.ch_layout, stream.GetChannelLayout());
 }
 
+void Opening::LimitBitrate()
+{
+    auto& bitrate = m_setup.context->bit_rate;
+    if (m_row.mostBitrate == 0 || bitrate <= m_row.mostBitrate)
+        return;
+    m_setup.changes.push_back("bitrate " + std::to_string(bitrate) + " is not taken; " +
+                              std::to_string(m_row.mostBitrate) + " stands in");
+    bitrate = m_row.mostBitrate;
+}
+
 template <class Label>
 void Opening::SetLabel(int& number, std::string_view option, const Label& label)
 {
@@ -143,6 +154,16 @@ void Opening::SetLabel(int& number, std::string_view option, const Label& label)
         number = label.avNumber;
     else
         m_options.Add(option, label.option);
+}
+
+// 4:2:2 counts its levels anew behind the escape bit: ISO/IEC 13818-2 table 8-5.
+int LevelInProfile(const StreamLabels& labels, int level)
+{
+    if (!labels.profile || labels.profile->avNumber != VX_AV_PROFILE(MPEG2_422) ||
+        labels.profile->number != 128)
+        return level;
+    constexpr int kMain = 8;
+    return labels.level->number == kMain ? 5 : 2;
 }
 
 void Opening::SetLabels(const IVXCodecParameter& stream)
@@ -153,7 +174,10 @@ void Opening::SetLabels(const IVXCodecParameter& stream)
     if (labels.profile)
         SetLabel(context.profile, m_row.profileOption, *labels.profile);
     if (labels.level)
+    {
         SetLabel(context.level, m_row.levelOption, *labels.level);
+        context.level = LevelInProfile(labels, context.level);
+    }
 }
 
 int Opening::TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish)
@@ -165,6 +189,7 @@ int Opening::TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish)
     else
         SetSound(stream);
     SetBitrates(*m_setup.context, stream);
+    LimitBitrate();
     SetFlags(*m_setup.context, wish);
     const int error = m_options.Parse(wish.options);
     if (error < 0)

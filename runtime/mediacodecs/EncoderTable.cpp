@@ -23,7 +23,7 @@ constexpr std::array kEncoders{
                .always = "x265-params=log-level=none"},
     EncoderRow{.encoder = "hevc_videotoolbox", .profileOption = "profile"},
     EncoderRow{.encoder = "libvpx-vp9", .levelOption = "level"},
-    EncoderRow{.encoder = "libsvtav1", .levelOption = "svtav1-params"},
+    EncoderRow{.encoder = "libsvtav1", .levelOption = "svtav1-params", .mostBitrate = 100'000'000},
     EncoderRow{.encoder = "prores_ks", .profileOption = "profile"},
     EncoderRow{.encoder = "dnxhd", .profileOption = "profile"},
     EncoderRow{.encoder = "mjpeg", .fullRange = true},

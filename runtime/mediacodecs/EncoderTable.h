@@ -13,6 +13,7 @@ struct EncoderRow
     std::string_view profileOption = {};
     std::string_view levelOption = {}; ///< as above, of a level's text
     std::string_view always = {};      ///< options that are set whatever the stream is: "name=value"
+    int mostBitrate = 0;               ///< bits a second; 0: any
     bool fullRange = false;            ///< takes limited range only as an unofficial extension
 };
 

@@ -153,6 +153,14 @@ TEST_F(EncoderSetupTest, ProfileAndLevelAreLibavcodecsNumbers)
     EXPECT_THAT(setup.changes, IsEmpty());
 }
 
+TEST_F(EncoderSetupTest, LevelsOf422AreCountedAnew)
+{
+    picture->SetFormat(kPixFormatYUV422P);
+    picture->SetProfile(128);
+    picture->SetLevel(8); // Main
+    EXPECT_EQ(5, OpenEncoder(*picture, {}).context->level);
+}
+
 } // namespace
 
 } // namespace Vexlor

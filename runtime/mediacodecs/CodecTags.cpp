@@ -1,0 +1,44 @@
+#include "CodecTags.h"
+
+extern "C"
+{
+#include <libavformat/avformat.h>
+#include <libavutil/macros.h>
+}
+
+#include <array>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+struct StandIn
+{
+    std::uint32_t asked;
+    std::uint32_t written;
+};
+
+// DIV5 stands for Microsoft's MPEG-4 version 3 in libavformat's table of tags, so it refuses to write MPEG-4
+// under it, and would read it back wrongly. DX50 is what DivX 5 itself writes.
+constexpr std::array kStandIns{StandIn{MKTAG('D', 'I', 'V', '5'), MKTAG('D', 'X', '5', '0')}};
+
+bool Takes(const AVOutputFormat& muxer, AVCodecID codec, std::uint32_t tag)
+{
+    return tag == 0 || !muxer.codec_tag || av_codec_get_id(muxer.codec_tag, tag) == codec;
+}
+
+} // namespace
+
+std::uint32_t WritableTag(const AVOutputFormat& muxer, AVCodecID codec, std::uint32_t tag)
+{
+    if (Takes(muxer, codec, tag))
+        return tag;
+    for (const auto& row : kStandIns)
+        if (row.asked == tag && Takes(muxer, codec, row.written))
+            return row.written;
+    return 0;
+}
+
+} // namespace Vexlor
