@@ -51,6 +51,7 @@ private:
     EncoderRow m_row;
     EncoderLists m_lists;
     EncoderOptions m_options;
+    int m_profile = VX_AV_PROFILE(UNKNOWN);
     EncoderSetup m_setup;
 };
 
@@ -172,7 +173,10 @@ void Opening::SetLabels(const IVXCodecParameter& stream)
     auto labels = FittingLabels(m_codec, stream, PixelFormatOf(context.pix_fmt));
     std::ranges::move(labels.changes, std::back_inserter(m_setup.changes));
     if (labels.profile)
+    {
+        m_profile = labels.profile->avNumber;
         SetLabel(context.profile, m_row.profileOption, *labels.profile);
+    }
     if (labels.level)
     {
         SetLabel(context.level, m_row.levelOption, *labels.level);
@@ -196,7 +200,10 @@ int Opening::TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish)
         return error;
     m_options.Parse(m_row.always);
     SetLabels(stream);
-    return m_options.Open(*m_setup.context, m_encoder);
+    const int opened = m_options.Open(*m_setup.context, m_encoder);
+    if (m_setup.context->profile == VX_AV_PROFILE(UNKNOWN)) // muxers ask for it, some encoders forget to say
+        m_setup.context->profile = m_profile;
+    return opened;
 }
 
 EncoderSetup Opening::Open(const IVXCodecParameter& stream, const EncoderWish& wish)

@@ -28,10 +28,11 @@ struct NeededProfile
 };
 
 // libavcodec's MPEG-2 encoder refuses a level that comes without a profile; without one, its DNxHD encoder
-// takes the stream for DNxHD and its few sizes.
+// takes the stream for DNxHD and its few sizes; MXF does not store ProRes of an unknown one.
 constexpr std::array kNeededProfiles{
     NeededProfile{VXCodecID_MPEG2, 4, true},
     NeededProfile{VXCodecID_DNxHR, 2, false},
+    NeededProfile{VXCodecID_ProRes, 2, false},
 };
 
 int ProfileNeededBy(const IVXCodecParameter& stream)
