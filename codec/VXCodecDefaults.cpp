@@ -1,5 +1,7 @@
 #include "codec/VXCodecDefaults.h"
 
+#include "presets/VXValueList.h"
+
 #include "IVXChannelLayoutPreset.h"
 #include "IVXCodecPreset.h"
 #include "IVXCodecQualityPreset.h"
@@ -82,12 +84,14 @@ HandleList<Preset> BehindAuto(HandleList<Preset> list, std::shared_ptr<Preset> a
 HandleList<IVXCodecQualityPreset> DefaultQualities()
 {
     using Quality = IVXCodecQualityPreset;
-    return {Quality::MallocCodecQualityPreset(),
-            Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelLow),
-            Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelNormal),
-            Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelHigh),
-            Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelBest),
-            Quality::MallocCodecQualityPreset(1)};
+    static const HandleList<Quality> s_qualities{
+        Quality::MallocCodecQualityPreset(),
+        Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelLow),
+        Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelNormal),
+        Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelHigh),
+        Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelBest),
+        Quality::MallocCodecQualityPreset(1)};
+    return CloneValues(s_qualities);
 }
 
 HandleList<IVXResolutionPreset> IVXCodecPreset::DefaultResolutions(int codecID)
@@ -144,11 +148,11 @@ HandleList<IVXSampleFmtPreset> IVXCodecPreset::DefaultSampleFmt(int codecID)
     if (!codecs)
         return {};
     const bool isAudio = codecs->GetCodecType() == VXCodecTypeAudio;
-    HandleList<IVXSampleFmtPreset> list;
-    for (const int format : codecs->SupportedFormats({}))
-        list.push_back(IVXSampleFmtPreset::MallocSampleFmtPreset(format, isAudio));
+    auto formats = codecs->SupportedFormats({});
     // The pixel formats' none stands for Auto in audio lists too, deliberately.
-    return BehindAuto(std::move(list), IVXSampleFmtPreset::MallocSampleFmtPreset(VXPixFormat_None, isAudio));
+    if (formats.size() >= 2)
+        formats.insert(formats.begin(), VXPixFormat_None);
+    return SampleFmtValues(formats, isAudio);
 }
 
 HandleList<IVXProfilePreset> IVXCodecPreset::DefaultProfiles(int codecID)

@@ -35,13 +35,10 @@ constexpr ListKeys kProfiles{"indexForProfilesPresets", "profilesPresets"};
 constexpr ListKeys kLevels{"indexForLevelPresets", "levelPresets"};
 
 template <typename Preset>
-VXPresetList<Preset> Read(const IVXJsonValue& json, const ListKeys& keys,
-                          std::shared_ptr<Preset> (*factory)(const std::shared_ptr<const IVXJsonValue>&))
+void Read(const IVXJsonValue& json, const ListKeys& keys, VXPresetList<Preset>& list)
 {
-    VXPresetList<Preset> list;
     list.StoreIndex(json.GetValueInt(keys.index));
-    list.Reset(ReadEach(*json.GetValueArray(keys.entries), factory));
-    return list;
+    list.Reset(ReadValues<Preset>(*json.GetValueArray(keys.entries)));
 }
 
 template <typename Preset>
@@ -101,12 +98,12 @@ VXCodecPreset::VXCodecPreset(const VXCodecPreset& other)
 
 void VXCodecPreset::LoadLists(const IVXJsonValue& json)
 {
-    m_resolutions = Read(json, kResolutions, &IVXResolutionPreset::MallocResolutionPreset);
-    m_framerates = Read(json, kFramerates, &IVXFrameratePreset::MallocFrameratePreset);
-    m_samplerates = Read(json, kSamplerates, &IVXSampleratePreset::MallocSampleratePreset);
-    m_channelLayouts = Read(json, kChannelLayouts, &IVXChannelLayoutPreset::MallocChannelLayoutPreset);
-    m_profiles = Read(json, kProfiles, &IVXProfilePreset::MallocProfilePreset);
-    m_levels = Read(json, kLevels, &IVXLevelPreset::MallocLevelPreset);
+    Read(json, kResolutions, m_resolutions);
+    Read(json, kFramerates, m_framerates);
+    Read(json, kSamplerates, m_samplerates);
+    Read(json, kChannelLayouts, m_channelLayouts);
+    Read(json, kProfiles, m_profiles);
+    Read(json, kLevels, m_levels);
 }
 
 // Every level list can say "not told"; a current index keeps naming the same level.

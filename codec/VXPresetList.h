@@ -1,6 +1,6 @@
 #pragma once
 
-#include "presets/VXHandleList.h"
+#include "presets/VXValueList.h"
 
 #include <utility>
 
@@ -46,7 +46,7 @@ public:
     /// A list of the same index that shares no entry with this one.
     VXPresetList Clone() const
     {
-        VXPresetList copy(CloneEach(m_entries));
+        VXPresetList copy(CloneValues(m_entries));
         copy.m_index = m_index;
         return copy;
     }

@@ -1,5 +1,7 @@
 #include "IVXChannelLayoutPreset.h"
 
+#include "presets/VXValueList.h"
+
 #include "IVXJsonValue.h"
 #include "VXMediaCodecs.h"
 
@@ -14,17 +16,23 @@ constexpr std::string_view kChLayout = "chLayout";
 class VXChannelLayoutPreset final : public IVXChannelLayoutPreset
 {
 public:
+    VXChannelLayoutPreset() = default;
     explicit VXChannelLayoutPreset(std::uint64_t layout) : m_chLayout(layout) {}
+    explicit VXChannelLayoutPreset(const IVXJsonValue& json)
+        : m_chLayout(static_cast<std::uint64_t>(json.GetValueInt64(kChLayout)))
+    {
+    }
 
     std::uint64_t Layout() const override { return m_chLayout; }
     std::shared_ptr<IVXChannelLayoutPreset> Clone() const override
     {
-        return MallocChannelLayoutPreset(m_chLayout);
+        return std::make_shared<VXChannelLayoutPreset>(Copy());
     }
+    VXChannelLayoutPreset Copy() const { return *this; }
     std::shared_ptr<IVXJsonValue> JsonValue() const override;
 
 private:
-    std::uint64_t m_chLayout;
+    std::uint64_t m_chLayout = 0;
 };
 
 std::shared_ptr<IVXJsonValue> VXChannelLayoutPreset::JsonValue() const
@@ -57,7 +65,19 @@ IVXChannelLayoutPreset::MallocChannelLayoutPreset(std::uint64_t layout)
 std::shared_ptr<IVXChannelLayoutPreset>
 IVXChannelLayoutPreset::MallocChannelLayoutPreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    return MallocChannelLayoutPreset(static_cast<std::uint64_t>(json->GetValueInt64(kChLayout)));
+    return std::make_shared<VXChannelLayoutPreset>(*json);
+}
+
+template <>
+HandleList<IVXChannelLayoutPreset> ReadValues(const IVXJsonValue& array)
+{
+    return ReadBlock<IVXChannelLayoutPreset, VXChannelLayoutPreset>(array);
+}
+
+template <>
+HandleList<IVXChannelLayoutPreset> CloneValues(const HandleList<IVXChannelLayoutPreset>& list)
+{
+    return CloneBlock<IVXChannelLayoutPreset, VXChannelLayoutPreset>(list);
 }
 
 } // namespace Vexlor

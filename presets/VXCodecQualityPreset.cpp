@@ -1,5 +1,7 @@
 #include "IVXCodecQualityPreset.h"
 
+#include "presets/VXValueList.h"
+
 #include "IVXJsonValue.h"
 
 #include <algorithm>
@@ -30,6 +32,7 @@ struct Quality
 class VXCodecQualityPreset final : public IVXCodecQualityPreset
 {
 public:
+    VXCodecQualityPreset() = default;
     explicit VXCodecQualityPreset(const Quality& quality) : m_quality(quality) {}
 
     IVXCodecs::QualityLevel QualityLevel() const override
@@ -52,8 +55,9 @@ public:
     void SetBitrateRange(std::pair<int, int> range) override { m_quality.minBitrate = range.second; }
     std::shared_ptr<IVXCodecQualityPreset> Clone() const override
     {
-        return std::make_shared<VXCodecQualityPreset>(m_quality);
+        return std::make_shared<VXCodecQualityPreset>(Copy());
     }
+    VXCodecQualityPreset Copy() const { return *this; }
     std::shared_ptr<IVXJsonValue> JsonValue() const override;
 
 private:
@@ -106,6 +110,12 @@ IVXCodecQualityPreset::MallocCodecQualityPreset(const std::shared_ptr<const IVXJ
     quality.mode = json->GetValueInt(kMode);
     quality.minBitrate = json->GetValueInt(kMinBitrate);
     return std::make_shared<VXCodecQualityPreset>(quality);
+}
+
+template <>
+HandleList<IVXCodecQualityPreset> CloneValues(const HandleList<IVXCodecQualityPreset>& list)
+{
+    return CloneBlock<IVXCodecQualityPreset, VXCodecQualityPreset>(list);
 }
 
 } // namespace Vexlor

@@ -1,5 +1,7 @@
 #include "IVXFrameratePreset.h"
 
+#include "presets/VXValueList.h"
+
 #include "IVXJsonValue.h"
 #include "IVXRational.h"
 
@@ -17,13 +19,21 @@ constexpr std::string_view kDen = "den";
 class VXFrameratePreset final : public IVXFrameratePreset
 {
 public:
+    VXFrameratePreset() = default;
     explicit VXFrameratePreset(std::shared_ptr<IVXRational> rate) : m_rate(std::move(rate)) {}
+    explicit VXFrameratePreset(const IVXJsonValue& json)
+    {
+        const int num = json.GetValueInt(kNum);
+        const int den = json.GetValueInt(kDen);
+        m_rate = IVXRational::MallocRational(num, den);
+    }
 
     std::shared_ptr<IVXRational> Framerate() const override { return m_rate; }
     std::shared_ptr<IVXFrameratePreset> Clone() const override
     {
-        return MallocFrameratePreset(m_rate->Clone());
+        return std::make_shared<VXFrameratePreset>(Copy());
     }
+    VXFrameratePreset Copy() const { return VXFrameratePreset(m_rate->Clone()); }
     std::shared_ptr<IVXJsonValue> JsonValue() const override;
 
 private:
@@ -70,9 +80,19 @@ std::shared_ptr<IVXFrameratePreset> IVXFrameratePreset::MallocFrameratePreset(in
 std::shared_ptr<IVXFrameratePreset>
 IVXFrameratePreset::MallocFrameratePreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    const int num = json->GetValueInt(kNum);
-    const int den = json->GetValueInt(kDen);
-    return MallocFrameratePreset(num, den);
+    return std::make_shared<VXFrameratePreset>(*json);
+}
+
+template <>
+HandleList<IVXFrameratePreset> ReadValues(const IVXJsonValue& array)
+{
+    return ReadBlock<IVXFrameratePreset, VXFrameratePreset>(array);
+}
+
+template <>
+HandleList<IVXFrameratePreset> CloneValues(const HandleList<IVXFrameratePreset>& list)
+{
+    return CloneBlock<IVXFrameratePreset, VXFrameratePreset>(list);
 }
 
 } // namespace Vexlor

@@ -1,6 +1,8 @@
 #include "IVXLevelPreset.h"
 
 #include "IVXCodecs.h"
+#include "presets/VXValueList.h"
+
 #include "IVXJsonValue.h"
 
 #include <utility>
@@ -17,15 +19,21 @@ constexpr std::string_view kName = "name";
 class VXLevelPreset final : public IVXLevelPreset
 {
 public:
+    VXLevelPreset() = default;
     VXLevelPreset(int level, std::string name) : m_level(level), m_name(std::move(name)) {}
+    explicit VXLevelPreset(const IVXJsonValue& json)
+        : m_level(json.GetValueInt(kLevel)), m_name(json.GetValueString(kName))
+    {
+    }
 
     int Level() const override { return m_level; }
     std::string Name() const override { return m_name; }
-    std::shared_ptr<IVXLevelPreset> Clone() const override { return MallocLevelPreset(m_level, m_name); }
+    std::shared_ptr<IVXLevelPreset> Clone() const override { return std::make_shared<VXLevelPreset>(Copy()); }
+    VXLevelPreset Copy() const { return *this; }
     std::shared_ptr<IVXJsonValue> JsonValue() const override;
 
 private:
-    int m_level;
+    int m_level = 0;
     std::string m_name;
 };
 
@@ -52,8 +60,19 @@ std::shared_ptr<IVXLevelPreset> IVXLevelPreset::MallocLevelPreset(int level, con
 std::shared_ptr<IVXLevelPreset>
 IVXLevelPreset::MallocLevelPreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    const int level = json->GetValueInt(kLevel);
-    return MallocLevelPreset(level, json->GetValueString(kName));
+    return std::make_shared<VXLevelPreset>(*json);
+}
+
+template <>
+HandleList<IVXLevelPreset> ReadValues(const IVXJsonValue& array)
+{
+    return ReadBlock<IVXLevelPreset, VXLevelPreset>(array);
+}
+
+template <>
+HandleList<IVXLevelPreset> CloneValues(const HandleList<IVXLevelPreset>& list)
+{
+    return CloneBlock<IVXLevelPreset, VXLevelPreset>(list);
 }
 
 } // namespace Vexlor

@@ -1,5 +1,7 @@
 #include "IVXProfilePreset.h"
 
+#include "presets/VXValueList.h"
+
 #include "IVXJsonValue.h"
 
 #include <utility>
@@ -16,18 +18,24 @@ constexpr std::string_view kName = "name";
 class VXProfilePreset final : public IVXProfilePreset
 {
 public:
+    VXProfilePreset() = default;
     VXProfilePreset(int profile, std::string name) : m_profile(profile), m_name(std::move(name)) {}
+    explicit VXProfilePreset(const IVXJsonValue& json)
+        : m_profile(json.GetValueInt(kProfile)), m_name(json.GetValueString(kName))
+    {
+    }
 
     int Profile() const override { return m_profile; }
     std::string Name() const override { return m_name; }
     std::shared_ptr<IVXProfilePreset> Clone() const override
     {
-        return MallocProfilePreset(m_profile, m_name);
+        return std::make_shared<VXProfilePreset>(Copy());
     }
+    VXProfilePreset Copy() const { return *this; }
     std::shared_ptr<IVXJsonValue> JsonValue() const override;
 
 private:
-    int m_profile;
+    int m_profile = 0;
     std::string m_name;
 };
 
@@ -54,8 +62,19 @@ std::shared_ptr<IVXProfilePreset> IVXProfilePreset::MallocProfilePreset(int prof
 std::shared_ptr<IVXProfilePreset>
 IVXProfilePreset::MallocProfilePreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    const int profile = json->GetValueInt(kProfile);
-    return MallocProfilePreset(profile, json->GetValueString(kName));
+    return std::make_shared<VXProfilePreset>(*json);
+}
+
+template <>
+HandleList<IVXProfilePreset> ReadValues(const IVXJsonValue& array)
+{
+    return ReadBlock<IVXProfilePreset, VXProfilePreset>(array);
+}
+
+template <>
+HandleList<IVXProfilePreset> CloneValues(const HandleList<IVXProfilePreset>& list)
+{
+    return CloneBlock<IVXProfilePreset, VXProfilePreset>(list);
 }
 
 } // namespace Vexlor

@@ -1,5 +1,7 @@
 #include "IVXResolutionPreset.h"
 
+#include "presets/VXValueList.h"
+
 #include "IVXJsonValue.h"
 #include "VXMediaCodecs.h"
 
@@ -15,19 +17,25 @@ constexpr std::string_view kHeight = "height";
 class VXResolutionPreset final : public IVXResolutionPreset
 {
 public:
+    VXResolutionPreset() = default;
     VXResolutionPreset(int width, int height) : m_width(width), m_height(height) {}
+    explicit VXResolutionPreset(const IVXJsonValue& json)
+        : m_width(json.GetValueInt(kWidth)), m_height(json.GetValueInt(kHeight))
+    {
+    }
 
     int Width() const override { return m_width; }
     int Height() const override { return m_height; }
     std::shared_ptr<IVXResolutionPreset> Clone() const override
     {
-        return MallocResolutionPreset(m_width, m_height);
+        return std::make_shared<VXResolutionPreset>(Copy());
     }
+    VXResolutionPreset Copy() const { return *this; }
     std::shared_ptr<IVXJsonValue> JsonValue() const override;
 
 private:
-    int m_width;
-    int m_height;
+    int m_width = 0;
+    int m_height = 0;
 };
 
 std::shared_ptr<IVXJsonValue> VXResolutionPreset::JsonValue() const
@@ -61,9 +69,19 @@ std::shared_ptr<IVXResolutionPreset> IVXResolutionPreset::MallocResolutionPreset
 std::shared_ptr<IVXResolutionPreset>
 IVXResolutionPreset::MallocResolutionPreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    const int width = json->GetValueInt(kWidth);
-    const int height = json->GetValueInt(kHeight);
-    return MallocResolutionPreset(width, height);
+    return std::make_shared<VXResolutionPreset>(*json);
+}
+
+template <>
+HandleList<IVXResolutionPreset> ReadValues(const IVXJsonValue& array)
+{
+    return ReadBlock<IVXResolutionPreset, VXResolutionPreset>(array);
+}
+
+template <>
+HandleList<IVXResolutionPreset> CloneValues(const HandleList<IVXResolutionPreset>& list)
+{
+    return CloneBlock<IVXResolutionPreset, VXResolutionPreset>(list);
 }
 
 } // namespace Vexlor

@@ -1,5 +1,7 @@
 #include "IVXSampleFmtPreset.h"
 
+#include "presets/VXValueList.h"
+
 #include "IVXJsonValue.h"
 #include "VXMediaCodecs.h"
 
@@ -15,6 +17,7 @@ constexpr std::string_view kFormat = "format";
 class VXSampleFmtPreset final : public IVXSampleFmtPreset
 {
 public:
+    VXSampleFmtPreset() = default;
     VXSampleFmtPreset(int format, bool isAudio) : m_format(format), m_isAudio(isAudio) {}
 
     bool IsAutoValue() const override
@@ -26,13 +29,14 @@ public:
     std::string FormatSampleFmt() const override;
     std::shared_ptr<IVXSampleFmtPreset> Clone() const override
     {
-        return MallocSampleFmtPreset(m_format, m_isAudio);
+        return std::make_shared<VXSampleFmtPreset>(Copy());
     }
+    VXSampleFmtPreset Copy() const { return *this; }
     std::shared_ptr<IVXJsonValue> JsonValue() const override;
 
 private:
-    int m_format;
-    bool m_isAudio;
+    int m_format = VXPixFormat_None;
+    bool m_isAudio = false;
 };
 
 std::string VXSampleFmtPreset::FormatSampleFmt() const
@@ -70,6 +74,18 @@ IVXSampleFmtPreset::MallocSampleFmtPreset(const std::shared_ptr<const IVXJsonVal
     const bool isAudio = json->HasKey(kIsAudio) && json->GetValueBool(kIsAudio);
     const int format = json->HasKey(kFormat) ? json->GetValueInt(kFormat) : VXPixFormat_None;
     return MallocSampleFmtPreset(format, isAudio);
+}
+
+HandleList<IVXSampleFmtPreset> SampleFmtValues(const std::vector<int>& formats, bool isAudio)
+{
+    return MakeBlock<IVXSampleFmtPreset, VXSampleFmtPreset>(
+        formats.size(), [&](std::size_t i) { return VXSampleFmtPreset(formats[i], isAudio); });
+}
+
+template <>
+HandleList<IVXSampleFmtPreset> CloneValues(const HandleList<IVXSampleFmtPreset>& list)
+{
+    return CloneBlock<IVXSampleFmtPreset, VXSampleFmtPreset>(list);
 }
 
 } // namespace Vexlor

@@ -1,5 +1,7 @@
 #include "IVXSampleratePreset.h"
 
+#include "presets/VXValueList.h"
+
 #include "IVXJsonValue.h"
 #include "VXMediaCodecs.h"
 
@@ -14,17 +16,20 @@ constexpr std::string_view kSamplerate = "samplerate";
 class VXSampleratePreset final : public IVXSampleratePreset
 {
 public:
+    VXSampleratePreset() = default;
     explicit VXSampleratePreset(int samplerate) : m_samplerate(samplerate) {}
+    explicit VXSampleratePreset(const IVXJsonValue& json) : m_samplerate(json.GetValueInt(kSamplerate)) {}
 
     int Samplerate() const override { return m_samplerate; }
     std::shared_ptr<IVXSampleratePreset> Clone() const override
     {
-        return MallocSampleratePreset(m_samplerate);
+        return std::make_shared<VXSampleratePreset>(Copy());
     }
+    VXSampleratePreset Copy() const { return *this; }
     std::shared_ptr<IVXJsonValue> JsonValue() const override;
 
 private:
-    int m_samplerate;
+    int m_samplerate = 0;
 };
 
 std::shared_ptr<IVXJsonValue> VXSampleratePreset::JsonValue() const
@@ -56,7 +61,19 @@ std::shared_ptr<IVXSampleratePreset> IVXSampleratePreset::MallocSampleratePreset
 std::shared_ptr<IVXSampleratePreset>
 IVXSampleratePreset::MallocSampleratePreset(const std::shared_ptr<const IVXJsonValue>& json)
 {
-    return MallocSampleratePreset(json->GetValueInt(kSamplerate));
+    return std::make_shared<VXSampleratePreset>(*json);
+}
+
+template <>
+HandleList<IVXSampleratePreset> ReadValues(const IVXJsonValue& array)
+{
+    return ReadBlock<IVXSampleratePreset, VXSampleratePreset>(array);
+}
+
+template <>
+HandleList<IVXSampleratePreset> CloneValues(const HandleList<IVXSampleratePreset>& list)
+{
+    return CloneBlock<IVXSampleratePreset, VXSampleratePreset>(list);
 }
 
 } // namespace Vexlor

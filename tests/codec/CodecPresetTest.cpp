@@ -406,6 +406,34 @@ TYPED_TEST(CodecPresetClone, SharesNoEntryWithItsSource)
     EXPECT_EQ(source.end(), std::find_first_of(source.begin(), source.end(), copied.begin(), copied.end()));
 }
 
+/// A host's own kind of resolution, whose clones show that it was asked for them.
+class HostResolution final : public IVXResolutionPreset
+{
+public:
+    int Width() const override { return 10; }
+    int Height() const override { return 20; }
+    std::shared_ptr<IVXResolutionPreset> Clone() const override { return MallocResolutionPreset(30, 40); }
+    std::shared_ptr<IVXJsonValue> JsonValue() const override { return IVXJsonValue::JsonValueNull(); }
+};
+
+TEST_F(CodecPreset, ACloneAsksTheHostsValuesForTheirs)
+{
+    const auto preset = IVXCodecPreset::MallocCodecPreset(kCodec);
+    preset->InsertResolutionPresets({std::make_shared<HostResolution>()}, 0);
+    const auto clone = preset->Clone();
+    EXPECT_EQ(30, clone->ResolutionPresetAt(0)->Width());
+    EXPECT_EQ(preset->ResolutionPresetAt(1)->Width(), clone->ResolutionPresetAt(1)->Width());
+}
+
+TEST_F(CodecPreset, AnEntryOutlivesItsList)
+{
+    auto preset = Read(R"({"resolutionPresets": [{"width": 1, "height": 2}, {"width": 3, "height": 4}]})");
+    const auto entry = preset->ResolutionPresetAt(1);
+    preset->RemoveResolutionPreset(0);
+    preset.reset();
+    EXPECT_EQ(3, entry->Width());
+}
+
 TEST_F(CodecPreset, ACloneHasItsOwnRationals)
 {
     const auto preset = IVXCodecPreset::MallocCodecPreset(kCodec);
