@@ -12,6 +12,25 @@ namespace
 
 std::shared_ptr<IVXJsonValue> Null() { return IVXJsonValue::JsonValueNull(); }
 
+std::shared_ptr<IVXJsonValue> WithText(const std::string& text)
+{
+    auto value = Null();
+    value->SetValueString("text", text);
+    return value;
+}
+
+// A list whose value is put into others: nobody can change it any more, but who holds an element.
+std::shared_ptr<IVXJsonValue> Nested(const std::vector<std::shared_ptr<IVXJsonValue>>& list)
+{
+    const auto inner = Null();
+    inner->SetValueArray("list", list);
+    const auto outer = Null();
+    outer->SetValueArray("inners", {inner});
+    auto outermost = Null();
+    outermost->SetValueArray("outers", {outer});
+    return outermost;
+}
+
 } // namespace
 
 TEST(JsonBuilt, AFreshValueIsNull)
@@ -105,6 +124,51 @@ TEST(JsonBuilt, TakesPartsOfADocument)
     value->SetValueObject("part", std::const_pointer_cast<IVXJsonValue>(ParseJson(R"({"a": [1.5, "x"]})")));
     EXPECT_EQ(R"({"part":{"a":[1.5,"x"]}})", JsonText(*value));
     EXPECT_EQ(2, (*value)["part"]->GetValueArray("a")->Size());
+}
+
+TEST(JsonBuilt, AFinishedListReadsAsBefore)
+{
+    const auto value = Nested({WithText("a"), WithText("b")});
+    const auto outer = value->GetValueArray("outers")->At(0);
+    const auto list = outer->GetValueArray("inners")->At(0)->GetValueArray("list");
+    EXPECT_EQ(2, list->Size());
+    EXPECT_EQ("b", list->At(1)->GetValueString("text"));
+    EXPECT_EQ(R"({"inners":[{"list":[{"text":"a"},{"text":"b"}]}]})", JsonText(*outer));
+}
+
+TEST(JsonBuilt, AFinishedListIsIndentedAsAnyOther)
+{
+    EXPECT_EQ(
+        "{\n  \"outers\": [\n    {\n      \"inners\": [\n        {\n          \"list\": [\n"
+        "            {\n              \"text\": \"{[,:\"\n            }\n          ]\n        }\n      ]\n"
+        "    }\n  ]\n}",
+        JsonText(*Nested({WithText("{[,:")}), JsonStyle::Indented));
+}
+
+TEST(JsonBuilt, QuotesInAListAreNoEndOfAText)
+{
+    const auto value = Nested({WithText("a\"{\\")});
+    EXPECT_EQ(R"({"outers":[{"inners":[{"list":[{"text":"a\"{\\"}]}]}]})", JsonText(*value));
+    const auto indented = ParseJson(JsonText(*value, JsonStyle::Indented));
+    EXPECT_EQ(JsonText(*value), JsonText(*indented));
+}
+
+TEST(JsonBuilt, AnElementThatIsHeldCanStillBeChanged)
+{
+    const auto element = WithText("before");
+    const auto value = Nested({element});
+    element->SetValueString("text", "after");
+    EXPECT_EQ(R"({"outers":[{"inners":[{"list":[{"text":"after"}]}]}]})", JsonText(*value));
+}
+
+TEST(JsonBuilt, AMemberOfAFinishedListCanBeReplaced)
+{
+    const auto inner = Null();
+    inner->SetValueArray("list", {WithText("a")});
+    const auto outer = Null();
+    outer->SetValueArray("inners", {inner});
+    inner->SetValueInt("list", 1);
+    EXPECT_EQ(R"({"inners":[{"list":1}]})", JsonText(*outer));
 }
 
 } // namespace Vexlor
