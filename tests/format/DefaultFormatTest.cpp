@@ -41,7 +41,7 @@ TEST_F(FormatMatching, OfADefaultTakesASecondEntryOfNoCodecAsItIs)
 
 TEST_F(FormatMatching, OfADefaultLeavesOutStreamsWithoutACurrentCodec)
 {
-    const auto output = Preset("V", -1, "", 0)->DefaultFormatParameter();
+    const auto output = Preset("VW", -1, "AB", -1)->DefaultFormatParameter();
     ASSERT_NE(nullptr, output);
     EXPECT_EQ(nullptr, output->GetVideoCodecParameter());
     EXPECT_EQ(nullptr, output->GetAudioCodecParameter());
