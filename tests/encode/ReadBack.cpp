@@ -8,6 +8,7 @@
 #include "runtime/mediacodecs/CodecTable.h"
 #include "runtime/mediacodecs/PixelFormats.h"
 #include "runtime/mediacodecs/VXMediaFile.h"
+#include "tests/foundation/TestFolder.h"
 
 #include <array>
 #include <cmath>
@@ -68,11 +69,35 @@ void CompareSounds(Comparison& comparison, const IVXCodecParameter& asked, const
                        VXChannelLayoutName(read.GetChannelLayout()));
 }
 
+int Number24(const std::string& bytes, std::size_t at)
+{
+    const auto byte = [&](std::size_t offset) { return static_cast<unsigned char>(bytes[at + offset]); };
+    return byte(0) | byte(1) << 8 | byte(2) << 16;
+}
+
+// libavformat writes animated WebP but does not read it, so the header is read here: its flag of animation
+// and the size of the canvas (RFC 9649 2.7).
+std::vector<Difference> ReadWebP(const std::string& path, const IVXCodecParameter& asked)
+{
+    constexpr std::size_t kHeaderSize = 30;
+    constexpr int kAnimation = 2;
+    const auto bytes = ContentOf(path);
+    if (bytes.size() < kHeaderSize || bytes.substr(8, 8) != "WEBPVP8X" || (bytes[20] & kAnimation) == 0)
+        return {{"file", "is no animated WebP"}};
+    Comparison comparison;
+    comparison.Compare("size", SizeOf(asked),
+                       std::to_string(Number24(bytes, 24) + 1) + 'x' +
+                           std::to_string(Number24(bytes, 27) + 1));
+    return comparison.Taken();
+}
+
 } // namespace
 
 std::vector<Difference> ReadBack(const std::string& path, const std::string& container,
                                  const IVXCodecParameter& asked)
 {
+    if (asked.GetCodecID() == VXCodecID_WebP)
+        return ReadWebP(path, asked);
     const auto file = ReadMediaFile(path);
     if (!file.error.empty())
         return {{"file", "cannot be read: " + file.error.substr(path.size() + 2)}};
