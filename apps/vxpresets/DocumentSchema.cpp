@@ -25,6 +25,13 @@ constexpr std::string_view kReference = "#/definitions/";
 
 std::string_view TextOf(const Json& json) { return {json.GetString(), json.GetStringLength()}; }
 
+rapidjson::Document Parsed(std::string_view text)
+{
+    rapidjson::Document document;
+    document.Parse(text.data(), text.size());
+    return document;
+}
+
 /// A schema that is nothing but one definition of the document's.
 std::unique_ptr<valijson::Schema> SchemaOf(const rapidjson::Document& all, const std::string& definition)
 {
@@ -75,6 +82,21 @@ std::string DefinitionOf(const Json& reference)
     return std::string(TextOf(reference["$ref"]).substr(kReference.size()));
 }
 
+using Objects = std::map<std::string, SchemaObject*, std::less<>>;
+
+void AddMembers(SchemaObject& object, const Json& definition, const Objects& objects)
+{
+    for (const auto& [name, value] : definition["properties"].GetObject())
+    {
+        SchemaMember member{std::string(TextOf(name)), ExpectedText(value)};
+        member.isList = value.HasMember("items");
+        if (member.isList || value.HasMember("$ref"))
+            member.object = objects.at(DefinitionOf(member.isList ? value["items"] : value));
+        object.names.push_back(member.name);
+        object.members.push_back(std::move(member));
+    }
+}
+
 /// What stands in the way of its parents too is told with the value that is at fault, and only there.
 bool IsCause(const valijson::ValidationResults::Error& error)
 {
@@ -97,9 +119,8 @@ std::string MemberOf(const valijson::ValidationResults::Error& error)
 
 DocumentSchema::DocumentSchema()
 {
-    rapidjson::Document document;
-    document.Parse(DocumentSchemaText().data(), DocumentSchemaText().size());
-    std::map<std::string, SchemaObject*, std::less<>> objects;
+    const auto document = Parsed(DocumentSchemaText());
+    Objects objects;
     for (const auto& definition : document["definitions"].GetObject())
     {
         const std::string name(TextOf(definition.name));
@@ -107,18 +128,7 @@ DocumentSchema::DocumentSchema()
         objects[name]->schema = SchemaOf(document, name);
     }
     for (const auto& definition : document["definitions"].GetObject())
-    {
-        auto& object = *objects.find(TextOf(definition.name))->second;
-        for (const auto& [name, value] : definition.value["properties"].GetObject())
-        {
-            SchemaMember member{std::string(TextOf(name)), ExpectedText(value)};
-            member.isList = value.HasMember("items");
-            if (member.isList || value.HasMember("$ref"))
-                member.object = objects.at(DefinitionOf(member.isList ? value["items"] : value));
-            object.names.push_back(member.name);
-            object.members.push_back(std::move(member));
-        }
-    }
+        AddMembers(*objects.find(TextOf(definition.name))->second, definition.value, objects);
     m_root = objects.at(DefinitionOf(document["allOf"][0]));
 }
 
