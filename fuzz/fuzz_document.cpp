@@ -30,9 +30,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const auto root = IVXFormatNode::MallocFormatNode(json);
     const auto written = TextOf(*root);
     Require(TextOf(*root->Clone(IVXFormatNode::CloneAll)) == written);
-    const auto reread = ParseJson(written);
-    // Completing a document never adds a level.
-    Require(reread != nullptr);
+    const auto reread = ParseJson(written, &error);
+    if (!reread)
+    {
+        // What a document leaves out, such as a codec's levels, may lie deeper than it goes itself.
+        Require(error.find("nested deeper") != std::string::npos);
+        return 0;
+    }
     Require(TextOf(*IVXFormatNode::MallocFormatNode(reread)) == written);
     return 0;
 }

@@ -84,6 +84,7 @@ DOCUMENTS = {
     "repeated_member": b'{"name":"a","name":"b","childList":[],"childList":[{}]}',
     "escapes": '{"name":"\\ud83c\\udfac\\u0000\\n\u00e9"}'.encode(),
     "deep": b'{"childList":[' * 40 + b"{}" + b"]}" * 40,
+    "as_deep_as_can_be": b'{"childList":[' * 509 + b'{"formatPresetList":[{"videoCodecPresets":[{}]}]}' + b"]}" * 509,
     "cut": document(FULL)[:-200],
 }
 
