@@ -88,7 +88,7 @@ constexpr auto kVorbisRates = kRates<48000, 44100, 32000, 24000, 22050, 16000, 1
 constexpr auto kLosslessRates =
     kRates<48000, 44100, 32000, 24000, 22050, 16000, 11025, 8000, 88200, 96000, 176400, 192000>;
 
-constexpr auto kDTSRates = kRates<48000, 44100, 32000, 24000, 22050, 16000, 12000, 11025, 8000>;
+constexpr auto kDTSRates = kRates<48000, 44100, 32000, 24000, 22050, 16000>;
 constexpr auto kSBRRates = kRates<48000, 44100, 32000, 24000, 22050, 16000>;
 constexpr auto kWMARates = kRates<48000, 44100, 32000, 22050, 16000, 11025, 8000>;
 // G.711 codes 8 kHz; the others are those that WAV files of it have.

@@ -3,6 +3,7 @@
 #include "BitrateModel.h"
 #include "FormatTable.h"
 #include "IVXCodecParameter.h"
+#include "IVXCodecs.h"
 #include "IVXRational.h"
 #include "Snapping.h"
 
@@ -14,8 +15,23 @@ namespace Vexlor
 namespace
 {
 
-void FitPicture(IVXCodecParameter& stream, const StreamLimit& limit)
+/// The label itself where it is taken or none is chosen, else the first one that is taken.
+int FitLabel(int label, int unknown, std::span<const int> taken)
 {
+    const bool fits = label == unknown || taken.empty() || std::ranges::find(taken, label) != taken.end();
+    return fits ? label : taken.front();
+}
+
+void FitLabels(IVXCodecParameter& stream, const StreamLimit& limit)
+{
+    stream.SetProfile(FitLabel(stream.GetProfile(), IVXCodecs::VXProfileUnknown, limit.profiles));
+    stream.SetLevel(FitLabel(stream.GetLevel(), IVXCodecs::VXLevelUnknown, limit.levels));
+}
+
+void FitFrameRate(IVXCodecParameter& stream, const StreamLimit& limit)
+{
+    if (limit.frameRates.empty())
+        return;
     const auto rate = stream.GetFrameRate();
     const VideoLimits rates{.min = {}, .max = {}, .rates = limit.frameRates};
     const auto fitting = SnapFrameRate({rate->Num(), rate->Den()}, rates);
@@ -60,10 +76,9 @@ void FitIntoContainer(IVXCodecParameter& stream, std::string_view formatName)
     {
         if (std::ranges::find(limit.codecs, stream.GetCodecID()) == limit.codecs.end())
             continue;
-        if (!limit.frameRates.empty())
-            FitPicture(stream, limit);
-        else
-            FitSound(stream, limit);
+        FitLabels(stream, limit);
+        FitFrameRate(stream, limit);
+        FitSound(stream, limit);
     }
 }
 

@@ -94,7 +94,11 @@ constexpr std::array kMP3InFLV{
 constexpr std::array kTelevisionRates{AVRational{60, 1}, AVRational{60000, 1001}, AVRational{50, 1},
                                       AVRational{30, 1}, AVRational{30000, 1001}, AVRational{25, 1},
                                       AVRational{24, 1}, AVRational{24000, 1001}};
+// Of MPEG-2 it has labels for Main and 4:2:2 alone, and none for Low level.
+constexpr std::array kMPEG2ProfilesInMXF{4, 128};
+constexpr std::array kMPEG2LevelsInMXF{8, 6, 4};
 constexpr std::array kMXFLimits{
+    StreamLimit{.codecs = kCodecs<kMPEG2>, .profiles = kMPEG2ProfilesInMXF, .levels = kMPEG2LevelsInMXF},
     StreamLimit{.codecs = kCodecs<kProRes, kDNxHR, kH264>, .frameRates = kTelevisionRates},
     StreamLimit{.codecs = kCodecs<kPCM16, kPCM24>, .sampleRates = kRates<48000>}};
 

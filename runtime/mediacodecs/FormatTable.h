@@ -23,6 +23,8 @@ struct StreamLimit
     std::span<const int> sampleRates = {};
     std::span<const std::uint64_t> layouts = {};
     std::span<const AVRational> frameRates = {};
+    std::span<const int> profiles = {}; ///< the first stands in for one that is not taken
+    std::span<const int> levels = {};   ///< as above
 };
 
 /// One container that has a name of ours.

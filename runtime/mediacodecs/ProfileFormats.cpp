@@ -77,17 +77,6 @@ constexpr std::array kRows{
     ProfileFormatRow{VXCodecID_DNxHR, 3, Chroma::Is422, Chroma::Is422, 8, 8},
     ProfileFormatRow{VXCodecID_DNxHR, 4, Chroma::Is422, Chroma::Is422, 10, 10},
     ProfileFormatRow{VXCodecID_DNxHR, 5, Chroma::Is444, Chroma::Is444, 10, 10},
-    ProfileFormatRow{VXCodecID_ProRes, 0, Chroma::Is422, Chroma::Is422, 10, 10},
-    ProfileFormatRow{VXCodecID_ProRes, 1, Chroma::Is422, Chroma::Is422, 10, 10},
-    ProfileFormatRow{VXCodecID_ProRes, 2, Chroma::Is422, Chroma::Is422, 10, 10},
-    ProfileFormatRow{VXCodecID_ProRes, 3, Chroma::Is422, Chroma::Is422, 10, 10},
-    ProfileFormatRow{VXCodecID_ProRes, 4, Chroma::Is444, Chroma::Is444, 10, 10},
-    ProfileFormatRow{VXCodecID_ProRes, 5, Chroma::Is444, Chroma::Is444, 10, 10},
-    ProfileFormatRow{VXCodecID_DNxHR, 1, Chroma::Is422, Chroma::Is422, 8, 8},
-    ProfileFormatRow{VXCodecID_DNxHR, 2, Chroma::Is422, Chroma::Is422, 8, 8},
-    ProfileFormatRow{VXCodecID_DNxHR, 3, Chroma::Is422, Chroma::Is422, 8, 8},
-    ProfileFormatRow{VXCodecID_DNxHR, 4, Chroma::Is422, Chroma::Is422, 10, 10},
-    ProfileFormatRow{VXCodecID_DNxHR, 5, Chroma::Is444, Chroma::Is444, 10, 10},
 };
 
 Chroma ChromaOf(int format)

@@ -55,7 +55,9 @@ TEST(CodecCapabilities, PicturesOfEightBitsAndHalfChromaAreOfferedFirstWhereTheC
     {
         const auto& formats = CapabilitiesOf(id)->formats;
         if (std::ranges::find(formats, VXPixFormat_YUV420P) != formats.end())
+        {
             EXPECT_EQ(VXPixFormat_YUV420P, formats.front()) << id;
+        }
     }
 }
 

@@ -169,7 +169,9 @@ TEST_P(EveryAudioCodec, TakesAsManyChannelsAsItCanOfEveryNamedLayout)
         EXPECT_TRUE(Offers(best)) << wanted.name;
         for (const auto layout : Layouts())
             if (ChannelsOf(layout) <= ChannelsOf(wanted.mask))
+            {
                 EXPECT_LE(ChannelsOf(layout), ChannelsOf(best)) << wanted.name;
+            }
     }
 }
 

@@ -1,5 +1,6 @@
 #include "runtime/mediacodecs/FormatLimits.h"
 #include "IVXCodecParameter.h"
+#include "IVXCodecs.h"
 #include "IVXFormatParameter.h"
 #include "IVXRational.h"
 #include "VXMediaCodecs.h"
@@ -49,6 +50,24 @@ TEST(FormatLimits, WhatTheContainerTakesStays)
     EXPECT_EQ(8000, RateIn("FLV", VXCodecID_AAC, 8000)); // the limit is MP3's alone
     EXPECT_EQ(8000, RateIn("MP3", VXCodecID_MP3, 8000));
     EXPECT_EQ(8000, RateIn("no such container", VXCodecID_MP3, 8000));
+}
+
+TEST(FormatLimits, LabelsThatTheContainerCannotTellGiveWay)
+{
+    const auto picture = IVXCodecParameter::MallocCodecParamter(VXCodecID_MPEG2);
+    picture->SetProfile(5); // Simple
+    picture->SetLevel(10);  // Low
+    FitIntoContainer(*picture, "MXF");
+    EXPECT_EQ(4, picture->GetProfile());
+    EXPECT_EQ(8, picture->GetLevel());
+}
+
+TEST(FormatLimits, LabelsThatAreLeftOpenStayOpen)
+{
+    const auto picture = IVXCodecParameter::MallocCodecParamter(VXCodecID_MPEG2);
+    FitIntoContainer(*picture, "MXF");
+    EXPECT_EQ(IVXCodecs::VXProfileUnknown, picture->GetProfile());
+    EXPECT_EQ(IVXCodecs::VXLevelUnknown, picture->GetLevel());
 }
 
 TEST(FormatLimits, SoundInDVIsStereo)

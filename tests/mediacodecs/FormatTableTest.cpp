@@ -94,7 +94,9 @@ TEST(FormatTable, ACodecWithoutAnEncoderIsLeftOut)
 {
     for (const auto& codec : CodecTable())
         if (CapabilitiesOf(codec.id)->encoders.empty())
+        {
             EXPECT_THAT(WritableCodecs(*FindFormat("MKV"), std::array{codec.id}), IsEmpty()) << codec.name;
+        }
 }
 
 TEST(FormatTable, EveryCodecHasAContainer)
