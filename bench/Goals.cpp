@@ -52,10 +52,9 @@ constexpr std::array kGoals{
          "simdjson's parse of a preset of 8 KB"},
     Goal{"a source against 1,000 presets", "ms", 0, 10,
          [](const Results& results) { return results.Time("MatchCatalogue/1000") * kMilliseconds; }, "-"},
-    Goal{"a source against 10,000 presets", "of that, each", 0.75, 1.25,
-         [](const Results& results)
-         { return results.Ratio("MatchCatalogue/10000", "MatchCatalogue/1000") / 10; },
-         "a source against 1,000 presets"},
+    Goal{"the same against 10,000, for each 1,000", "ms", 0, 10,
+         [](const Results& results) { return results.Time("MatchCatalogue/10000") * kMilliseconds / 10; },
+         "-"},
     Goal{"artwork: open a file of 1,599 groups", "x", 0, 3.0,
          [](const Results& results) { return results.Ratio("OpenArtwork", "ReadArtworkHead"); },
          "reading its table as bytes"},

@@ -1,11 +1,11 @@
 #include "runtime/foundation/VXJson.h"
 #include "runtime/foundation/VXJsonEscape.h"
+#include "runtime/foundation/VXJsonHandles.h"
 #include "runtime/foundation/VXJsonMembers.h"
 
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <iterator>
 #include <limits>
 #include <typeinfo>
 #include <utility>
@@ -22,42 +22,20 @@ constexpr std::string_view kFalse = "false";
 // A child, of whatever kind: the child itself knows.
 constexpr JsonKind kChild = JsonKind::Absent;
 
-using Handle = std::shared_ptr<IVXJsonValue>; // an empty one stands for null
-using Handles = std::vector<Handle>;
-
-// Lets go of children without the destructors of deep values calling each other: the first of them on this
-// thread empties a list in a loop, those that it runs only add to that list.
-void LetGo(Handles children)
-{
-    thread_local Handles* waiting = nullptr;
-    if (waiting)
-    {
-        std::ranges::move(children, std::back_inserter(*waiting));
-        return;
-    }
-    waiting = &children;
-    while (!children.empty())
-    {
-        const Handle last = std::move(children.back());
-        children.pop_back();
-    }
-    waiting = nullptr;
-}
-
 template <class Class>
 bool IsA(const IVXJsonValue& value)
 {
     return typeid(value) == typeid(Class);
 }
 
-JsonItem ItemOf(const Handle& handle);
-void SettleArraysOf(const Handle& handle);
-std::shared_ptr<const IVXJsonValue> Readable(const Handle& handle);
+JsonItem ItemOf(const JsonHandle& handle);
+void SettleArraysOf(const JsonHandle& handle);
+std::shared_ptr<const IVXJsonValue> Readable(const JsonHandle& handle);
 
 // Appends a value as compact text: a settled array, or an object with no more than so many levels of objects.
 // False, and perhaps a part, when it is something else, when some of it is not at hand as text, and when
 // somebody else holds it, who may change it.
-bool WriteDown(const Handle& handle, std::string& text, int levels);
+bool WriteDown(const JsonHandle& handle, std::string& text, int levels);
 
 JsonItem ScalarItem(JsonKind kind, std::string_view value)
 {
@@ -94,10 +72,10 @@ private:
 class VXJsonArray final : public VXJsonReadOnly<VXJsonArray>
 {
 public:
-    explicit VXJsonArray(Handles elements) : m_elements(std::move(elements)) {}
+    explicit VXJsonArray(JsonHandles elements) : m_elements(std::move(elements)) {}
     VXJsonArray(const VXJsonArray&) = delete;
     VXJsonArray& operator=(const VXJsonArray&) = delete;
-    ~VXJsonArray() { LetGo(std::move(m_elements)); }
+    ~VXJsonArray() { LetGoOf(std::move(m_elements)); }
 
     JsonItem Self() const override
     {
@@ -142,7 +120,7 @@ public:
     const std::string& Text() const { return m_text; }
 
 private:
-    Handles m_elements;
+    JsonHandles m_elements;
     std::string m_text;
 };
 
@@ -156,7 +134,7 @@ public:
     ~VXJsonObject()
     {
         if (m_children)
-            LetGo(std::move(*m_children));
+            LetGoOf(std::move(*m_children));
     }
 
     JsonBits FindBits(std::string_view name) const
@@ -210,8 +188,8 @@ public:
     {
         Set(JsonKind::String, name, value);
     }
-    void SetValueObject(std::string_view name, const Handle& value) override;
-    void SetValueArray(std::string_view name, const Handles& values) override
+    void SetValueObject(std::string_view name, const JsonHandle& value) override;
+    void SetValueArray(std::string_view name, const JsonHandles& values) override
     {
         if (values.empty())
             return Set(JsonKind::Array, name, "[]");
@@ -221,7 +199,7 @@ public:
 
 private:
     // The value of a member that is a child is its place among the children.
-    Handle& Child(const JsonMember& member) const
+    JsonHandle& Child(const JsonMember& member) const
     {
         std::size_t place = 0;
         std::from_chars(member.value.data(), member.value.data() + member.value.size(), place);
@@ -242,7 +220,7 @@ private:
     void Set(JsonKind kind, std::string_view name, std::string_view value);
 
     VXJsonMembers m_members;
-    std::unique_ptr<Handles> m_children; // most objects have none
+    std::unique_ptr<JsonHandles> m_children; // most objects have none
 };
 
 void VXJsonObject::AppendReady(JsonCursor& cursor, std::string& text) const
@@ -272,11 +250,11 @@ void VXJsonObject::Set(JsonKind kind, std::string_view name, std::string_view va
     JsonMember before;
     if (!m_members.Find(name, before))
         return m_members.Add(kind, name, value);
-    const Handle replaced = before.kind == kChild ? std::exchange(Child(before), nullptr) : nullptr;
+    const JsonHandle replaced = before.kind == kChild ? std::exchange(Child(before), nullptr) : nullptr;
     m_members.Replace(before, kind, value);
 }
 
-void VXJsonObject::SetValueObject(std::string_view name, const Handle& value)
+void VXJsonObject::SetValueObject(std::string_view name, const JsonHandle& value)
 {
     JsonMember before;
     if (m_members.Find(name, before) && before.kind == kChild)
@@ -287,7 +265,7 @@ void VXJsonObject::SetValueObject(std::string_view name, const Handle& value)
     }
     SettleArraysOf(value);
     if (!m_children)
-        m_children = std::make_unique<Handles>();
+        m_children = std::make_unique<JsonHandles>();
     m_children->push_back(value);
     Set(kChild, name, std::to_string(m_children->size() - 1));
 }
@@ -320,7 +298,7 @@ void VXJsonObject::SettleArrays()
             static_cast<VXJsonArray&>(*child).Settle();
 }
 
-bool WriteDown(const Handle& handle, std::string& text, int levels)
+bool WriteDown(const JsonHandle& handle, std::string& text, int levels)
 {
     if (handle.use_count() != 1)
         return false;
@@ -334,13 +312,13 @@ bool WriteDown(const Handle& handle, std::string& text, int levels)
            static_cast<const VXJsonObject&>(*handle).WriteDown(text, levels - 1);
 }
 
-void SettleArraysOf(const Handle& handle)
+void SettleArraysOf(const JsonHandle& handle)
 {
     if (handle && IsA<VXJsonObject>(*handle))
         static_cast<VXJsonObject&>(*handle).SettleArrays();
 }
 
-std::shared_ptr<const IVXJsonValue> Readable(const Handle& handle)
+std::shared_ptr<const IVXJsonValue> Readable(const JsonHandle& handle)
 {
     if (!handle)
         return JsonNull();
@@ -350,7 +328,7 @@ std::shared_ptr<const IVXJsonValue> Readable(const Handle& handle)
     return handle;
 }
 
-JsonItem ItemOf(const Handle& handle)
+JsonItem ItemOf(const JsonHandle& handle)
 {
     if (!handle)
         return {.kind = JsonKind::Null, .bits = 0, .text = {}, .node = nullptr};
