@@ -52,6 +52,11 @@ TEST(ChannelLayoutPreset, TheHighestBitAloneIsNotAuto)
     EXPECT_EQ("layout 9223372036854775808", preset->FormatLayout());
 }
 
+TEST(ChannelLayoutPreset, TheLowestBitAloneIsNotAuto)
+{
+    EXPECT_FALSE(IVXChannelLayoutPreset::MallocChannelLayoutPreset(std::uint64_t{1})->IsAutoValue());
+}
+
 class ChannelLayoutPresetMask : public testing::TestWithParam<std::uint64_t>
 {
 };
