@@ -70,14 +70,13 @@ const std::string& CodecRules::InPlaceOfSamplerate(int samplerate)
 {
     const auto answer = [&]() -> std::string
     {
-        const auto rates = m_codecs->SupportedSampleRates({});
         if (!m_isAudio)
             return kNoSound;
         if (m_codecs->BestSampleRateForInput(samplerate, {}) == samplerate)
             return {};
-        std::vector<std::string> texts;
-        for (const int rate : rates)
-            texts.push_back(std::to_string(rate));
+        const auto rates = m_codecs->SupportedSampleRates({});
+        std::vector<std::string> texts(rates.size());
+        std::ranges::transform(rates, texts.begin(), [](int rate) { return std::to_string(rate); });
         return "one of " + Joined(texts, ", ");
     };
     return Kept(m_samplerates, static_cast<std::uint32_t>(samplerate), answer);

@@ -23,9 +23,9 @@ struct Closer
     void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
 };
 
-Failure FaultOf(const std::string& path)
+[[noreturn]] void Fail(const std::string& path)
 {
-    return Failure(path + ": " + std::generic_category().message(errno));
+    throw Failure(path + ": " + std::generic_category().message(errno));
 }
 
 // To the end, which is not where the size tells in a pipe.
@@ -41,7 +41,7 @@ std::string ReadToEnd(std::FILE* file, const std::string& path)
         count = std::fread(text.data() + size, 1, kStep, file);
     }
     if (std::ferror(file) != 0)
-        throw FaultOf(path);
+        Fail(path);
     text.resize(size);
     return text;
 }
@@ -53,7 +53,7 @@ std::string ReadDocumentText(const std::string& path)
     constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
     if (!file)
-        throw FaultOf(path);
+        Fail(path);
     auto text = ReadToEnd(file.get(), path);
     if (text.starts_with(kByteOrderMark))
         text.erase(0, kByteOrderMark.size());

@@ -9,8 +9,8 @@
 #include "IVXFormat.h"
 #include "VXMediaCodecs.h"
 
-#include <algorithm>
 #include <array>
+#include <map>
 #include <unordered_map>
 
 namespace Vexlor::Tool
@@ -22,20 +22,20 @@ namespace
 /// A container as format presets name it.
 struct Container
 {
-    bool isKnown = false;
     ContainerSide video;
     ContainerSide audio;
 };
 
-Container ContainerOf(const std::string& name)
+/// Every container that can be written here.
+std::map<std::string, Container> Containers()
 {
-    const auto writable = VXMediaCodecSupportOutputAllMediaFormats();
-    const auto format = IVXFormat::MallocFormat(name, {});
-    Container container{false, {name, format->VideoCodecIDs()}, {name, format->AudioCodecIDs()}};
-    container.isKnown = std::ranges::find(writable, name) != writable.end();
-    if (!container.isKnown)
-        container.video.container = container.audio.container = {};
-    return container;
+    std::map<std::string, Container> containers;
+    for (const auto& name : VXMediaCodecSupportOutputAllMediaFormats())
+    {
+        const auto format = IVXFormat::MallocFormat(name, {});
+        containers[name] = {{name, format->VideoCodecIDs()}, {name, format->AudioCodecIDs()}};
+    }
+    return containers;
 }
 
 /// Two members of which the one bounds from below what the other bounds from above.
@@ -75,7 +75,8 @@ private:
     const std::set<int>& m_faces;
     DocumentFindings& m_findings;
     DocumentCodecs m_codecs;
-    std::unordered_map<std::string, Container> m_containers;
+    const std::map<std::string, Container> m_containers = Containers();
+    const Container m_unknown;
     int m_presets = 0;
 };
 
@@ -114,9 +115,8 @@ const Container& MeaningCheck::CheckContainer(DocumentPosition preset)
     if (name == "MPEG1" || name == "MPEG2")
         name = VXFormatNameMPG;
     const auto known = m_containers.find(name);
-    const auto& container = known != m_containers.end()
-                                ? known->second
-                                : m_containers.emplace(name, ContainerOf(name)).first->second;
+    if (known != m_containers.end())
+        return known->second;
     const auto word = [&]
     {
         const auto names = VXMediaCodecSupportOutputAllMediaFormats();
@@ -125,9 +125,8 @@ const Container& MeaningCheck::CheckContainer(DocumentPosition preset)
             value ? "no container " + Quoted(name) + " can be written here" : "formatName is absent";
         return DocumentWording{what, nearest.empty() ? "one of " + Joined(names, ", ") : Quoted(nearest)};
     };
-    if (!container.isKnown)
-        m_findings.Error("container", value.value_or(preset), word);
-    return container;
+    m_findings.Error("container", value.value_or(preset), word);
+    return m_unknown;
 }
 
 void MeaningCheck::CheckSide(DocumentPosition preset, std::string_view index, std::string_view list,
