@@ -72,7 +72,7 @@ JsonMember MemberAt(const char* record)
 std::uint64_t SignOf(std::string_view name)
 {
     const auto letter = name.empty() ? '\0' : name.back();
-    return std::uint64_t{1} << ((name.size() + 7 * static_cast<unsigned char>(letter)) % 64);
+    return std::uint64_t{1} << ((name.size() + std::size_t{7} * static_cast<unsigned char>(letter)) % 64);
 }
 
 // Copies the text; says whether it needs no escapes.
@@ -122,9 +122,11 @@ void VXJsonMembers::Add(JsonKind kind, std::string_view name, std::string_view v
     char* const record = Room(size);
     char* const nameAt = record + kBeforeName;
     char* const valueAt = nameAt + name.size() + kBehindName;
-    std::memcpy(nameAt - 2, ",\"", 2);
+    nameAt[-2] = ',';
+    nameAt[-1] = '"';
     bool isReady = PutPlain(nameAt, name) && kind != JsonKind::Absent;
-    std::memcpy(valueAt - 2, "\":", 2);
+    valueAt[-2] = '"';
+    valueAt[-1] = ':';
     if (kind == JsonKind::String)
     {
         valueAt[0] = valueAt[valueSize - 1] = '"';

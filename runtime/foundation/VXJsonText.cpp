@@ -176,6 +176,15 @@ std::string_view StringAt(std::string_view compact)
     return compact.substr(0, end + 1);
 }
 
+// What stays on its line whatever is in it: a string, an empty container.
+std::string_view WholeAt(std::string_view compact)
+{
+    if (compact.front() == '"')
+        return StringAt(compact);
+    const bool isEmpty = compact.starts_with("{}") || compact.starts_with("[]");
+    return compact.substr(0, isEmpty ? 2 : 0);
+}
+
 void StartLine(std::string& out, std::size_t level)
 {
     constexpr std::size_t kBlanks = 2;
@@ -191,10 +200,8 @@ std::string Indented(std::string_view compact)
     for (std::size_t at = 0; at < compact.size(); ++at)
     {
         const char c = compact[at];
-        const bool isEmpty = compact.substr(at, 2) == "{}" || compact.substr(at, 2) == "[]";
-        if (c == '"' || isEmpty)
+        if (const auto whole = WholeAt(compact.substr(at)); !whole.empty())
         {
-            const auto whole = isEmpty ? compact.substr(at, 2) : StringAt(compact.substr(at));
             out.append(whole);
             at += whole.size() - 1;
             continue;
