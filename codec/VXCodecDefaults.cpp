@@ -84,14 +84,12 @@ HandleList<Preset> BehindAuto(HandleList<Preset> list, std::shared_ptr<Preset> a
 HandleList<IVXCodecQualityPreset> DefaultQualities()
 {
     using Quality = IVXCodecQualityPreset;
-    static const HandleList<Quality> s_qualities{
-        Quality::MallocCodecQualityPreset(),
-        Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelLow),
-        Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelNormal),
-        Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelHigh),
-        Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelBest),
-        Quality::MallocCodecQualityPreset(1)};
-    return CloneValues(s_qualities);
+    return {Quality::MallocCodecQualityPreset(),
+            Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelLow),
+            Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelNormal),
+            Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelHigh),
+            Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelBest),
+            Quality::MallocCodecQualityPreset(1)};
 }
 
 HandleList<IVXResolutionPreset> IVXCodecPreset::DefaultResolutions(int codecID)
