@@ -20,34 +20,33 @@ constexpr std::uint64_t kArrayWord = Word('[');
 constexpr VXJsonView kNull(nullptr, &kNullWord);
 constexpr VXJsonView kEmptyArray(nullptr, &kArrayWord);
 
-JsonBits BitsAt(const std::uint64_t* word)
-{
-    switch (Type(*word))
-    {
-    case 'l':
-        return {JsonKind::Int64, word[1]};
-    case '"':
-        return {JsonKind::String, 0};
-    case '{':
-        return {JsonKind::Object, 0};
-    case '[':
-        return {JsonKind::Array, 0};
-    case 'u':
-        return {JsonKind::Uint64, word[1]};
-    case 'd':
-        return {JsonKind::Double, word[1]};
-    case 't':
-        return {JsonKind::Bool, 1};
-    case 'f':
-        return {JsonKind::Bool, 0};
-    default:
-        return {JsonKind::Null, 0};
-    }
-}
-
 std::shared_ptr<const IVXJsonValue> WithoutOwner(const VXJsonView& view)
 {
     return {std::shared_ptr<const void>(), &view};
+}
+
+JsonKind KindOf(char type)
+{
+    switch (type)
+    {
+    case '{':
+        return JsonKind::Object;
+    case '[':
+        return JsonKind::Array;
+    case '"':
+        return JsonKind::String;
+    case 'l':
+        return JsonKind::Int64;
+    case 'u':
+        return JsonKind::Uint64;
+    case 'd':
+        return JsonKind::Double;
+    case 't':
+    case 'f':
+        return JsonKind::Bool;
+    default:
+        return JsonKind::Null;
+    }
 }
 
 bool IsContainer(std::uint64_t word) { return Type(word) == '{' || Type(word) == '['; }
@@ -130,30 +129,29 @@ std::shared_ptr<const IVXJsonValue> VXJsonView::ScalarHandle(const std::uint64_t
 // The scalar itself, or the view of the child of that number.
 inline JsonItem VXJsonView::ItemAt(const std::uint64_t* word, std::size_t child) const
 {
-    if (IsContainer(*word))
-        return Child(child).Self();
-    const auto [kind, bits] = BitsAt(word);
-    const auto text = kind == JsonKind::String ? Text(*word) : std::string_view();
-    return {.kind = kind, .bits = bits, .text = text, .node = nullptr};
+    JsonItem item{.kind = KindOf(Type(*word)), .bits = 0, .text = {}, .node = nullptr};
+    if (item.kind == JsonKind::String)
+        item.text = Text(*word);
+    else if (item.kind == JsonKind::Bool)
+        item.bits = Type(*word) == 't';
+    else if (item.kind == JsonKind::Int64 || item.kind == JsonKind::Uint64 || item.kind == JsonKind::Double)
+        item.bits = word[1];
+    else if (item.kind != JsonKind::Null)
+        item.node = &Child(child);
+    return item;
 }
 
 JsonItem VXJsonView::Self() const
 {
     if (!IsContainer(*m_word))
         return ItemAt(m_word, 0);
-    return {.kind = BitsAt(m_word).kind, .bits = 0, .text = {}, .node = this};
+    return {.kind = KindOf(Type(*m_word)), .bits = 0, .text = {}, .node = this};
 }
 
-JsonBits VXJsonView::FindBits(std::string_view name) const
+JsonItem VXJsonView::Find(std::string_view name) const
 {
     const Member member = FindMember(name);
-    return member.name ? BitsAt(member.name + 1) : JsonBits();
-}
-
-std::string_view VXJsonView::FindText(std::string_view name) const
-{
-    const Member member = FindMember(name);
-    return member.name && Type(member.name[1]) == '"' ? Text(member.name[1]) : std::string_view();
+    return member.name ? ItemAt(member.name + 1, member.containersBefore) : JsonItem();
 }
 
 bool VXJsonView::Next(JsonCursor& cursor, JsonEntry& entry) const
@@ -203,7 +201,7 @@ std::shared_ptr<const IVXJsonValue> VXJsonView::At(int index) const
     return index >= 0 && index < Size() ? Child(static_cast<std::size_t>(index)).Handle() : JsonNull();
 }
 
-std::shared_ptr<const IVXJsonValue> VXJsonDocument::Root() const { return m_views.back().Handle(); }
+std::shared_ptr<const IVXJsonValue> VXJsonDocument::Root() const { return m_views.front().Handle(); }
 
 simdjson::error_code VXJsonDocument::Parse(std::string_view text)
 {
@@ -220,56 +218,50 @@ simdjson::error_code VXJsonDocument::Parse(std::string_view text)
     return BuildViews();
 }
 
-// Walks the tape once, from front to back. A view is pending until its container ends: then all of the
-// container's children are there and take their places, next to each other.
 simdjson::error_code VXJsonDocument::BuildViews()
 {
     const std::uint64_t* const tape = m_document.tape.get();
-    const std::uint64_t* const end = tape + static_cast<std::uint32_t>(*tape) - 1;
-    m_views.reserve(static_cast<std::size_t>(end - tape) / 4); // most take four words and more
+    const auto words = static_cast<std::uint32_t>(tape[0]);
+    m_views.reserve(words / 4); // most take four words and more, with their members or ends
     UseLargePages(m_views.data(), m_views.capacity() * sizeof(VXJsonView));
-    std::vector<VXJsonView> pending;
-    std::vector<OpenContainer> open;
-    for (const std::uint64_t* word = tape + 1; word != end;)
+    m_views.emplace_back(this, tape + 1);
+    // Children follow their parent at once, while its part of the tape is still at hand.
+    std::vector<Siblings> open{{.next = 0, .end = 1}};
+    while (!open.empty())
     {
-        const bool isMember = !open.empty() && open.back().isObject;
-        if (isMember && Type(*word) != '}')
-            ++word; // its name
-        switch (Type(*word))
+        if (open.back().next == open.back().end)
         {
-        case '{':
-        case '[':
-            // simdjson does not count an empty container inside the deepest one.
-            if (open.size() == kJsonMaxDepth)
-                return simdjson::DEPTH_ERROR;
-            open.push_back({.word = word, .children = pending.size(), .isObject = Type(*word) == '{'});
-            ++word;
-            break;
-        case '}':
-        case ']':
-            Close(open.back(), pending);
             open.pop_back();
-            ++word;
-            break;
-        default:
-            if (!isMember)
-                pending.emplace_back(this, word);
-            word = Behind(tape, word);
+            continue;
         }
+        const std::size_t parent = open.back().next++;
+        if (!IsContainer(*m_views[parent].m_word))
+            continue;
+        // simdjson does not count an empty container inside the deepest one.
+        if (open.size() > kJsonMaxDepth)
+            return simdjson::DEPTH_ERROR;
+        AppendChildren(parent);
+        if (const auto& view = m_views[parent]; view.m_count > 0)
+            open.push_back({.next = view.m_first, .end = std::size_t{view.m_first} + view.m_count});
     }
-    m_views.push_back(pending.front());
     return simdjson::SUCCESS;
 }
 
-void VXJsonDocument::Close(const OpenContainer& container, std::vector<VXJsonView>& pending)
+void VXJsonDocument::AppendChildren(std::size_t parent)
 {
-    VXJsonView view(this, container.word);
-    view.m_first = static_cast<std::uint32_t>(m_views.size());
-    view.m_count = static_cast<std::uint32_t>(pending.size() - container.children);
-    const auto children = pending.begin() + static_cast<std::ptrdiff_t>(container.children);
-    m_views.insert(m_views.end(), children, pending.end());
-    pending.erase(children, pending.end());
-    pending.push_back(view);
+    const std::uint64_t* const tape = m_document.tape.get();
+    const std::uint64_t* const end = m_views[parent].End();
+    const bool isArray = m_views[parent].IsA('[');
+    const int name = isArray ? 0 : 1;
+    const std::size_t first = m_views.size();
+    for (const std::uint64_t* word = m_views[parent].m_word + 1; word != end; word = Behind(tape, word))
+    {
+        word += name;
+        if (isArray || IsContainer(*word))
+            m_views.emplace_back(this, word);
+    }
+    m_views[parent].m_first = static_cast<std::uint32_t>(first);
+    m_views[parent].m_count = static_cast<std::uint32_t>(m_views.size() - first);
 }
 
 } // namespace Vexlor

@@ -22,9 +22,7 @@ public:
     }
 
     /// The member of that name, the first of several; Absent when there is none.
-    JsonBits FindBits(std::string_view name) const;
-    /// The same member's text; empty when it is no string.
-    std::string_view FindText(std::string_view name) const;
+    JsonItem Find(std::string_view name) const;
 
     JsonItem Self() const override;
     bool Next(JsonCursor& cursor, JsonEntry& entry) const override;
@@ -79,15 +77,15 @@ public:
 private:
     friend class VXJsonView;
 
-    struct OpenContainer
+    // Places of views that stand next to each other, as far as their children are not yet appended.
+    struct Siblings
     {
-        const std::uint64_t* word;
-        std::size_t children; // where they begin among the pending views
-        bool isObject;
+        std::size_t next;
+        std::size_t end;
     };
 
     simdjson::error_code BuildViews();
-    void Close(const OpenContainer& container, std::vector<VXJsonView>& pending);
+    void AppendChildren(std::size_t parent);
 
     simdjson::dom::document m_document;
     std::vector<VXJsonView> m_views;

@@ -1,12 +1,6 @@
 #include "runtime/foundation/VXJsonMembers.h"
 
-#include "runtime/foundation/VXJsonEscape.h"
-
-#include <algorithm>
 #include <cstring>
-#include <limits>
-#include <stdexcept>
-#include <utility>
 
 namespace Vexlor
 {
@@ -14,156 +8,84 @@ namespace Vexlor
 namespace
 {
 
-// What stands before a member's ,"name":value in one word: fields of a structure would be written one by one
-// and read at once, which the processor waits for.
-class Header
+// What stands before the bytes of a member's name and text.
+struct Header
 {
-public:
-    Header(JsonKind kind, bool isReady, std::size_t nameSize, std::size_t valueSize)
-        : m_bits(static_cast<std::uint64_t>(kind) | (isReady ? kReady : 0) | nameSize << kNameShift |
-                 static_cast<std::uint64_t>(valueSize) << kValueShift)
-    {
-    }
-    explicit Header(const char* record) { std::memcpy(&m_bits, record, sizeof m_bits); }
-
-    void WriteTo(char* record) const { std::memcpy(record, &m_bits, sizeof m_bits); }
-
-    JsonKind Kind() const { return static_cast<JsonKind>(m_bits & 0xF); }
-    /// The member is neither Absent nor does it need escapes.
-    bool IsReady() const { return (m_bits & kReady) != 0; }
-    std::size_t NameSize() const { return m_bits >> kNameShift & kMostNameSize; }
-    /// With the quotes of a string.
-    std::size_t ValueSize() const { return m_bits >> kValueShift; }
-
-    static constexpr std::size_t kMostNameSize = (std::size_t{1} << 27) - 1;
-    static constexpr std::size_t kMostValueSize = std::numeric_limits<std::uint32_t>::max();
-
-private:
-    static constexpr std::uint64_t kReady = 0x10;
-    static constexpr unsigned kNameShift = 5;
-    static constexpr unsigned kValueShift = 32;
-
-    std::uint64_t m_bits = 0;
+    std::uint64_t bits = 0; // a string's length
+    std::size_t nameSize = 0;
+    JsonKind kind = JsonKind::Absent;
 };
 
-constexpr std::size_t kBeforeName = sizeof(Header) + 2;
-constexpr std::size_t kBehindName = 2;
+constexpr std::size_t kHeaderSize = sizeof(Header::bits) + sizeof(Header::nameSize) + sizeof(Header::kind);
 
-std::size_t SizeOfRecord(const Header& header)
+template <class Field>
+char* Put(char* to, Field field)
 {
-    return kBeforeName + header.NameSize() + kBehindName + header.ValueSize();
+    std::memcpy(to, &field, sizeof field);
+    return to + sizeof field;
 }
 
-JsonMember MemberAt(const char* record)
+template <class Field>
+const char* Take(const char* from, Field& field)
 {
-    const Header header(record);
-    const char* const name = record + kBeforeName;
-    std::string_view value(name + header.NameSize() + kBehindName, header.ValueSize());
-    const std::string_view written(record + sizeof header, SizeOfRecord(header) - sizeof header);
-    if (header.Kind() == JsonKind::String)
-        value = value.substr(1, value.size() - 2);
-    return {.kind = header.Kind(),
-            .name = {name, header.NameSize()},
-            .value = value,
-            .written = header.IsReady() ? written : std::string_view()};
+    std::memcpy(&field, from, sizeof field);
+    return from + sizeof field;
 }
 
-// One of 64 bits for each name: a new one shows by its bit mostly, before any comparison.
-std::uint64_t SignOf(std::string_view name)
+std::array<char, kHeaderSize> HeaderOf(const JsonMember& member)
 {
-    const auto letter = name.empty() ? '\0' : name.back();
-    return std::uint64_t{1} << ((name.size() + std::size_t{7} * static_cast<unsigned char>(letter)) % 64);
-}
-
-// Copies the text; says whether it needs no escapes.
-bool PutPlain(char* to, std::string_view text)
-{
-    char escapes = 0;
-    for (const char c : text)
-    {
-        escapes = static_cast<char>(escapes | JsonEscapeOf(c));
-        *to++ = c;
-    }
-    return escapes == 0;
+    std::array<char, kHeaderSize> bytes{};
+    char* to =
+        Put(bytes.data(), member.kind == JsonKind::String ? std::uint64_t{member.text.size()} : member.bits);
+    to = Put(to, member.name.size());
+    Put(to, member.kind);
+    return bytes;
 }
 
 } // namespace
 
 bool VXJsonMembers::Next(std::size_t& cursor, JsonMember& member) const
 {
-    if (cursor == m_size)
+    if (cursor == m_bytes.size())
         return false;
-    member = MemberAt(Bytes() + cursor);
-    cursor += SizeOfRecord(Header(Bytes() + cursor));
+    Header header;
+    const char* from = Take(m_bytes.data() + cursor, header.bits);
+    from = Take(from, header.nameSize);
+    from = Take(from, header.kind);
+    member.name = {from, header.nameSize};
+    member.kind = header.kind;
+    member.bits = header.bits;
+    member.text = {from + header.nameSize, header.kind == JsonKind::String ? header.bits : 0};
+    cursor += kHeaderSize + member.name.size() + member.text.size();
     return true;
 }
 
 bool VXJsonMembers::Find(std::string_view name, JsonMember& member) const
 {
-    if ((m_names & SignOf(name)) == 0)
-        return false;
-    const char* record = Bytes();
-    const char* const end = record + m_size;
-    for (; record != end; record += SizeOfRecord(Header(record)))
-        if (std::string_view(record + kBeforeName, Header(record).NameSize()) == name)
-        {
-            member = MemberAt(record);
+    std::size_t cursor = 0;
+    while (Next(cursor, member))
+        if (member.name == name)
             return true;
-        }
     return false;
 }
 
-void VXJsonMembers::Add(JsonKind kind, std::string_view name, std::string_view value)
+JsonMember VXJsonMembers::Set(const JsonMember& member)
 {
-    const std::size_t valueSize = value.size() + (kind == JsonKind::String ? 2 : 0);
-    if (name.size() > Header::kMostNameSize || valueSize > Header::kMostValueSize)
-        throw std::length_error("IVXJsonValue: a member's name or value is too long");
-    const std::size_t size = kBeforeName + name.size() + kBehindName + valueSize;
-    char* const record = Room(size);
-    char* const nameAt = record + kBeforeName;
-    char* const valueAt = nameAt + name.size() + kBehindName;
-    nameAt[-2] = ',';
-    nameAt[-1] = '"';
-    bool isReady = PutPlain(nameAt, name) && kind != JsonKind::Absent;
-    valueAt[-2] = '"';
-    valueAt[-1] = ':';
-    if (kind == JsonKind::String)
+    // Two short members, in a block of the size that the object itself takes.
+    constexpr std::size_t kUsualSize = 47;
+    const auto header = HeaderOf(member);
+    JsonMember before;
+    if (Find(member.name, before))
     {
-        valueAt[0] = valueAt[valueSize - 1] = '"';
-        isReady = PutPlain(valueAt + 1, value) && isReady;
+        const auto start = static_cast<std::size_t>(before.name.data() - m_bytes.data()) - kHeaderSize;
+        m_bytes.replace(start + kHeaderSize + before.name.size(), before.text.size(), member.text);
+        m_bytes.replace(start, kHeaderSize, header.data(), kHeaderSize);
+        return {.name = {}, .kind = before.kind, .bits = before.bits, .text = {}};
     }
-    else
-        std::memcpy(valueAt, value.data(), value.size());
-    Header(kind, isReady, name.size(), valueSize).WriteTo(record);
-    m_size += size;
-    m_names |= SignOf(name);
-}
-
-void VXJsonMembers::Replace(const JsonMember& member, JsonKind kind, std::string_view value)
-{
-    VXJsonMembers after;
-    JsonMember each;
-    for (std::size_t cursor = 0; Next(cursor, each);)
-    {
-        const bool isIt = each.name.data() == member.name.data();
-        after.Add(isIt ? kind : each.kind, each.name, isIt ? value : each.value);
-    }
-    *this = std::move(after);
-}
-
-// Where the next member goes, with room for as many bytes.
-char* VXJsonMembers::Room(std::size_t size)
-{
-    if (m_capacity - m_size < size)
-    {
-        constexpr std::size_t kLeastOutside = 512;
-        const std::size_t capacity = std::max({m_size + size, 2 * m_capacity, kLeastOutside});
-        auto outside = std::make_unique_for_overwrite<char[]>(capacity);
-        std::memcpy(outside.get(), Bytes(), m_size);
-        m_outside = std::move(outside);
-        m_capacity = capacity;
-    }
-    return (m_outside ? m_outside.get() : m_inside.data()) + m_size;
+    if (m_bytes.empty())
+        m_bytes.reserve(kUsualSize);
+    m_bytes.append(header.data(), kHeaderSize).append(member.name).append(member.text);
+    return {};
 }
 
 } // namespace Vexlor

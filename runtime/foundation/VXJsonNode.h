@@ -65,9 +65,6 @@ public:
     virtual JsonItem Self() const = 0;
     /// The element or member at cursor, which moves on; false when there is none.
     virtual bool Next(JsonCursor& /*cursor*/, JsonEntry& /*entry*/) const { return false; }
-    /// Appends the members from cursor on, which moves on, as far as they are at hand as compact text; each
-    /// behind a comma but the first of all.
-    virtual void AppendReady(JsonCursor& /*cursor*/, std::string& /*text*/) const {}
 
     std::shared_ptr<const IVXJsonValue> operator[](std::string_view) const override { return JsonNull(); }
     std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view) const override
@@ -97,54 +94,44 @@ inline int SizeOf(std::size_t count)
     return static_cast<int>(std::min<std::size_t>(count, std::numeric_limits<int>::max()));
 }
 
-/// What stands behind a name, as far as two registers hold it.
-struct JsonBits
-{
-    JsonKind kind = JsonKind::Absent;
-    std::uint64_t bits = 0; ///< of Bool, Int64, Uint64 and Double
-};
-
-/// The getters, once for both kinds of values: Derived::FindBits and FindText tell what a name stands for.
+/// The getters, once for both kinds of values: Derived::Find tells what a name stands for.
 template <class Derived>
 class VXJsonGetters : public VXJsonNode
 {
 public:
-    bool HasKey(std::string_view name) const final { return BitsOf(name).kind != JsonKind::Absent; }
+    bool HasKey(std::string_view name) const final { return Item(name).kind != JsonKind::Absent; }
 
-    std::string GetValueString(std::string_view name) const final
-    {
-        return std::string(static_cast<const Derived&>(*this).FindText(name));
-    }
+    std::string GetValueString(std::string_view name) const final { return std::string(Item(name).text); }
 
     int GetValueInt(std::string_view name) const final
     {
-        const auto [kind, bits] = BitsOf(name);
-        if (kind == JsonKind::Double)
-            return IntegerPart<int>(std::bit_cast<double>(bits));
-        const auto value = std::bit_cast<std::int64_t>(bits);
-        return kind == JsonKind::Int64 && value == static_cast<int>(value) ? static_cast<int>(value) : 0;
+        const JsonItem item = Item(name);
+        if (item.kind == JsonKind::Double)
+            return IntegerPart<int>(std::bit_cast<double>(item.bits));
+        const auto value = std::bit_cast<std::int64_t>(item.bits);
+        return item.kind == JsonKind::Int64 && value == static_cast<int>(value) ? static_cast<int>(value) : 0;
     }
 
     std::int64_t GetValueInt64(std::string_view name) const final
     {
-        const auto [kind, bits] = BitsOf(name);
-        if (kind == JsonKind::Double)
-            return IntegerPart<std::int64_t>(std::bit_cast<double>(bits));
-        const bool isInteger = kind == JsonKind::Int64 || kind == JsonKind::Uint64;
-        return isInteger ? std::bit_cast<std::int64_t>(bits) : 0;
+        const JsonItem item = Item(name);
+        if (item.kind == JsonKind::Double)
+            return IntegerPart<std::int64_t>(std::bit_cast<double>(item.bits));
+        const bool isInteger = item.kind == JsonKind::Int64 || item.kind == JsonKind::Uint64;
+        return isInteger ? std::bit_cast<std::int64_t>(item.bits) : 0;
     }
 
     bool GetValueBool(std::string_view name) const final
     {
-        const auto [kind, bits] = BitsOf(name);
-        return kind == JsonKind::Bool && bits != 0;
+        const JsonItem item = Item(name);
+        return item.kind == JsonKind::Bool && item.bits != 0;
     }
 
 protected:
     ~VXJsonGetters() = default;
 
 private:
-    JsonBits BitsOf(std::string_view name) const { return static_cast<const Derived&>(*this).FindBits(name); }
+    JsonItem Item(std::string_view name) const { return static_cast<const Derived&>(*this).Find(name); }
 };
 
 /// A value that only reads: setting members on it does nothing.
@@ -152,8 +139,7 @@ template <class Derived>
 class VXJsonReadOnly : public VXJsonGetters<Derived>
 {
 public:
-    static JsonBits FindBits(std::string_view /*name*/) { return {}; }
-    static std::string_view FindText(std::string_view /*name*/) { return {}; }
+    static JsonItem Find(std::string_view /*name*/) { return {}; }
 
     void SetValueInt(std::string_view, int) final {}
     void SetValueInt64(std::string_view, std::int64_t) final {}

@@ -1,5 +1,4 @@
 #include "runtime/foundation/VXJson.h"
-#include "runtime/foundation/VXJsonEscape.h"
 #include "runtime/foundation/VXJsonNode.h"
 #include "runtime/foundation/VXUtf8.h"
 
@@ -14,12 +13,35 @@ namespace Vexlor
 namespace
 {
 
+// The letter behind the backslash, 'u' for a character without one of its own, 0 for one that stands for
+// itself and 1 for the bytes of longer characters, which are looked at first.
+constexpr std::array<char, 256> EscapeTable()
+{
+    std::array<char, 256> table{};
+    for (std::size_t c = 0; c < 0x20; ++c)
+        table.at(c) = 'u';
+    for (std::size_t c = 0x80; c < table.size(); ++c)
+        table.at(c) = 1;
+    table['"'] = '"';
+    table['\\'] = '\\';
+    table['\b'] = 'b';
+    table['\f'] = 'f';
+    table['\n'] = 'n';
+    table['\r'] = 'r';
+    table['\t'] = 't';
+    return table;
+}
+
+constexpr auto kEscapes = EscapeTable();
+
+char EscapeOf(char c) { return kEscapes.at(static_cast<unsigned char>(c)); }
+
 void AppendEscape(std::string& out, char c)
 {
     constexpr std::string_view kHex = "0123456789ABCDEF";
     out += '\\';
-    out += JsonEscapeOf(c);
-    if (JsonEscapeOf(c) == 'u')
+    out += EscapeOf(c);
+    if (EscapeOf(c) == 'u')
         out.append("00").append(1, kHex[static_cast<unsigned char>(c) >> 4]).append(1, kHex[c & 0xF]);
 }
 
@@ -27,7 +49,7 @@ void AppendEscape(std::string& out, char c)
 std::size_t AppendSpecial(std::string& out, std::string_view text)
 {
     constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
-    if (JsonEscapeOf(text[0]) != 1)
+    if (EscapeOf(text[0]) != 1)
     {
         AppendEscape(out, text[0]);
         return 1;
@@ -43,7 +65,7 @@ void AppendString(std::string& out, std::string_view text)
     while (!text.empty())
     {
         std::size_t plain = 0;
-        while (plain < text.size() && JsonEscapeOf(text[plain]) == 0)
+        while (plain < text.size() && EscapeOf(text[plain]) == 0)
             ++plain;
         out.append(text.substr(0, plain));
         text.remove_prefix(plain);
@@ -89,9 +111,6 @@ void AppendScalar(std::string& out, const JsonItem& item)
     case JsonKind::String:
         AppendString(out, item.text);
         break;
-    case JsonKind::Array: // one that stands written already
-        out.append(item.text);
-        break;
     default:
         out.append("null");
     }
@@ -101,6 +120,8 @@ void AppendScalar(std::string& out, const JsonItem& item)
 class TextWriter
 {
 public:
+    explicit TextWriter(JsonStyle style) : m_indented(style == JsonStyle::Indented) {}
+
     std::string Write(const JsonItem& root)
     {
         WriteItem(root);
@@ -119,7 +140,7 @@ private:
 
     void WriteItem(const JsonItem& item)
     {
-        if (item.node)
+        if (item.kind == JsonKind::Array || item.kind == JsonKind::Object)
             Open(*item.node, item.kind == JsonKind::Object);
         else
             AppendScalar(m_text, item);
@@ -128,17 +149,17 @@ private:
     void WriteNext()
     {
         Container& container = m_open.back();
-        container.node->AppendReady(container.cursor, m_text);
         const bool isFirst = container.cursor.at == 0;
         JsonEntry entry;
         if (!container.node->Next(container.cursor, entry))
             return Close();
         if (!isFirst)
             m_text += ',';
+        StartLine();
         if (container.named)
         {
             AppendString(m_text, entry.name);
-            m_text += ':';
+            m_text.append(m_indented ? ": " : ":");
         }
         WriteItem(entry.item);
     }
@@ -158,74 +179,33 @@ private:
         m_open.pop_back();
         if (m_open.size() >= kJsonMaxDepth)
             m_deep.erase(container.node);
+        if (container.cursor.at > 0)
+            StartLine();
         m_text += container.named ? '}' : ']';
     }
 
+    void StartLine()
+    {
+        constexpr std::size_t kBlanks = 2;
+        constexpr std::size_t kMostLevels =
+            64; // or a deep value's text would grow with the square of its depth
+        if (m_indented)
+            m_text.append(1, '\n').append(kBlanks * std::min(m_open.size(), kMostLevels), ' ');
+    }
+
+    bool m_indented;
     bool m_isCyclic = false;
     std::string m_text;
     std::vector<Container> m_open;
     std::unordered_set<const VXJsonNode*> m_deep; // the open containers beyond the depth that can be read
 };
 
-// The string that compact text begins with, from quote to quote.
-std::string_view StringAt(std::string_view compact)
-{
-    std::size_t end = 1;
-    while (compact[end] != '"')
-        end += compact[end] == '\\' ? 2 : 1;
-    return compact.substr(0, end + 1);
-}
-
-// What stays on its line whatever is in it: a string, an empty container.
-std::string_view WholeAt(std::string_view compact)
-{
-    if (compact.front() == '"')
-        return StringAt(compact);
-    const bool isEmpty = compact.starts_with("{}") || compact.starts_with("[]");
-    return compact.substr(0, isEmpty ? 2 : 0);
-}
-
-void StartLine(std::string& out, std::size_t level)
-{
-    constexpr std::size_t kBlanks = 2;
-    constexpr std::size_t kMostLevels = 64; // or a deep value's text would grow with the square of its depth
-    out.append(1, '\n').append(kBlanks * std::min(level, kMostLevels), ' ');
-}
-
-// Our own compact text with a line for each member and element.
-std::string Indented(std::string_view compact)
-{
-    std::string out;
-    std::size_t level = 0;
-    for (std::size_t at = 0; at < compact.size(); ++at)
-    {
-        const char c = compact[at];
-        if (const auto whole = WholeAt(compact.substr(at)); !whole.empty())
-        {
-            out.append(whole);
-            at += whole.size() - 1;
-            continue;
-        }
-        if (c == '}' || c == ']')
-            StartLine(out, --level);
-        out += c;
-        if (c == '{' || c == '[')
-            StartLine(out, ++level);
-        else if (c == ',')
-            StartLine(out, level);
-        else if (c == ':')
-            out += ' ';
-    }
-    return out;
-}
-
 } // namespace
 
 std::string JsonText(const IVXJsonValue& value, JsonStyle style)
 {
     const auto* node = dynamic_cast<const VXJsonNode*>(&value);
-    auto text = TextWriter().Write(node ? node->Self() : JsonItem());
-    return style == JsonStyle::Indented ? Indented(text) : text;
+    return TextWriter(style).Write(node ? node->Self() : JsonItem());
 }
 
 } // namespace Vexlor
