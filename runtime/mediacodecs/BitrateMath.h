@@ -27,7 +27,8 @@ inline int ToBitrate(double bitsPerSecond, double most = std::numeric_limits<int
     return static_cast<int>(std::min<double>(whole, std::numeric_limits<int>::max()));
 }
 
-/// The grade whose bitrate comes nearest by ratio, the lower one on a tie.
+/// The grade whose bitrate comes nearest by ratio, the higher one on a tie: a source that has all its grades
+/// at one bitrate, as lossless ones have, is as good as can be.
 template <class BitrateOf>
 IVXCodecs::QualityLevel NearestGrade(int bitrate, BitrateOf bitrateOf)
 {
@@ -36,7 +37,8 @@ IVXCodecs::QualityLevel NearestGrade(int bitrate, BitrateOf bitrateOf)
     std::ranges::transform(kAllGrades, distances.begin(),
                            [&](IVXCodecs::QualityLevel level)
                            { return std::abs(std::log(double(bitrateOf(level))) - wanted); });
-    return kAllGrades.at(static_cast<std::size_t>(std::ranges::min_element(distances) - distances.begin()));
+    const auto nearest = std::min_element(distances.rbegin(), distances.rend());
+    return kAllGrades.at(static_cast<std::size_t>(distances.rend() - nearest - 1));
 }
 
 } // namespace Vexlor

@@ -32,7 +32,7 @@ struct SoundStream
 int VideoBitrate(const CodecCapabilities& codec, const PictureStream& stream, IVXCodecs::QualityLevel level);
 /// The bitrate of an audio codec's stream at a grade; as above, and one that the codec's standard has.
 int AudioBitrate(const CodecCapabilities& codec, const SoundStream& stream, IVXCodecs::QualityLevel level);
-/// The grade whose bitrate comes nearest by ratio, the lower one on a tie.
+/// The grade whose bitrate comes nearest by ratio, the higher one on a tie: Best for a codec without grades.
 IVXCodecs::QualityLevel VideoGrade(const CodecCapabilities& codec, const PictureStream& stream, int bitrate);
 /// As above.
 IVXCodecs::QualityLevel AudioGrade(const CodecCapabilities& codec, const SoundStream& stream, int bitrate);

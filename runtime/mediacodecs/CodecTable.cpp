@@ -170,7 +170,7 @@ constexpr std::array kTable{
              .encoders = "mpeg2video",
              .formats = kOffered<k420, k422>,
              .video = {.min = {16, 16},
-                       .max = {1920, 1152},
+                       .max = {1920, 1088},
                        .minRate = {24000, 1001},
                        .maxRate = {60, 1},
                        .rates = kCodedRates}},

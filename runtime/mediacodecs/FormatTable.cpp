@@ -359,7 +359,8 @@ std::vector<std::string> WritableFormats()
 {
     std::vector<std::string> names;
     for (const auto& format : kFormats)
-        if (MuxerOf(format))
+        if (!WritableCodecs(format, format.videoCodecs).empty() ||
+            !WritableCodecs(format, format.audioCodecs).empty())
             names.emplace_back(format.name);
     return names;
 }

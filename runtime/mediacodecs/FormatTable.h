@@ -43,7 +43,8 @@ struct FormatRow
 std::span<const FormatRow> FormatTable();
 /// The row of a name of ours; null when there is none.
 const FormatRow* FindFormat(std::string_view name);
-/// The names of the containers whose muxer is here, in the table's order.
+/// The names of the containers whose muxer is here and takes a codec that has an encoder here, in the table's
+/// order.
 std::vector<std::string> WritableFormats();
 /// Those of codecs (ours) that have an encoder here and that the container's muxer takes, in their order;
 /// none when the muxer is not here.

@@ -43,7 +43,7 @@ TEST(CodecsCommand, PrintsOneCodecInFull)
 TEST(CodecsCommand, PrintsWhatAVideoCodecAccepts)
 {
     const auto text = RunTool({"codecs", "MPEG-2"}).out;
-    EXPECT_NE(std::string::npos, text.find("  Sizes            16 x 16 to 1920 x 1152\n")) << text;
+    EXPECT_NE(std::string::npos, text.find("  Sizes            16 x 16 to 1920 x 1088\n")) << text;
     EXPECT_NE(std::string::npos, text.find("  Frame rates      60 fps, 59.94 fps, 50 fps, 30 fps, 29.97 fps, "
                                            "25 fps, 24 fps, 23.976 fps\n"));
     EXPECT_NE(std::string::npos, text.find("  Pixel formats    YUV 4:2:0, YUV 4:2:2\n"));
@@ -57,7 +57,7 @@ TEST(CodecsCommand, PrintsATableOfAllCodecs)
     EXPECT_EQ(0U, text.find("No.   Codec  ")) << text;
     EXPECT_EQ(RunForJson({"codecs"})->Size() + 1, std::ranges::count(text, '\n'));
     EXPECT_NE(std::string::npos, text.find("\n1     H.264  ")) << text;
-    EXPECT_NE(std::string::npos, text.find("  video  16 x 16 to 1920 x 1152, up to 60 fps  ")) << text;
+    EXPECT_NE(std::string::npos, text.find("  video  16 x 16 to 1920 x 1088, up to 60 fps  ")) << text;
     EXPECT_NE(std::string::npos, text.find("  audio  8 kHz to 192 kHz  ")) << text;
 }
 
@@ -103,7 +103,7 @@ TEST(CodecsCommand, JsonTellsWhatAVideoCodecAccepts)
     EXPECT_EQ("video", codec->GetValueString("type"));
     EXPECT_EQ("\"mpeg2video\"", Elements(*codec->GetValueArray("names")));
     EXPECT_EQ("16 16", Elements(*codec->GetValueArray("minSize")));
-    EXPECT_EQ("1920 1152", Elements(*codec->GetValueArray("maxSize")));
+    EXPECT_EQ("1920 1088", Elements(*codec->GetValueArray("maxSize")));
     EXPECT_EQ("[60,1]", JsonText(*codec->GetValueArray("frameRates")->At(0)));
     EXPECT_EQ(R"("YUV 4:2:0" "YUV 4:2:2")", Elements(*codec->GetValueArray("pixelFormats")));
     EXPECT_EQ(R"("Simple" "Main" "4:2:2")", Elements(*codec->GetValueArray("profiles")));
@@ -166,7 +166,7 @@ TEST(CodecsMarkdown, TellsWhatACodecAccepts)
 {
     const auto section = Section(RunTool({"codecs", "--markdown"}).out, "### MPEG-2");
     EXPECT_NE(std::string::npos, section.find("\n- Encoders: mpeg2video\n- Containers: MP4, ")) << section;
-    EXPECT_NE(std::string::npos, section.find("\n- Sizes: 16 x 16 to 1920 x 1152\n"));
+    EXPECT_NE(std::string::npos, section.find("\n- Sizes: 16 x 16 to 1920 x 1088\n"));
     EXPECT_NE(std::string::npos, section.find("\n- Levels: Low, Main, High 1440, High\n"));
 }
 

@@ -3,6 +3,7 @@
 #include "VXMediaCodecs.h"
 #include "runtime/mediacodecs/ChannelLayouts.h"
 #include "runtime/mediacodecs/CodecTable.h"
+#include "runtime/mediacodecs/SampleFormats.h"
 
 #include <gmock/gmock.h>
 
@@ -143,6 +144,14 @@ TEST(Codecs, BitratesOfUploadsAreTheRecommendedOnes)
     const auto video = Encoder(VXCodecID_H264);
     EXPECT_EQ(8'000'000, video->BestBitrateFor(1920, 1080, k30, 0, IVXCodecs::QualityLevelHigh, ""));
     EXPECT_EQ(IVXCodecs::QualityLevelHigh, video->EstQualityWithBitrate(9'000'000, 1920, 1080, k30, 0, ""));
+}
+
+TEST(Codecs, SoundWithoutGradesIsOfTheBest)
+{
+    for (const int codecID : {VXCodecID_PCM16, VXCodecID_FLAC, VXCodecID_ALAC, VXCodecID_WavPack})
+        EXPECT_EQ(IVXCodecs::QualityLevelBest,
+                  Encoder(codecID)->EstQualityWithBitrate(700'000, 44100, kStereo, kSampleFormatS16, ""))
+            << codecID;
 }
 
 TEST(Codecs, SoundIsGradedBySound)
