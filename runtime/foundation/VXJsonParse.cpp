@@ -42,7 +42,8 @@ std::string WithFractions(std::string_view text, const std::vector<std::size_t>&
         result.append(text, from, end - from).append(".0");
         from = end;
     }
-    return result.append(text, from);
+    result.append(text, from);
+    return result; // moved: a copy would have no room behind the text
 }
 
 // The slow way, for texts that the parser refused: finds the reason, or what makes the text acceptable.
