@@ -247,7 +247,7 @@ bool VXArtworkImageMgr::StoreAt(std::size_t idx, const IVXArtworkImageGroup& gro
     return Change(
         [&](VXArtworkTable& table)
         {
-            const Blob blob = group.ToData();
+            Blob blob = group.ToData();
             table.resize(std::max(table.size(), idx + 1));
             table[idx] = {faceID, SeekToFreeSpace(), blob->Size()};
             return blob;
