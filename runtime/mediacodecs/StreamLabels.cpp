@@ -11,7 +11,6 @@
 #include "VXMediaCodecs.h"
 
 #include <algorithm>
-#include <array>
 
 namespace Vexlor
 {
@@ -19,28 +18,12 @@ namespace Vexlor
 namespace
 {
 
-/// A profile that the encoder has to be told although the stream leaves it open.
-struct NeededProfile
-{
-    int codecID;
-    int profile;
-    bool withLevelOnly;
-};
-
-// libavcodec's MPEG-2 encoder refuses a level that comes without a profile; without one, its DNxHD encoder
-// takes the stream for DNxHD and its few sizes; MXF does not store ProRes of an unknown one.
-constexpr std::array kNeededProfiles{
-    NeededProfile{VXCodecID_MPEG2, 4, true},
-    NeededProfile{VXCodecID_DNxHR, 2, false},
-    NeededProfile{VXCodecID_ProRes, 2, false},
-};
-
+// libavcodec's MPEG-2 encoder refuses a level that comes without a profile.
 int ProfileNeededBy(const IVXCodecParameter& stream)
 {
-    const auto* row = FindRow(std::span<const NeededProfile>(kNeededProfiles), &NeededProfile::codecID,
-                              stream.GetCodecID());
+    constexpr int kMain = 4;
     const bool hasLevel = stream.GetLevel() != IVXCodecs::VXLevelUnknown;
-    return row && (hasLevel || !row->withLevelOnly) ? row->profile : IVXCodecs::VXProfileUnknown;
+    return stream.GetCodecID() == VXCodecID_MPEG2 && hasLevel ? kMain : IVXCodecs::VXProfileUnknown;
 }
 
 template <class Row>

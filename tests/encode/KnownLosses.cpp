@@ -31,10 +31,6 @@ constexpr auto kPCM = kCodecs<VXCodecID_PCM16, VXCodecID_PCM24, VXCodecID_PCM32,
 
 constexpr std::array kLosses{
     LossRow{"", kCodecs<VXCodecID_Opus>, "sample rate", "Opus always decodes to 48 kHz (RFC 7845 5.1)"},
-    LossRow{
-        "", kCodecs<VXCodecID_AAC>, "layout",
-        "libavcodec reads channel configuration 7 as back loudspeakers unless told to be strict, since most "
-        "encoders mean them"},
     LossRow{"OGG OGV", kCodecs<VXCodecID_FLAC>, "layout",
             "FLAC has one place for back and side loudspeakers (RFC 9639 9.1.3)"},
     LossRow{"CAF AIFF", kPCM, "layout", "libavformat writes no layout of its own where a tag is near enough"},
