@@ -3,7 +3,7 @@
 
 #include "apps/vxpresets/ArtworkCommands.h"
 #include "apps/vxpresets/CommandLine.h"
-#include "apps/vxpresets/Failure.h"
+#include "apps/host/Failure.h"
 
 #include <algorithm>
 #include <filesystem>

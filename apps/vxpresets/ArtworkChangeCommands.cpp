@@ -1,11 +1,11 @@
 #include "ArtworkCommands.h"
 
-#include "ArtworkChange.h"
 #include "ArtworkChoice.h"
-#include "ArtworkGroup.h"
-#include "ArtworkLooks.h"
-#include "Failure.h"
-#include "Text.h"
+#include "apps/artwork/ArtworkChange.h"
+#include "apps/artwork/ArtworkGroup.h"
+#include "apps/artwork/ArtworkLooks.h"
+#include "apps/host/Failure.h"
+#include "apps/host/Text.h"
 
 #include "IVXArtworkImage.h"
 #include "IVXArtworkImageGroup.h"

@@ -2,9 +2,9 @@
 
 #include "ArtworkChoice.h"
 #include "ArtworkFindings.h"
-#include "Failure.h"
-#include "Json.h"
-#include "Text.h"
+#include "apps/host/Failure.h"
+#include "apps/host/Json.h"
+#include "apps/host/Text.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #include "ArtworkChoice.h"
 
-#include "DefaultArtwork.h"
-#include "Failure.h"
-#include "NameSearch.h"
-#include "Text.h"
+#include "apps/artwork/DefaultArtwork.h"
+#include "apps/host/Failure.h"
+#include "apps/host/NameSearch.h"
+#include "apps/host/Text.h"
 
 #include "catalog/icons/Faces.h"
 

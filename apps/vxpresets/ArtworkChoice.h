@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ArtworkFile.h"
 #include "ArtworkRequest.h"
+#include "apps/artwork/ArtworkFile.h"
 
 #include <cstddef>
 #include <string>

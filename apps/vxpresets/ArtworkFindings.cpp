@@ -1,7 +1,7 @@
 #include "ArtworkFindings.h"
 
-#include "ArtworkGroup.h"
-#include "ArtworkPictures.h"
+#include "apps/artwork/ArtworkGroup.h"
+#include "apps/artwork/ArtworkPictures.h"
 
 #include "IVXArtworkImage.h"
 #include "IVXData.h"

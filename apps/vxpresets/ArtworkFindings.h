@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ArtworkFile.h"
+#include "apps/artwork/ArtworkFile.h"
 
 #include <optional>
 #include <string>

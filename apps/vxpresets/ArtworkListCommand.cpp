@@ -1,11 +1,11 @@
 #include "ArtworkCommands.h"
 
 #include "ArtworkChoice.h"
-#include "ArtworkGroup.h"
-#include "ArtworkPictures.h"
-#include "Json.h"
 #include "Table.h"
-#include "Text.h"
+#include "apps/artwork/ArtworkGroup.h"
+#include "apps/artwork/ArtworkPictures.h"
+#include "apps/host/Json.h"
+#include "apps/host/Text.h"
 
 #include "IVXArtworkImage.h"
 #include "IVXData.h"

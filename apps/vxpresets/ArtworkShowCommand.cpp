@@ -1,10 +1,10 @@
 #include "ArtworkCommands.h"
 
 #include "ArtworkChoice.h"
-#include "ArtworkGroup.h"
-#include "ArtworkPictures.h"
-#include "Failure.h"
-#include "Text.h"
+#include "apps/artwork/ArtworkGroup.h"
+#include "apps/artwork/ArtworkPictures.h"
+#include "apps/host/Failure.h"
+#include "apps/host/Text.h"
 
 #include "IVXArtworkImage.h"
 #include "IVXData.h"

@@ -1,14 +1,14 @@
 #include "Commands.h"
 
 #include "ArtworkChoice.h"
-#include "DocumentFile.h"
-#include "DocumentFindings.h"
-#include "DocumentMeaning.h"
-#include "DocumentPlaces.h"
-#include "DocumentShape.h"
-#include "Failure.h"
-#include "Json.h"
-#include "Text.h"
+#include "apps/host/DocumentFile.h"
+#include "apps/host/DocumentFindings.h"
+#include "apps/host/DocumentMeaning.h"
+#include "apps/host/DocumentPlaces.h"
+#include "apps/host/DocumentShape.h"
+#include "apps/host/Failure.h"
+#include "apps/host/Json.h"
+#include "apps/host/Text.h"
 
 #include <set>
 

@@ -1,6 +1,6 @@
 #include "CodecFacts.h"
 
-#include "Units.h"
+#include "apps/host/Units.h"
 
 #include "IVXCodecs.h"
 #include "IVXFormat.h"

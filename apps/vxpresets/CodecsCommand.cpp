@@ -2,11 +2,11 @@
 
 #include "CodecFacts.h"
 #include "CodecsMarkdown.h"
-#include "Json.h"
 #include "ListText.h"
-#include "NameSearch.h"
 #include "Table.h"
-#include "Text.h"
+#include "apps/host/Json.h"
+#include "apps/host/NameSearch.h"
+#include "apps/host/Text.h"
 
 #include "IVXCodecs.h"
 #include "IVXRational.h"

@@ -1,7 +1,7 @@
 #include "CodecsMarkdown.h"
 
-#include "Text.h"
-#include "Units.h"
+#include "apps/host/Text.h"
+#include "apps/host/Units.h"
 
 #include "IVXCodecs.h"
 #include "IVXFormat.h"

@@ -2,8 +2,8 @@
 
 #include "ArtworkCommands.h"
 #include "CommandOutline.h"
-#include "Failure.h"
-#include "Text.h"
+#include "apps/host/Failure.h"
+#include "apps/host/Text.h"
 
 #include <CLI/CLI.hpp>
 

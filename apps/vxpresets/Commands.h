@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ArtworkRequest.h"
-#include "Catalogue.h"
 #include "Style.h"
+#include "apps/host/Catalogue.h"
 
 #include <optional>
 #include <string>

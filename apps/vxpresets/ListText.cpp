@@ -1,6 +1,6 @@
 #include "ListText.h"
 
-#include "Text.h"
+#include "apps/host/Text.h"
 
 #include <algorithm>
 

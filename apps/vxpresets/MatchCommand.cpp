@@ -1,11 +1,11 @@
 #include "Commands.h"
 
-#include "Failure.h"
-#include "Json.h"
-#include "Stream.h"
 #include "Table.h"
-#include "Text.h"
-#include "Units.h"
+#include "apps/host/Failure.h"
+#include "apps/host/Json.h"
+#include "apps/host/Stream.h"
+#include "apps/host/Text.h"
+#include "apps/host/Units.h"
 
 #include "IVXCodecParameter.h"
 #include "IVXFormatParameter.h"

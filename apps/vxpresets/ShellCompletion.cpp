@@ -1,5 +1,5 @@
 #include "CommandOutline.h"
-#include "Text.h"
+#include "apps/host/Text.h"
 
 namespace Vexlor::Tool
 {

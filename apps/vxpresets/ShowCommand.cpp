@@ -1,9 +1,9 @@
 #include "Commands.h"
 
-#include "Json.h"
 #include "ListText.h"
-#include "Text.h"
-#include "Units.h"
+#include "apps/host/Json.h"
+#include "apps/host/Text.h"
+#include "apps/host/Units.h"
 
 #include "IVXChannelLayoutPreset.h"
 #include "IVXCodecPreset.h"

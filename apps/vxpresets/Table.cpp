@@ -1,6 +1,6 @@
 #include "Table.h"
 
-#include "Text.h"
+#include "apps/host/Text.h"
 
 #include <algorithm>
 #include <cstddef>

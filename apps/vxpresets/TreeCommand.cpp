@@ -1,8 +1,8 @@
 #include "Commands.h"
 
-#include "Json.h"
 #include "Table.h"
-#include "Text.h"
+#include "apps/host/Json.h"
+#include "apps/host/Text.h"
 
 #include "IVXCodecPreset.h"
 #include "IVXFormatNode.h"

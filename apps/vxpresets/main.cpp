@@ -1,6 +1,6 @@
 #include "CommandLine.h"
-#include "Failure.h"
-#include "Text.h"
+#include "apps/host/Failure.h"
+#include "apps/host/Text.h"
 
 #include "runtime/foundation/VXLogSink.h"
 

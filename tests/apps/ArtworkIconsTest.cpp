@@ -2,7 +2,7 @@
 #include "tests/apps/RunTool.h"
 #include "tests/foundation/TestFolder.h"
 
-#include "apps/vxpresets/DefaultArtwork.h"
+#include "apps/artwork/DefaultArtwork.h"
 #include "catalog/icons/Faces.h"
 #include "runtime/foundation/VXJson.h"
 

@@ -1,7 +1,7 @@
 #include "ArtworkChange.h"
 
 #include "ArtworkReplacement.h"
-#include "Failure.h"
+#include "apps/host/Failure.h"
 
 #include "IVXArtworkImageGroup.h"
 #include "IVXArtworkImageMgr.h"

@@ -2,7 +2,7 @@
 
 #include "ArtworkGroup.h"
 #include "ArtworkPictures.h"
-#include "Failure.h"
+#include "apps/host/Failure.h"
 
 #include "IVXArtworkImage.h"
 #include "IVXArtworkImageGroup.h"

@@ -1,7 +1,7 @@
 // The build's own tool, which makes the default artwork file:   vxpresets-pack FOLDER-OF-SVGS ARTWORK-FILE
 #include "ArtworkChange.h"
 #include "ArtworkLooks.h"
-#include "Failure.h"
+#include "apps/host/Failure.h"
 
 #include "catalog/icons/Faces.h"
 

@@ -1,7 +1,7 @@
 #include "ArtworkFile.h"
 
 #include "ArtworkMemory.h"
-#include "Failure.h"
+#include "apps/host/Failure.h"
 
 #include "artwork/VXLittleEndian.h"
 #include "catalog/icons/Faces.h"

@@ -1,6 +1,6 @@
 #include "ArtworkReplacement.h"
 
-#include "Failure.h"
+#include "apps/host/Failure.h"
 
 #include <cerrno>
 #include <system_error>
