@@ -1,5 +1,7 @@
 #include "CodecTags.h"
 
+#include "Lookup.h"
+
 extern "C"
 {
 #include <libavformat/avformat.h>
@@ -7,6 +9,7 @@ extern "C"
 }
 
 #include <array>
+#include <span>
 
 namespace Vexlor
 {
@@ -24,20 +27,24 @@ struct StandIn
 // under it, and would read it back wrongly. DX50 is what DivX 5 itself writes.
 constexpr std::array kStandIns{StandIn{MKTAG('D', 'I', 'V', '5'), MKTAG('D', 'X', '5', '0')}};
 
+std::uint32_t StandInFor(std::uint32_t tag)
+{
+    const auto* row = FindRow(std::span<const StandIn>(kStandIns), &StandIn::asked, tag);
+    return row ? row->written : 0;
+}
+
 bool Takes(const AVOutputFormat& muxer, AVCodecID codec, std::uint32_t tag)
 {
-    return tag == 0 || !muxer.codec_tag || av_codec_get_id(muxer.codec_tag, tag) == codec;
+    return !muxer.codec_tag || av_codec_get_id(muxer.codec_tag, tag) == codec;
 }
 
 } // namespace
 
-std::uint32_t WritableTag(const AVOutputFormat& muxer, AVCodecID codec, std::uint32_t tag)
+std::uint32_t WritableTag(const AVOutputFormat& muxer, const AVCodecParameters& encoded, std::uint32_t tag)
 {
-    if (Takes(muxer, codec, tag))
-        return tag;
-    for (const auto& row : kStandIns)
-        if (row.asked == tag && Takes(muxer, codec, row.written))
-            return row.written;
+    for (const auto each : {tag, StandInFor(tag), encoded.codec_tag})
+        if (each != 0 && Takes(muxer, encoded.codec_id, each))
+            return each;
     return 0;
 }
 

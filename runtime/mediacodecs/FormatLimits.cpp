@@ -5,6 +5,7 @@
 #include "IVXCodecParameter.h"
 #include "IVXCodecs.h"
 #include "IVXRational.h"
+#include "Lookup.h"
 #include "Snapping.h"
 
 #include <algorithm>
@@ -65,6 +66,13 @@ void FitSound(IVXCodecParameter& stream, const StreamLimit& limit)
         FollowSound(stream, *codec);
 }
 
+void FitTag(IVXCodecParameter& stream, const FormatRow& format)
+{
+    const auto* row = FindRow(format.tags, &CodecTag::codecID, stream.GetCodecID());
+    if (row && stream.GetCodecTag() == 0)
+        stream.SetCodecTag(row->tag);
+}
+
 } // namespace
 
 void FitIntoContainer(IVXCodecParameter& stream, std::string_view formatName)
@@ -72,6 +80,7 @@ void FitIntoContainer(IVXCodecParameter& stream, std::string_view formatName)
     const auto* format = FindFormat(formatName);
     if (!format)
         return;
+    FitTag(stream, *format);
     for (const auto& limit : format->limits)
     {
         if (std::ranges::find(limit.codecs, stream.GetCodecID()) == limit.codecs.end())

@@ -7,8 +7,9 @@ namespace Vexlor
 
 class IVXCodecParameter;
 
-/// Brings an output's stream within what that container takes of its codec. A stream that it takes, and one
-/// of a container that is not known, stays as it is.
+/// Brings an output's stream within what that container takes of its codec, and gives it the tag that the
+/// container's players want, where it has none and the muxer's own choice is another. A stream that the
+/// container takes, and one of a container that is not known, stays as it is.
 void FitIntoContainer(IVXCodecParameter& stream, std::string_view formatName);
 
 } // namespace Vexlor

@@ -13,6 +13,7 @@ extern "C"
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
 #include <libavutil/avstring.h>
+#include <libavutil/macros.h>
 }
 
 namespace Vexlor
@@ -107,6 +108,14 @@ constexpr std::array kStereoOnly{kStereo};
 constexpr std::array kDVLimits{StreamLimit{
     .codecs = kCodecs<kPCM16>, .sampleRates = kRates<48000, 44100, 32000>, .layouts = kStereoOnly}};
 
+// Apple's players take HEVC whose parameter sets stand in the sample description alone, 'hvc1' of
+// ISO/IEC 14496-15 8.4.1; libavformat writes 'hev1' unless it is told.
+constexpr std::array kHEVCOfApple{CodecTag{kHEVC, MKTAG('h', 'v', 'c', '1')}};
+// AVI players choose their decoder by these; libavformat's own FMP4 is known to few. DX50 is what DivX 5
+// writes.
+constexpr std::array kMPEG4InAVI{CodecTag{kMPEG4, MKTAG('X', 'V', 'I', 'D')},
+                                 CodecTag{kDIVX, MKTAG('D', 'X', '5', '0')}};
+
 // MPG is written by the muxer of MPEG-2 program streams; the one named "mpeg" makes MPEG-1 system streams.
 constexpr std::array kFormats{
     FormatRow{.name = "MP4",
@@ -115,7 +124,8 @@ constexpr std::array kFormats{
               .endings = "mp4",
               .videoCodecs = kCodecs<kH264, kHEVC, kAV1, kVP9, kMPEG4, kMPEG2, kMPEG1>,
               .audioCodecs = kCodecs<kAAC, kHEAAC, kMP3, kAC3, kEAC3, kOpus, kALAC>,
-              .limits = kMP3InMP4},
+              .limits = kMP3InMP4,
+              .tags = kHEVCOfApple},
     FormatRow{.name = "MOV",
               .muxer = "mov",
               .demuxer = "mov",
@@ -123,7 +133,8 @@ constexpr std::array kFormats{
               .videoCodecs =
                   kCodecs<kH264, kHEVC, kProRes, kDNxHR, kDNxHD, kMJPEG, kDV, kDVNTSC, kMPEG4, kMPEG2, kH263>,
               .audioCodecs = kCodecs<kAAC, kHEAAC, kALAC, kPCM16, kPCM24, kPCM32, kPCMFloat, kMP3, kAC3,
-                                     kEAC3, kPCM16BE, kPCM24BE, kALaw, kMuLaw>},
+                                     kEAC3, kPCM16BE, kPCM24BE, kALaw, kMuLaw>,
+              .tags = kHEVCOfApple},
     FormatRow{.name = "MKV",
               .muxer = "matroska",
               .demuxer = "matroska",
@@ -145,7 +156,8 @@ constexpr std::array kFormats{
               .videoCodecs = kCodecs<kMPEG4, kDIVX, kH264, kMSMPEG4, kMJPEG, kMPEG2, kMPEG1, kDV, kDVNTSC,
                                      kFFV1, kWMV2, kWMV1, kH263, kH261>,
               .audioCodecs = kCodecs<kMP3, kAC3, kPCM16, kMP2, kAAC, kDTS, kPCM24, kPCMFloat, kADPCMMS,
-                                     kADPCM, kALaw, kMuLaw, kWMA2, kWMA1>},
+                                     kADPCM, kALaw, kMuLaw, kWMA2, kWMA1>,
+              .tags = kMPEG4InAVI},
     FormatRow{.name = VXFormatNameMPG,
               .muxer = "vob",
               .demuxer = "mpeg",

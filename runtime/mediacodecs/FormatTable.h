@@ -27,6 +27,13 @@ struct StreamLimit
     std::span<const int> levels = {};   ///< as above
 };
 
+/// The tag that players of a container want a codec's stream to have, where it is not its muxer's own choice.
+struct CodecTag
+{
+    int codecID;
+    std::uint32_t tag;
+};
+
 /// One container that has a name of ours.
 struct FormatRow
 {
@@ -37,6 +44,7 @@ struct FormatRow
     std::span<const int> videoCodecs; ///< what players accept, preferred first
     std::span<const int> audioCodecs; ///< as above
     std::span<const StreamLimit> limits = {};
+    std::span<const CodecTag> tags = {};
 };
 
 /// Every container with a name of ours, in the order in which a user is offered them, muxer here or not.

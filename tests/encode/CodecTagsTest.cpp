@@ -14,9 +14,13 @@ namespace Vexlor
 namespace
 {
 
-std::uint32_t TagIn(const char* muxer, std::uint32_t tag)
+std::uint32_t TagIn(const char* muxer, std::uint32_t tag, AVCodecID codec = AV_CODEC_ID_MPEG4,
+                    std::uint32_t encoders = 0)
 {
-    return WritableTag(*av_guess_format(muxer, nullptr, nullptr), AV_CODEC_ID_MPEG4, tag);
+    AVCodecParameters encoded{};
+    encoded.codec_id = codec;
+    encoded.codec_tag = encoders;
+    return WritableTag(*av_guess_format(muxer, nullptr, nullptr), encoded, tag);
 }
 
 TEST(CodecTags, TagOfTheCodecIsKept)
@@ -32,6 +36,18 @@ TEST(CodecTags, DX50StandsInForDIV5)
 TEST(CodecTags, TagOfAnotherCodecIsLeftToTheMuxer) { EXPECT_EQ(0U, TagIn("avi", MKTAG('D', 'I', 'V', '3'))); }
 
 TEST(CodecTags, NoTagIsTheMuxersChoice) { EXPECT_EQ(0U, TagIn("avi", 0)); }
+
+// ProRes tells its profile by the tag alone; the muxer's own choice is that of HQ.
+TEST(CodecTags, NoTagIsTheEncodersWhereItHasOne)
+{
+    constexpr std::uint32_t kStandard = MKTAG('a', 'p', 'c', 'n');
+    EXPECT_EQ(kStandard, TagIn("mov", 0, AV_CODEC_ID_PRORES, kStandard));
+}
+
+TEST(CodecTags, EncodersTagThatTheMuxerDoesNotKnowIsLeftToTheMuxer)
+{
+    EXPECT_EQ(0U, TagIn("mov", 0, AV_CODEC_ID_PRORES, MKTAG('n', 'o', 'n', 'e')));
+}
 
 } // namespace
 

@@ -50,7 +50,7 @@ int AddStream(AVFormatContext& output, const MuxedStream& muxed)
     stream->avg_frame_rate = encoded.frameRate;
     stream->sample_aspect_ratio = encoded.parameters->sample_aspect_ratio;
     const int code = avcodec_parameters_copy(stream->codecpar, encoded.parameters.get());
-    stream->codecpar->codec_tag = WritableTag(*output.oformat, encoded.parameters->codec_id, muxed.tag);
+    stream->codecpar->codec_tag = WritableTag(*output.oformat, *encoded.parameters, muxed.tag);
     return code;
 }
 

@@ -15,6 +15,11 @@
 
 #include <algorithm>
 
+extern "C"
+{
+#include <libavformat/avformat.h>
+}
+
 namespace Vexlor
 {
 
@@ -103,6 +108,31 @@ TEST(FormatLimits, PicturesInMXFHaveARateOfTelevision)
                                 std::to_string(video->GetFrameRate()->Den()));
 }
 
+std::uint32_t TagIn(const char* container, int codecID, std::uint32_t tag = 0)
+{
+    const auto picture = IVXCodecParameter::MallocCodecParamter(codecID);
+    picture->SetCodecTag(tag);
+    FitIntoContainer(*picture, container);
+    return picture->GetCodecTag();
+}
+
+// Apple's players refuse libavformat's own choice, hev1.
+TEST(FormatLimits, HEVCIsTaggedForApplesPlayers)
+{
+    const auto tag = IVXCodecParameter::MakeCodecTag('h', 'v', 'c', '1');
+    EXPECT_EQ(tag, TagIn("MP4", VXCodecID_HEVC));
+    EXPECT_EQ(tag, TagIn("MOV", VXCodecID_HEVC));
+    EXPECT_EQ(0U, TagIn("MKV", VXCodecID_HEVC));
+}
+
+TEST(FormatLimits, MPEG4InAVIIsTaggedForItsPlayers)
+{
+    EXPECT_EQ(IVXCodecParameter::MakeCodecTag('X', 'V', 'I', 'D'), TagIn("AVI", VXCodecID_MPEG4));
+    EXPECT_EQ(IVXCodecParameter::MakeCodecTag('D', 'X', '5', '0'), TagIn("AVI", VXCodecID_DIVX));
+}
+
+TEST(FormatLimits, AChosenTagStays) { EXPECT_EQ(7U, TagIn("MP4", VXCodecID_HEVC, 7)); }
+
 TEST(FormatLimits, AnOutputsStreamsAreFitted)
 {
     const auto output = IVXFormatParameter::MallocFormatParameter("MXF", "");
@@ -137,6 +167,18 @@ TEST(FormatLimits, AreWithinWhatTheirCodecsAccept)
                 for (const auto rate : limit.frameRates)
                     EXPECT_EQ(0, av_cmp_q(rate, SnapFrameRate(rate, codec.video))) << codec.name;
             }
+}
+
+TEST(FormatLimits, TagsAreKnownToTheMuxer)
+{
+    for (const auto& format : FormatTable())
+        for (const auto& row : format.tags)
+        {
+            const auto* muxer = av_guess_format(std::string(format.muxer).c_str(), nullptr, nullptr);
+            ASSERT_NE(nullptr, muxer) << format.name;
+            EXPECT_EQ(FindCodec(row.codecID)->avID, av_codec_get_id(muxer->codec_tag, row.tag))
+                << format.name;
+        }
 }
 
 TEST(FormatLimits, AreOfCodecsThatTheContainerLists)
