@@ -1,5 +1,6 @@
 #include "ProfileFormats.h"
 
+#include "ChannelLayouts.h"
 #include "PixelFormats.h"
 #include "VXMediaCodecs.h"
 
@@ -102,6 +103,13 @@ bool ProfileHolds(int codecID, int profile, int format)
     const int bits = BitDepthOf(format);
     return chroma >= row->leastChroma && chroma <= row->mostChroma && bits >= row->leastBits &&
            bits <= row->mostBits;
+}
+
+// Parametric stereo: ISO/IEC 14496-3 8.6.4, whose payload stands in a mono element.
+bool ProfileHoldsLayout(int codecID, int profile, std::uint64_t layout)
+{
+    constexpr int kHEv2 = 29;
+    return codecID != VXCodecID_HEAAC || profile != kHEv2 || layout == kStereo;
 }
 
 } // namespace Vexlor

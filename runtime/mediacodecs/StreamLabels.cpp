@@ -39,10 +39,31 @@ std::string GaveWay(const std::string& label, const Row& wanted, const std::stri
            " stands in";
 }
 
-int FirstToHold(const CodecCapabilities& codec, int format)
+/// What a profile has to hold: a picture's pixel format or a sound's layout.
+struct Content
 {
-    const auto found = std::ranges::find_if(codec.profiles, [&](int profile)
-                                            { return ProfileHolds(codec.codec->id, profile, format); });
+    int codecID;
+    int pixelFormat;
+    std::uint64_t layout;
+};
+
+bool Holds(int profile, const Content& content)
+{
+    return FindCodec(content.codecID)->type == VXCodecTypeVideo
+               ? ProfileHolds(content.codecID, profile, content.pixelFormat)
+               : ProfileHoldsLayout(content.codecID, profile, content.layout);
+}
+
+std::string NameOf(const Content& content)
+{
+    return FindCodec(content.codecID)->type == VXCodecTypeVideo ? PixFormatName(content.pixelFormat)
+                                                                : VXChannelLayoutName(content.layout);
+}
+
+int FirstToHold(const CodecCapabilities& codec, const Content& content)
+{
+    const auto found =
+        std::ranges::find_if(codec.profiles, [&](int profile) { return Holds(profile, content); });
     return found == codec.profiles.end() ? IVXCodecs::VXProfileUnknown : *found;
 }
 
@@ -56,17 +77,17 @@ const LevelRow* FindLevel(int codecID, int level)
     return FindRow(LevelsOf(codecID), &LevelRow::number, level);
 }
 
-void SetProfile(StreamLabels& labels, const CodecCapabilities& codec, int wanted, int format)
+void SetProfile(StreamLabels& labels, const CodecCapabilities& codec, int wanted, const Content& content)
 {
     const int codecID = codec.codec->id;
     labels.profile = FindProfile(codecID, wanted);
     if (!labels.profile && codec.codec->needsProfile)
-        labels.profile = FindProfile(codecID, FirstToHold(codec, format));
-    if (!labels.profile || ProfileHolds(codecID, labels.profile->number, format))
+        labels.profile = FindProfile(codecID, FirstToHold(codec, content));
+    if (!labels.profile || Holds(labels.profile->number, content))
         return;
     const auto& refused = *labels.profile;
-    labels.profile = FindProfile(codecID, FirstToHold(codec, format));
-    labels.changes.push_back(GaveWay("profile", refused, PixFormatName(format), labels.profile));
+    labels.profile = FindProfile(codecID, FirstToHold(codec, content));
+    labels.changes.push_back(GaveWay("profile", refused, NameOf(content), labels.profile));
 }
 
 void SetLevel(StreamLabels& labels, int wanted, const VXLevelStream& stream)
@@ -98,7 +119,8 @@ StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParamet
 {
     StreamLabels labels;
     const bool isOpen = !FindProfile(codec.codec->id, stream.GetProfile());
-    SetProfile(labels, codec, isOpen ? ProfileNeededBy(stream) : stream.GetProfile(), pixelFormat);
+    const Content content{codec.codec->id, pixelFormat, stream.GetChannelLayout()};
+    SetProfile(labels, codec, isOpen ? ProfileNeededBy(stream) : stream.GetProfile(), content);
     if (isOpen)
         labels.changes.clear(); // nobody asked for the one that gave way
     SetLevel(labels, stream.GetLevel(), LevelStream(stream, labels.profile));

@@ -20,8 +20,8 @@ struct StreamLabels
 };
 
 /// The labels nearest to the stream's own that its format, size, rates and bitrate allow. A profile that
-/// cannot hold the pixel format gives way to the first on offer that can, a level that cannot hold the stream
-/// to the lowest that can; where there is none, the encoder chooses.
+/// cannot hold the pixel format or the layout gives way to the first on offer that can, a level that cannot
+/// hold the stream to the lowest that can; where there is none, the encoder chooses.
 StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParameter& stream, int pixelFormat);
 
 } // namespace Vexlor

@@ -84,6 +84,26 @@ TEST(StreamLabels, ChangeNamesBothLabelsAndTheCause)
     EXPECT_EQ("profile Baseline cannot hold YUV 4:2:2; High 4:2:2 stands in", labels.changes.at(0));
 }
 
+StreamLabels LabelsOfHEv2(std::uint64_t layout)
+{
+    const auto sound = Sound(VXCodecID_HEAAC);
+    sound->SetProfile(29);
+    sound->SetChannelLayout(layout);
+    return FittingLabels(*CapabilitiesOf(VXCodecID_HEAAC), *sound, VXPixFormat_None);
+}
+
+TEST(StreamLabels, ParametricStereoIsOfStereoAlone)
+{
+    EXPECT_EQ(29, LabelsOfHEv2(kStereo).profile->number);
+    EXPECT_EQ(0U, LabelsOfHEv2(kStereo).changes.size());
+}
+
+TEST(StreamLabels, ParametricStereoGivesWayToTheOtherLayouts)
+{
+    EXPECT_EQ(5, LabelsOfHEv2(kMono).profile->number);
+    EXPECT_EQ("profile HE v2 cannot hold 5.1; HE stands in", LabelsOfHEv2(kLayout51).changes.at(0));
+}
+
 } // namespace
 
 } // namespace Vexlor
