@@ -1,6 +1,8 @@
 #include "BitrateModel.h"
 
 #include "BitrateMath.h"
+#include "IVXCodecParameter.h"
+#include "IVXRational.h"
 #include "LevelTable.h"
 
 namespace Vexlor
@@ -55,28 +57,35 @@ double RateFactor(const VideoBitrateRow& row, double frameRate)
 // Chroma samples cost half of what luma samples do, which puts 4:2:2 at a fifth more than 4:2:0.
 double SampleCost(double samplesPerPixel) { return 1.0 + (samplesPerPixel - 1.0) / 2.0; }
 
-double ChromaFactor(const VideoBitrateRow& row, int format)
-{
-    const double samples = SamplesPerPixel(format);
-    if (row.fullChroma > 0)
-        return samples < kFullChroma ? 1.0 : row.fullChroma;
-    return SampleCost(samples) / SampleCost(1.5);
-}
+double ChromaFactor(int format) { return SampleCost(SamplesPerPixel(format)) / SampleCost(1.5); }
 
-// Two more bits a sample cost a quarter more, as YouTube's HDR figures do. The ladders of codecs that are
-// published for more than 8 bits hold as they are.
+// Two more bits a sample cost a quarter more, as YouTube's HDR figures do.
 double DepthFactor(const VideoBitrateRow& row, int format)
 {
     return row.kind == VideoBitrateKind::Predicted ? std::pow(1.25, (BitDepthOf(format) - 8) / 2.0) : 1.0;
 }
 
+double Along(const GradeLadder& ladder, const PictureStream& stream)
+{
+    return 1000.0 * AlongLadder(ladder.points, PixelsOf(stream)) * ladder.factor;
+}
+
 double LadderBitrate(const VideoBitrateRow& row, const PictureStream& stream, std::size_t grade)
 {
-    const bool isDeep = row.deepGrade > 0 && BitDepthOf(stream.format) > 8;
-    const auto& ladder = row.grades.at(isDeep ? std::max(grade, row.deepGrade) : grade);
-    return 1000.0 * AlongLadder(ladder.points, PixelsOf(stream)) * ladder.factor * row.factor *
-           RateFactor(row, FrameRateOf(stream)) * ChromaFactor(row, stream.format) *
-           DepthFactor(row, stream.format);
+    return Along(row.grades.at(grade), stream) * row.factor * RateFactor(row, FrameRateOf(stream)) *
+           ChromaFactor(stream.format) * DepthFactor(row, stream.format);
+}
+
+const GradeProfiles* ProfilesFor(const CodecCapabilities& codec, int format)
+{
+    const auto* told = FindGradeProfiles(codec.codec->id, format);
+    return told ? told : FindGradeProfiles(codec.codec->id, codec.formats.front());
+}
+
+double BitrateOfProfile(const CodecCapabilities& codec, const PictureStream& stream, std::size_t grade)
+{
+    const auto* row = ProfilesFor(codec, stream.format);
+    return row ? ProfileBitrate(row->codecID, row->profiles.at(grade), stream) : kLeastBitrate;
 }
 
 double LosslessBitrate(const VideoBitrateRow& row, const PictureStream& stream)
@@ -117,6 +126,8 @@ double Bitrate(const VideoBitrateRow& row, const CodecCapabilities& codec, const
     {
     case VideoBitrateKind::Lossless:
         return LosslessBitrate(row, stream);
+    case VideoBitrateKind::Profiled:
+        return BitrateOfProfile(codec, stream, grade);
     case VideoBitrateKind::Listed:
         return BitrateOfList(codec, stream, grade);
     default:
@@ -136,6 +147,11 @@ double MaxBitrate(const VideoBitrateRow& row)
 
 } // namespace
 
+PictureStream PictureOf(const IVXCodecParameter& stream, int format)
+{
+    return {stream.GetWidth(), stream.GetHeight(), stream.GetFrameRate()->GetDoubleValue(), format};
+}
+
 int VideoBitrate(const CodecCapabilities& codec, const PictureStream& stream, Grade level)
 {
     const auto* row = FindVideoBitrate(codec.codec->id);
@@ -143,6 +159,18 @@ int VideoBitrate(const CodecCapabilities& codec, const PictureStream& stream, Gr
         return 1;
     const double bitrate = Bitrate(*row, codec, stream, IndexOf(level));
     return ToBitrate(std::max(bitrate, kLeastBitrate), MaxBitrate(*row));
+}
+
+int ProfileBitrate(int codecID, int profile, const PictureStream& stream)
+{
+    const auto* ladder = FindProfileLadder(codecID, profile);
+    return ladder ? ToBitrate(Along(*ladder, stream) * FrameRateOf(stream) / kReferenceRate) : 0;
+}
+
+int ProfileAtBitrate(const CodecCapabilities& codec, const PictureStream& stream, int bitrate)
+{
+    const auto* row = ProfilesFor(codec, stream.format);
+    return row ? row->profiles.at(IndexOf(VideoGrade(codec, stream, bitrate))) : IVXCodecs::VXProfileUnknown;
 }
 
 Grade VideoGrade(const CodecCapabilities& codec, const PictureStream& stream, int bitrate)

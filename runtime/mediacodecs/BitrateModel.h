@@ -9,6 +9,8 @@
 namespace Vexlor
 {
 
+class IVXCodecParameter;
+
 /// What a video stream's bitrate follows from. Any values are taken: a side or a rate that is none reads as a
 /// usual one, an unknown format as 8-bit 4:2:0.
 struct PictureStream
@@ -18,6 +20,9 @@ struct PictureStream
     double frameRate;
     int format;
 };
+
+/// The picture of a stream's record, in that pixel format.
+PictureStream PictureOf(const IVXCodecParameter& stream, int format);
 
 /// What an audio stream's bitrate follows from; as above, an unknown layout reads as stereo.
 struct SoundStream
@@ -32,6 +37,11 @@ struct SoundStream
 int VideoBitrate(const CodecCapabilities& codec, const PictureStream& stream, IVXCodecs::QualityLevel level);
 /// The bitrate of an audio codec's stream at a grade; as above, and one that the codec's standard has.
 int AudioBitrate(const CodecCapabilities& codec, const SoundStream& stream, IVXCodecs::QualityLevel level);
+/// The bitrate of a profile that has one of its own, whatever the grade; 0 for one that has not.
+int ProfileBitrate(int codecID, int profile, const PictureStream& stream);
+/// The profile that a bitrate asks for, where profiles have bitrates of their own: that of the grade which it
+/// comes nearest to. VXProfileUnknown for other codecs.
+int ProfileAtBitrate(const CodecCapabilities& codec, const PictureStream& stream, int bitrate);
 /// The grade whose bitrate comes nearest by ratio, the higher one on a tie: Best for a codec without grades.
 IVXCodecs::QualityLevel VideoGrade(const CodecCapabilities& codec, const PictureStream& stream, int bitrate);
 /// As above.

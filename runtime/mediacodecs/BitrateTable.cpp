@@ -132,7 +132,8 @@ constexpr Grades kMPEG4{GradeLadder{kMPEG4Normal, kLow}, {kMPEG4Normal}, {kMPEG4
 // Published at 29.97 fps; a frame costs the same at every rate.
 constexpr double kPer30 = 1001.0 / 1000.0;
 
-// Apple ProRes White Paper, January 2020, target data rates: Proxy, LT, 422 and HQ.
+// Apple ProRes White Paper, January 2020, target data rates: Proxy, LT, 422 and HQ. 4444 and 4444 XQ, without
+// alpha, are to HQ at every size as they are at 1080p.
 constexpr std::array kProResProxy{LadderPoint{720, 486, 12000}, LadderPoint{1280, 720, 23000},
                                   LadderPoint{1920, 1080, 45000}, LadderPoint{3840, 2160, 182000}};
 constexpr std::array kProResLT{LadderPoint{720, 486, 29000}, LadderPoint{1280, 720, 51000},
@@ -141,20 +142,40 @@ constexpr std::array kProRes422{LadderPoint{720, 486, 42000}, LadderPoint{1280, 
                                 LadderPoint{1920, 1080, 147000}, LadderPoint{3840, 2160, 589000}};
 constexpr std::array kProResHQ{LadderPoint{720, 486, 63000}, LadderPoint{1280, 720, 110000},
                                LadderPoint{1920, 1080, 220000}, LadderPoint{3840, 2160, 884000}};
-constexpr double kProRes4444 = 330.0 / 220.0; // 4444 against HQ, 1080p
+constexpr double kProRes4444 = 330.0 / 220.0;
+constexpr double kProResXQ = 500.0 / 220.0;
 
-constexpr Grades kProRes{
-    GradeLadder{kProResProxy, kPer30}, {kProResLT, kPer30}, {kProRes422, kPer30}, {kProResHQ, kPer30}};
-
-// Avid, bandwidth tables of the DNxHR codec, August 2015: LB, SQ and HQ. There is no fourth of 8 bits; HQX,
-// the only one of more, has the figures of HQ, and 444 twice those.
+// Avid, bandwidth tables of the DNxHR codec, August 2015: LB, SQ and HQ. HQX has the figures of HQ, and 444
+// twice those.
 constexpr std::array kDNxHRLB{LadderPoint{1920, 1080, 45000}, LadderPoint{3840, 2160, 179700}};
 constexpr std::array kDNxHRSQ{LadderPoint{1920, 1080, 145000}, LadderPoint{3840, 2160, 577500}};
 constexpr std::array kDNxHRHQ{LadderPoint{1920, 1080, 220000}, LadderPoint{3840, 2160, 873100}};
 constexpr double kDNxHR444 = 2.0;
 
-constexpr Grades kDNxHR{
-    GradeLadder{kDNxHRLB, kPer30}, {kDNxHRSQ, kPer30}, {kDNxHRHQ, kPer30}, {kDNxHRHQ, kPer30}};
+// By the numbers of the profile table.
+constexpr std::array kProfileLadders{
+    ProfileLadder{VXCodecID_ProRes, 0, {kProResProxy, kPer30}},
+    ProfileLadder{VXCodecID_ProRes, 1, {kProResLT, kPer30}},
+    ProfileLadder{VXCodecID_ProRes, 2, {kProRes422, kPer30}},
+    ProfileLadder{VXCodecID_ProRes, 3, {kProResHQ, kPer30}},
+    ProfileLadder{VXCodecID_ProRes, 4, {kProResHQ, kPer30* kProRes4444}},
+    ProfileLadder{VXCodecID_ProRes, 5, {kProResHQ, kPer30* kProResXQ}},
+    ProfileLadder{VXCodecID_DNxHR, 1, {kDNxHRLB, kPer30}},
+    ProfileLadder{VXCodecID_DNxHR, 2, {kDNxHRSQ, kPer30}},
+    ProfileLadder{VXCodecID_DNxHR, 3, {kDNxHRHQ, kPer30}},
+    ProfileLadder{VXCodecID_DNxHR, 4, {kDNxHRHQ, kPer30}},
+    ProfileLadder{VXCodecID_DNxHR, 5, {kDNxHRHQ, kPer30* kDNxHR444}},
+};
+
+// The format offered first stands first: it is taken for one that the codec does not have.
+constexpr std::array kGradeProfiles{
+    GradeProfiles{VXCodecID_ProRes, kPixFormatYUV422P10, {0, 1, 2, 3}}, // Proxy, LT, Standard, HQ
+    GradeProfiles{VXCodecID_ProRes, kPixFormatYUV444P10, {4, 4, 4, 5}}, // 4444, at Best 4444 XQ
+    GradeProfiles{VXCodecID_ProRes, kPixFormatYUVA444P10, {4, 4, 4, 5}},
+    GradeProfiles{VXCodecID_DNxHR, kPixFormatYUV422P, {1, 2, 3, 3}},   // LB, SQ, HQ
+    GradeProfiles{VXCodecID_DNxHR, kPixFormatYUV422P10, {4, 4, 4, 4}}, // HQX
+    GradeProfiles{VXCodecID_DNxHR, kPixFormatYUV444P10, {5, 5, 5, 5}}, // 444
+};
 
 // G. K. Wallace, The JPEG Still Picture Compression Standard, Communications of the ACM, April 1991: up to
 // 0.5 bits a pixel are of moderate to good quality, up to 0.75 good to very good, up to 1.5 excellent, and 2
@@ -197,9 +218,8 @@ constexpr std::array kVideo{
     VideoBitrateRow{.codecID = VXCodecID_FLV1, .grades = kMPEG4, .factor = 1.25},
 
     VideoBitrateRow{.codecID = VXCodecID_MJPEG, .kind = Intra, .grades = kJPEG},
-    VideoBitrateRow{.codecID = VXCodecID_ProRes, .kind = Intra, .grades = kProRes, .fullChroma = kProRes4444},
-    VideoBitrateRow{
-        .codecID = VXCodecID_DNxHR, .kind = Intra, .grades = kDNxHR, .fullChroma = kDNxHR444, .deepGrade = 2},
+    VideoBitrateRow{.codecID = VXCodecID_ProRes, .kind = Profiled},
+    VideoBitrateRow{.codecID = VXCodecID_DNxHR, .kind = Profiled},
     // Google, An image format for the Web (developers.google.com/speed/webp): 25 to 34 % smaller than JPEG.
     VideoBitrateRow{.codecID = VXCodecID_WebP, .kind = Intra, .grades = kJPEG, .factor = 0.7},
     VideoBitrateRow{.codecID = VXCodecID_DNxHD, .kind = Listed},
@@ -276,6 +296,22 @@ constexpr std::array kListed{
 const VideoBitrateRow* FindVideoBitrate(int codecID)
 {
     return FindRow(std::span<const VideoBitrateRow>(kVideo), &VideoBitrateRow::codecID, codecID);
+}
+
+const GradeLadder* FindProfileLadder(int codecID, int profile)
+{
+    for (const auto& row : kProfileLadders)
+        if (row.codecID == codecID && row.profile == profile)
+            return &row.ladder;
+    return nullptr;
+}
+
+const GradeProfiles* FindGradeProfiles(int codecID, int format)
+{
+    for (const auto& row : kGradeProfiles)
+        if (row.codecID == codecID && row.format == format)
+            return &row;
+    return nullptr;
 }
 
 std::span<const ListedBitrate> ListedBitrates() { return kListed; }

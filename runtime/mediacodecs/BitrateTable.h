@@ -32,6 +32,7 @@ enum class VideoBitrateKind
 {
     Predicted, ///< ladders for 8-bit 4:2:0; the more frames a second, the less one costs
     Intra,     ///< ladders; every frame costs the same
+    Profiled,  ///< as Intra, but the ladder is that of a profile, which the grade chooses: GradeProfiles
     Lossless,  ///< a share of the pixels' own bitrate, whatever the grade
     Listed,    ///< the rows of ListedBitrates
 };
@@ -42,13 +43,27 @@ struct VideoBitrateRow
     int codecID;
     VideoBitrateKind kind = VideoBitrateKind::Predicted;
     std::array<GradeLadder, kGrades> grades = {};
-    double factor = 1.0;       ///< against the codec whose ladders these are
-    double fullChroma = 0;     ///< 4:4:4 against 4:2:2, for ladders of 4:2:2
-    std::size_t deepGrade = 0; ///< the lowest grade that samples of more than 8 bits have
-    int bits = 0;              ///< of a pixel as it is stored, for a lossless codec; 0: those of its format
-    double share = 1.0;        ///< of the pixels' own bitrate, for a lossless codec
+    double factor = 1.0; ///< against the codec whose ladders these are
+    int bits = 0;        ///< of a pixel as it is stored, for a lossless codec; 0: those of its format
+    double share = 1.0;  ///< of the pixels' own bitrate, for a lossless codec
     std::int64_t maxBitrate =
         0; ///< bits a second; 0: the most that a level of the codec's allows, if it has levels
+};
+
+/// What pictures of one profile need, whatever they show.
+struct ProfileLadder
+{
+    int codecID;
+    int profile;
+    GradeLadder ladder;
+};
+
+/// The profiles of a codec of kind Profiled that hold one pixel format, by grade.
+struct GradeProfiles
+{
+    int codecID;
+    int format;
+    std::array<int, kGrades> profiles;
 };
 
 /// The only bitrates of a codec for one size, format and frame rate.
@@ -98,6 +113,10 @@ struct SpeechModes
 
 /// The row of a video codec; null when there is none.
 const VideoBitrateRow* FindVideoBitrate(int codecID);
+/// The ladder of a profile; null when it has none of its own.
+const GradeLadder* FindProfileLadder(int codecID, int profile);
+/// The profiles by grade; null for a format that the codec has none for, and for a codec of another kind.
+const GradeProfiles* FindGradeProfiles(int codecID, int format);
 /// The rows of all codecs of kind Listed; of one codec and format by size, then by frame rate, both rising.
 std::span<const ListedBitrate> ListedBitrates();
 /// The row of an audio codec; null when there is none.

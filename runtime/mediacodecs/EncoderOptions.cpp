@@ -22,6 +22,11 @@ void EncoderOptions::Add(std::string_view name, std::string_view value)
     av_dict_set(&m_options, key.c_str(), joined.c_str(), 0);
 }
 
+bool EncoderOptions::Has(std::string_view name) const
+{
+    return av_dict_get(m_options, std::string(name).c_str(), nullptr, 0) != nullptr;
+}
+
 int EncoderOptions::Open(AVCodecContext& context, const AVCodec& encoder)
 {
     const int error = avcodec_open2(&context, &encoder, &m_options);

@@ -25,6 +25,8 @@ public:
     int Parse(std::string_view text);
     /// Adds an option. One that is there already, and takes a list of options itself, has the value appended.
     void Add(std::string_view name, std::string_view value);
+    /// True when the option is there already.
+    bool Has(std::string_view name) const;
     /// Opens the encoder; FFmpeg's error code when it does not open, or does not know one of the options.
     int Open(AVCodecContext& context, const AVCodec& encoder);
 

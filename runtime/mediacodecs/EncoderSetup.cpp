@@ -1,5 +1,6 @@
 #include "EncoderSetup.h"
 
+#include "BitrateModel.h"
 #include "CodecCapabilities.h"
 #include "EncoderOptions.h"
 #include "EncoderTable.h"
@@ -40,6 +41,7 @@ private:
     void SetPicture(const IVXCodecParameter& stream);
     void SetSound(const IVXCodecParameter& stream);
     void LimitBitrate();
+    void SetQuality(const IVXCodecParameter& stream);
     void SetLabels(const IVXCodecParameter& stream);
     template <class Label>
     void SetLabel(int& number, std::string_view option, const Label& label);
@@ -148,6 +150,14 @@ void Opening::LimitBitrate()
     bitrate = m_row.mostBitrate;
 }
 
+void Opening::SetQuality(const IVXCodecParameter& stream)
+{
+    if (m_row.qualities.front() == 0 || stream.GetBitrate() <= 0 || m_options.Has("quality"))
+        return;
+    const auto grade = VideoGrade(m_codec, PictureOf(stream, stream.GetFormat()), stream.GetBitrate());
+    m_options.Add("quality", std::to_string(m_row.qualities.at(static_cast<std::size_t>(grade))));
+}
+
 template <class Label>
 void Opening::SetLabel(int& number, std::string_view option, const Label& label)
 {
@@ -199,6 +209,7 @@ int Opening::TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish)
     if (error < 0)
         return error;
     m_options.Parse(m_row.always);
+    SetQuality(stream);
     SetLabels(stream);
     const int opened = m_options.Open(*m_setup.context, m_encoder);
     if (m_setup.context->profile == VX_AV_PROFILE(UNKNOWN)) // muxers ask for it, some encoders forget to say

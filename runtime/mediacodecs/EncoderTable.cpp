@@ -27,6 +27,8 @@ constexpr std::array kEncoders{
     EncoderRow{.encoder = "prores_ks", .profileOption = "profile"},
     EncoderRow{.encoder = "dnxhd", .profileOption = "profile"},
     EncoderRow{.encoder = "mjpeg", .fullRange = true},
+    // Measured with libwebp 1.2.4 on a photograph and on a drawing, to come near the bitrates of the grades.
+    EncoderRow{.encoder = "libwebp_anim", .qualities = {40, 60, 80, 90}},
 };
 
 } // namespace

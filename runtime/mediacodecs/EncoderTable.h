@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string_view>
 
 namespace Vexlor
@@ -15,6 +16,7 @@ struct EncoderRow
     std::string_view always = {};      ///< options that are set whatever the stream is: "name=value"
     int mostBitrate = 0;               ///< bits a second; 0: any
     bool fullRange = false;            ///< takes limited range only as an unofficial extension
+    std::array<int, 4> qualities = {}; ///< its "quality" by grade, where it knows no bitrate; 0: it knows
 };
 
 /// The row of an encoder; one with its name alone for an encoder that needs no more.

@@ -79,7 +79,7 @@ constexpr std::array kAV1Profiles{
 
 // The six members of the family as the encoder numbers them; SMPTE RDD 36 leaves them to the container's tag:
 // apco, apcs, apcn, apch, ap4h, ap4x. The one without an addition to its name is what is made without a
-// choice.
+// choice and without a bitrate.
 constexpr std::array kProResProfiles{
     ProfileRow{2, VX_AV_PROFILE(PRORES_STANDARD), "Standard", "prores_ks", "standard"},
     ProfileRow{3, VX_AV_PROFILE(PRORES_HQ), "HQ", "prores_ks", "hq"},
@@ -90,7 +90,7 @@ constexpr std::array kProResProfiles{
 };
 
 // Compression identifiers 1274 down to 1270, SMPTE ST 2019-1; the numbers are libavcodec's. SQ stands before
-// LB: what is made without a choice is for viewing, not for a proxy.
+// LB: what is made without a choice and without a bitrate is for viewing, not for a proxy.
 constexpr std::array kDNxHRProfiles{
     ProfileRow{2, VX_AV_PROFILE(DNXHR_SQ), "SQ", "dnxhd", "dnxhr_sq"},
     ProfileRow{1, VX_AV_PROFILE(DNXHR_LB), "LB", "dnxhd", "dnxhr_lb"},

@@ -1,5 +1,6 @@
 #include "StreamLabels.h"
 
+#include "BitrateModel.h"
 #include "CodecCapabilities.h"
 #include "IVXCodecParameter.h"
 #include "IVXCodecs.h"
@@ -45,6 +46,7 @@ struct Content
     int codecID;
     int pixelFormat;
     std::uint64_t layout;
+    int profileOfBitrate; ///< where profiles have bitrates of their own, so that a grade is one of them
 };
 
 bool Holds(int profile, const Content& content)
@@ -60,8 +62,10 @@ std::string NameOf(const Content& content)
                                                                 : VXChannelLayoutName(content.layout);
 }
 
-int FirstToHold(const CodecCapabilities& codec, const Content& content)
+int BestToHold(const CodecCapabilities& codec, const Content& content)
 {
+    if (content.profileOfBitrate != IVXCodecs::VXProfileUnknown)
+        return content.profileOfBitrate;
     const auto found =
         std::ranges::find_if(codec.profiles, [&](int profile) { return Holds(profile, content); });
     return found == codec.profiles.end() ? IVXCodecs::VXProfileUnknown : *found;
@@ -82,11 +86,11 @@ void SetProfile(StreamLabels& labels, const CodecCapabilities& codec, int wanted
     const int codecID = codec.codec->id;
     labels.profile = FindProfile(codecID, wanted);
     if (!labels.profile && codec.codec->needsProfile)
-        labels.profile = FindProfile(codecID, FirstToHold(codec, content));
+        labels.profile = FindProfile(codecID, BestToHold(codec, content));
     if (!labels.profile || Holds(labels.profile->number, content))
         return;
     const auto& refused = *labels.profile;
-    labels.profile = FindProfile(codecID, FirstToHold(codec, content));
+    labels.profile = FindProfile(codecID, BestToHold(codec, content));
     labels.changes.push_back(GaveWay("profile", refused, NameOf(content), labels.profile));
 }
 
@@ -113,13 +117,21 @@ VXLevelStream LevelStream(const IVXCodecParameter& stream, const ProfileRow* pro
     return seen;
 }
 
+int ProfileOfBitrate(const CodecCapabilities& codec, const IVXCodecParameter& stream, int pixelFormat)
+{
+    if (stream.GetBitrate() <= 0)
+        return IVXCodecs::VXProfileUnknown;
+    return ProfileAtBitrate(codec, PictureOf(stream, pixelFormat), stream.GetBitrate());
+}
+
 } // namespace
 
 StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParameter& stream, int pixelFormat)
 {
     StreamLabels labels;
     const bool isOpen = !FindProfile(codec.codec->id, stream.GetProfile());
-    const Content content{codec.codec->id, pixelFormat, stream.GetChannelLayout()};
+    const Content content{codec.codec->id, pixelFormat, stream.GetChannelLayout(),
+                          ProfileOfBitrate(codec, stream, pixelFormat)};
     SetProfile(labels, codec, isOpen ? ProfileNeededBy(stream) : stream.GetProfile(), content);
     if (isOpen)
         labels.changes.clear(); // nobody asked for the one that gave way

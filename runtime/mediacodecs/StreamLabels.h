@@ -21,7 +21,9 @@ struct StreamLabels
 
 /// The labels nearest to the stream's own that its format, size, rates and bitrate allow. A profile that
 /// cannot hold the pixel format or the layout gives way to the first on offer that can, a level that cannot
-/// hold the stream to the lowest that can; where there is none, the encoder chooses.
+/// hold the stream to the lowest that can; where there is none, the encoder chooses. Where profiles have
+/// bitrates of their own (ProRes, DNxHR), the one nearest to the stream's is the first, and is taken where
+/// the stream leaves its profile open.
 StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParameter& stream, int pixelFormat);
 
 } // namespace Vexlor

@@ -2,6 +2,7 @@
 
 #include "IVXCodecs.h"
 #include "VXMediaCodecs.h"
+#include "runtime/mediacodecs/BitrateModel.h"
 #include "runtime/mediacodecs/CodecCapabilities.h"
 #include "runtime/mediacodecs/LevelTable.h"
 #include "runtime/mediacodecs/ProfileTable.h"
@@ -39,7 +40,7 @@ constexpr LabelCase kLabels[] = {
     {"HighTierIsOfferedToHighTierOnly", VXCodecID_HEVC, VXPixFormat_YUV420P, 1, 30, "Main, 3", 1},
     {"LevelOfMPEG2NeedsAProfile", VXCodecID_MPEG2, VXPixFormat_YUV420P, kUnknown, 8, "Main, Main", 0},
     {"AndOneThatHoldsTheFormat", VXCodecID_MPEG2, kPixFormatYUV422P, kUnknown, 8, "4:2:2, Main", 0},
-    {"DNxHRNeedsAProfile", VXCodecID_DNxHR, kPixFormatYUV422P, kUnknown, kUnknown, "SQ, -", 0},
+    {"DNxHRNeedsAProfile", VXCodecID_DNxHR, kPixFormatYUV422P, kUnknown, kUnknown, "LB, -", 0},
     {"AndOneOfTenBits", VXCodecID_DNxHR, kPixFormatYUV422P10, kUnknown, kUnknown, "HQX, -", 0},
     {"NumberThatIsNotKnown", VXCodecID_H264, VXPixFormat_YUV420P, 12345, 12345, "-, -", 0},
     {"CodecWithoutLabels", VXCodecID_VP8, VXPixFormat_YUV420P, 1, 1, "-, -", 0},
@@ -75,6 +76,62 @@ TEST_P(Labels, TellWhatGaveWay) { EXPECT_EQ(GetParam().changes, labels.changes.s
 
 INSTANTIATE_TEST_SUITE_P(Streams, Labels, testing::ValuesIn(kLabels),
                          [](const auto& test) { return test.param.name; });
+
+/// The profiles that the four grades of a codec come to.
+struct GradeCase
+{
+    const char* name;
+    int codecID;
+    int format;
+    const char* profiles;
+};
+
+constexpr GradeCase kGradesOfProfiles[] = {
+    {"ProRes422", VXCodecID_ProRes, kPixFormatYUV422P10, "Proxy LT Standard HQ "},
+    {"ProRes444", VXCodecID_ProRes, kPixFormatYUV444P10, "4444 4444 4444 4444 XQ "},
+    {"ProResAlpha", VXCodecID_ProRes, kPixFormatYUVA444P10, "4444 4444 4444 4444 XQ "},
+    {"DNxHR422", VXCodecID_DNxHR, kPixFormatYUV422P, "LB SQ HQ HQ "},
+    {"DNxHRTenBits", VXCodecID_DNxHR, kPixFormatYUV422P10, "HQX HQX HQX HQX "},
+    {"DNxHR444", VXCodecID_DNxHR, kPixFormatYUV444P10, "444 444 444 444 "},
+};
+
+class ProfilesOfGrades : public testing::TestWithParam<GradeCase>
+{
+};
+
+TEST_P(ProfilesOfGrades, FollowTheBitrateWhereTheProfileIsOpen)
+{
+    const auto& test = GetParam();
+    const auto& codec = *CapabilitiesOf(test.codecID);
+    const auto stream = Picture(test.codecID);
+    std::string profiles;
+    for (const int grade : {0, 1, 2, 3})
+    {
+        const auto picture = PictureOf(*stream, test.format);
+        stream->SetBitrate(VideoBitrate(codec, picture, IVXCodecs::QualityLevel{grade}));
+        profiles += std::string(FittingLabels(codec, *stream, test.format).profile->name) + ' ';
+    }
+    EXPECT_EQ(test.profiles, profiles);
+}
+
+INSTANTIATE_TEST_SUITE_P(Codecs, ProfilesOfGrades, testing::ValuesIn(kGradesOfProfiles),
+                         [](const auto& test) { return test.param.name; });
+
+TEST(StreamLabels, AProfileIsTheFirstThatHoldsTheFormatWhereNoBitrateIsTold)
+{
+    const auto stream = Picture(VXCodecID_ProRes);
+    stream->SetBitrate(0);
+    EXPECT_EQ("Standard",
+              FittingLabels(*CapabilitiesOf(VXCodecID_ProRes), *stream, kPixFormatYUV422P10).profile->name);
+}
+
+TEST(StreamLabels, AProfileThatIsAskedForStaysWhateverTheBitrate)
+{
+    const auto stream = Picture(VXCodecID_ProRes);
+    stream->SetProfile(3);
+    EXPECT_EQ("HQ",
+              FittingLabels(*CapabilitiesOf(VXCodecID_ProRes), *stream, kPixFormatYUV422P10).profile->name);
+}
 
 TEST(StreamLabels, ChangeNamesBothLabelsAndTheCause)
 {

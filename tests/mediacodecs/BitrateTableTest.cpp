@@ -2,6 +2,8 @@
 #include "VXMediaCodecs.h"
 #include "runtime/mediacodecs/ChannelLayouts.h"
 #include "runtime/mediacodecs/CodecTable.h"
+#include "runtime/mediacodecs/ProfileFormats.h"
+#include "runtime/mediacodecs/ProfileTable.h"
 
 #include <gtest/gtest.h>
 
@@ -48,6 +50,32 @@ TEST(BitrateTable, CodecsWithLaddersHaveOneForEveryGrade)
             for (const auto& ladder : row->grades)
                 EXPECT_EQ(hasLadders, !ladder.points.empty()) << codec.name;
         }
+}
+
+bool IsProfiled(const CodecRow& codec)
+{
+    const auto* row = FindVideoBitrate(codec.id);
+    return row && row->kind == VideoBitrateKind::Profiled;
+}
+
+TEST(BitrateTable, EveryOfferedFormatOfAProfiledCodecHasProfilesThatHoldIt)
+{
+    for (const auto& codec : CodecTable())
+        for (const int format : codec.formats)
+        {
+            const auto* row = FindGradeProfiles(codec.id, format);
+            ASSERT_EQ(IsProfiled(codec), row != nullptr) << codec.name << ' ' << format;
+            for (const int profile : row ? row->profiles : std::array<int, kGrades>{})
+                EXPECT_TRUE(!row || ProfileHolds(codec.id, profile, format)) << codec.name << ' ' << profile;
+        }
+}
+
+TEST(BitrateTable, EveryProfileOfAProfiledCodecHasItsLadder)
+{
+    for (const auto& codec : CodecTable())
+        for (const auto& profile : ProfilesOf(codec.id))
+            EXPECT_EQ(IsProfiled(codec), FindProfileLadder(codec.id, profile.number) != nullptr)
+                << codec.name << ' ' << profile.name;
 }
 
 TEST(BitrateTable, ListedBitratesRise)

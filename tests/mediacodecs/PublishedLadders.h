@@ -218,6 +218,13 @@ inline const std::vector<PublishedLadder>& PublishedLadders()
          kPixFormatYUV444P10,
          k30,
          {{1920, 1080, 330000}},
+         QualityLevelHigh},
+        {"ProResXQ",
+         "Apple ProRes 4444 XQ",
+         VXCodecID_ProRes,
+         kPixFormatYUV444P10,
+         k30,
+         {{1920, 1080, 500000}},
          QualityLevelBest},
         // Avid, bandwidth tables of the DNxHR codec, August 2015: bytes a frame, by the rate
         {"DNxHRLB25",

@@ -134,7 +134,14 @@ TEST(VideoBitrate, OfProResFollowsItsProfiles)
     };
     EXPECT_EQ(45'000'000, of(kPixFormatYUV422P10, Grade::QualityLevelLow));
     EXPECT_EQ(147'000'000, of(kPixFormatYUV422P10, Grade::QualityLevelHigh));
-    EXPECT_EQ(330'000'000, of(kPixFormatYUV444P10, Grade::QualityLevelBest));
+    EXPECT_EQ(330'000'000, of(kPixFormatYUV444P10, Grade::QualityLevelLow));
+    EXPECT_EQ(500'000'000, of(kPixFormatYUVA444P10, Grade::QualityLevelBest));
+}
+
+TEST(VideoBitrate, OfProResInAFormatThatItLacksIsThatOfTheOneOfferedFirst)
+{
+    EXPECT_EQ(102'000'000,
+              Video(VXCodecID_ProRes, {1920, 1080, 30000 / 1001.0, k420}, Grade::QualityLevelNormal));
 }
 
 TEST(VideoBitrate, OfDNxHRWithMoreThan8BitsIsThatOfHQX)
