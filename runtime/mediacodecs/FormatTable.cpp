@@ -3,6 +3,7 @@
 #include "ChannelLayouts.h"
 #include "CodecCapabilities.h"
 #include "Lookup.h"
+#include "PixelFormats.h"
 #include "VXMediaCodecs.h"
 
 #include <array>
@@ -108,6 +109,81 @@ constexpr std::array kStereoOnly{kStereo};
 constexpr std::array kDVLimits{StreamLimit{
     .codecs = kCodecs<kPCM16>, .sampleRates = kRates<48000, 44100, 32000>, .layouts = kStereoOnly}};
 
+// DVD-Video: the sizes go with the television system; MPEG-2 has 9.8 Mb/s at most, MPEG-1 1.856 and the
+// smallest size alone. Sound has 48 kHz, AC-3 448 kb/s at most, MPEG audio 384, DTS 1536.
+constexpr std::array kRates25{AVRational{25, 1}};
+constexpr std::array kRates2997{AVRational{30000, 1001}};
+constexpr std::array kRatesOfDVD{AVRational{25, 1}, AVRational{30000, 1001}};
+constexpr std::array kDVD625{PictureSize{720, 576}, PictureSize{704, 576}, PictureSize{352, 576},
+                             PictureSize{352, 288}};
+constexpr std::array kDVD525{PictureSize{720, 480}, PictureSize{704, 480}, PictureSize{352, 480},
+                             PictureSize{352, 240}};
+constexpr std::array kSystemsOfDVD{PictureSystem{kRates25, kDVD625}, PictureSystem{kRates2997, kDVD525}};
+constexpr std::array kSystemsOfMPEG1{PictureSystem{kRates25, std::span(kDVD625).last(1)},
+                                     PictureSystem{kRates2997, std::span(kDVD525).last(1)}};
+constexpr std::array kOnly420{VXPixFormat_YUV420P};
+constexpr std::array kMainProfile{4};
+constexpr std::array kMainLevel{8};
+constexpr std::array kVOBLimits{
+    StreamLimit{.codecs = kCodecs<kMPEG2>,
+                .frameRates = kRatesOfDVD,
+                .systems = kSystemsOfDVD,
+                .formats = kOnly420,
+                .profiles = kMainProfile,
+                .levels = kMainLevel,
+                .mostBitrate = 9'800'000},
+    StreamLimit{.codecs = kCodecs<kMPEG1>,
+                .frameRates = kRatesOfDVD,
+                .systems = kSystemsOfMPEG1,
+                .mostBitrate = 1'856'000},
+    StreamLimit{.codecs = kCodecs<kAC3>, .sampleRates = kRates<48000>, .mostBitrate = 448'000},
+    StreamLimit{.codecs = kCodecs<kMP2>, .sampleRates = kRates<48000>, .mostBitrate = 384'000},
+    StreamLimit{.codecs = kCodecs<kDTS>, .sampleRates = kRates<48000>, .mostBitrate = 1'536'000}};
+
+// Blu-ray Disc: High or Main profile, 40 Mb/s at most, with the pictures at 50 and 60 Hz of AVCHD
+// Progressive; HEVC is that of Ultra HD Blu-ray. Where a disc has interlaced pictures only, at 25 and 29.97
+// Hz, a whole picture is two fields of one moment.
+constexpr std::array kRatesOfBluRay{AVRational{60000, 1001}, AVRational{50, 1}, AVRational{30000, 1001},
+                                    AVRational{25, 1},       AVRational{24, 1}, AVRational{24000, 1001}};
+constexpr std::array kRatesOfFilm{AVRational{24, 1}, AVRational{24000, 1001}};
+constexpr std::array kRatesOfMotion{AVRational{60000, 1001}, AVRational{50, 1}};
+constexpr std::array kHighDefinition{PictureSize{1920, 1080}, PictureSize{1280, 720}};
+constexpr std::array kBluRay625{PictureSize{1920, 1080}, PictureSize{720, 576}};
+constexpr std::array kBluRay525{PictureSize{1920, 1080}, PictureSize{720, 480}};
+constexpr std::array kSystemsOfBluRay{
+    PictureSystem{kRatesOfFilm, kHighDefinition}, PictureSystem{kRatesOfMotion, kHighDefinition},
+    PictureSystem{kRates25, kBluRay625}, PictureSystem{kRates2997, kBluRay525}};
+constexpr std::array kRatesOfUltraHD{AVRational{60, 1}, AVRational{60000, 1001}, AVRational{50, 1},
+                                     AVRational{25, 1}, AVRational{24, 1},       AVRational{24000, 1001}};
+constexpr std::array kUltraHD{PictureSize{3840, 2160}, PictureSize{1920, 1080}};
+constexpr std::array kSystemsOfUltraHD{PictureSystem{kRatesOfUltraHD, kUltraHD}};
+constexpr std::array k420OfUltraHD{VXPixFormat_YUV420P, kPixFormatYUV420P10};
+constexpr std::array kMainAndHigh{100, 77};
+constexpr std::array kMainAndMain10{2, 1};
+constexpr std::array kMainProfileAtHighLevel{4, 6, 8};
+constexpr std::array kM2TSLimits{StreamLimit{.codecs = kCodecs<kH264>,
+                                             .frameRates = kRatesOfBluRay,
+                                             .systems = kSystemsOfBluRay,
+                                             .formats = kOnly420,
+                                             .profiles = kMainAndHigh,
+                                             .mostBitrate = 40'000'000},
+                                 StreamLimit{.codecs = kCodecs<kMPEG2>,
+                                             .frameRates = kRatesOfBluRay,
+                                             .systems = kSystemsOfBluRay,
+                                             .formats = kOnly420,
+                                             .profiles = kMainProfile,
+                                             .levels = kMainProfileAtHighLevel,
+                                             .mostBitrate = 40'000'000},
+                                 StreamLimit{.codecs = kCodecs<kHEVC>,
+                                             .frameRates = kRatesOfUltraHD,
+                                             .systems = kSystemsOfUltraHD,
+                                             .formats = k420OfUltraHD,
+                                             .profiles = kMainAndMain10,
+                                             .mostBitrate = 100'000'000},
+                                 StreamLimit{.codecs = kCodecs<kAC3, kEAC3, kDTS>,
+                                             .sampleRates = kRates<48000>,
+                                             .mostBitrate = 1'536'000}};
+
 // Apple's players take HEVC whose parameter sets stand in the sample description alone, 'hvc1' of
 // ISO/IEC 14496-15 8.4.1; libavformat writes 'hev1' unless it is told.
 constexpr std::array kHEVCOfApple{CodecTag{kHEVC, MKTAG('h', 'v', 'c', '1')}};
@@ -175,7 +251,8 @@ constexpr std::array kFormats{
               .demuxer = "mpeg",
               .endings = "vob",
               .videoCodecs = kCodecs<kMPEG2, kMPEG1>,
-              .audioCodecs = kCodecs<kAC3, kMP2, kDTS>},
+              .audioCodecs = kCodecs<kAC3, kMP2, kDTS>,
+              .limits = kVOBLimits},
     FormatRow{.name = "TS",
               .muxer = "mpegts",
               .demuxer = "mpegts",
@@ -187,7 +264,8 @@ constexpr std::array kFormats{
               .demuxer = "mpegts",
               .endings = "m2ts mts",
               .videoCodecs = kCodecs<kH264, kHEVC, kMPEG2>,
-              .audioCodecs = kCodecs<kAC3, kEAC3, kDTS, kAAC>},
+              .audioCodecs = kCodecs<kAC3, kEAC3, kDTS>,
+              .limits = kM2TSLimits},
     FormatRow{.name = "WMV",
               .muxer = "asf",
               .demuxer = "asf",

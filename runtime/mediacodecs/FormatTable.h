@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CodecTable.h"
+
 #include <cstdint>
 #include <span>
 #include <string>
@@ -16,6 +18,13 @@ struct AVInputFormat;
 namespace Vexlor
 {
 
+/// The sizes that a container's pictures have at some frame rates.
+struct PictureSystem
+{
+    std::span<const AVRational> rates;
+    std::span<const PictureSize> sizes;
+};
+
 /// What of a codec a container takes, where it does not take all; an empty list limits nothing.
 struct StreamLimit
 {
@@ -23,8 +32,11 @@ struct StreamLimit
     std::span<const int> sampleRates = {};
     std::span<const std::uint64_t> layouts = {};
     std::span<const AVRational> frameRates = {};
-    std::span<const int> profiles = {}; ///< the first stands in for one that is not taken
-    std::span<const int> levels = {};   ///< as above
+    std::span<const PictureSystem> systems = {}; ///< between them they have all the frame rates
+    std::span<const int> formats = {};           ///< the first stands in for one that is not taken
+    std::span<const int> profiles = {};          ///< as above
+    std::span<const int> levels = {};            ///< as above
+    int mostBitrate = 0;                         ///< bits a second; 0: any
 };
 
 /// The tag that players of a container want a codec's stream to have, where it is not its muxer's own choice.

@@ -7,6 +7,7 @@
 #include "runtime/mediacodecs/ChannelLayouts.h"
 #include "runtime/mediacodecs/CodecCapabilities.h"
 #include "runtime/mediacodecs/FormatTable.h"
+#include "runtime/mediacodecs/PixelFormats.h"
 #include "runtime/mediacodecs/SampleFormats.h"
 #include "runtime/mediacodecs/Snapping.h"
 #include "runtime/mediacodecs/VXFormatParameter.h"
@@ -45,6 +46,7 @@ int RateIn(const char* container, int codecID, int sampleRate)
 TEST(FormatLimits, SoundTakesTheNearestRateThatTheContainerHas)
 {
     EXPECT_EQ(22050, RateIn("FLV", VXCodecID_MP3, 24000));
+    EXPECT_EQ(44100, RateIn("FLV", VXCodecID_MP3, 32000)); // by ratio
     EXPECT_EQ(16000, RateIn("MP4", VXCodecID_MP3, 8000));
     EXPECT_EQ(48000, RateIn("MXF", VXCodecID_PCM24, 192000));
 }
@@ -91,12 +93,145 @@ TEST(FormatLimits, TheBitrateOfPlainSamplesFollowsThem)
     EXPECT_EQ(48000 * 2 * 16, sound->GetBitrate());
 }
 
+int BitrateIn(const char* container, int codecID, int sampleRate, int bitrate)
+{
+    const auto sound = Sound(codecID, sampleRate, kStereo);
+    sound->SetBitrate(bitrate);
+    FitIntoContainer(*sound, container);
+    return sound->GetBitrate();
+}
+
+TEST(FormatLimits, AGradeIsThatOfTheRateThatTheContainerTakes)
+{
+    const auto codecs = IVXCodecs::MallocCodecs(VXCodecID_MP3, true);
+    const auto best = [&](int rate)
+    { return codecs->BestBitrateFor(rate, kStereo, kSampleFormatS16, IVXCodecs::QualityLevelBest, ""); };
+    EXPECT_EQ(best(44100), BitrateIn("FLV", VXCodecID_MP3, 32000, best(32000)));
+    EXPECT_NE(best(44100), best(32000));
+}
+
 TEST(FormatLimits, AChosenBitrateStays)
 {
-    const auto sound = Sound(VXCodecID_MP3, 32000, kStereo);
-    sound->SetBitrate(96'000);
-    FitIntoContainer(*sound, "FLV");
-    EXPECT_EQ(96'000, sound->GetBitrate());
+    EXPECT_EQ(112'000, BitrateIn("FLV", VXCodecID_MP3, 32000, 112'000));
+}
+
+TEST(FormatLimits, AChosenBitrateThatTheNewRateLacksTakesTheNearest)
+{
+    EXPECT_EQ(320'000, BitrateIn("FLV", VXCodecID_MP3, 32000, 384'000));
+    EXPECT_EQ(32'000, BitrateIn("FLV", VXCodecID_MP3, 32000, 24'000));
+}
+
+TEST(FormatLimits, SoundOnDiscsHas48Kilohertz)
+{
+    EXPECT_EQ(48000, RateIn("VOB", VXCodecID_AC3, 44100));
+    EXPECT_EQ(48000, RateIn("VOB", VXCodecID_MP2, 32000));
+    EXPECT_EQ(48000, RateIn("M2TS", VXCodecID_AC3, 32000));
+}
+
+TEST(FormatLimits, SoundOnDVDHasTheMostThatPlayersTake)
+{
+    EXPECT_EQ(448'000, BitrateIn("VOB", VXCodecID_AC3, 48000, 640'000));
+    EXPECT_EQ(640'000, BitrateIn("M2TS", VXCodecID_AC3, 48000, 640'000));
+}
+
+/// A picture and what becomes of it: "720x576 at 25/1, 64:45".
+struct PictureCase
+{
+    const char* name;
+    const char* container;
+    int codecID;
+    PictureSize size;
+    AVRational rate;
+    const char* outline;
+};
+
+std::shared_ptr<IVXCodecParameter> PictureIn(const PictureCase& test)
+{
+    auto picture = IVXCodecParameter::MallocCodecParamter(test.codecID);
+    picture->SetWidth(test.size.width);
+    picture->SetHeight(test.size.height);
+    picture->SetFramePerSecond(IVXRational::MallocRational(test.rate.num, test.rate.den));
+    picture->SetFormat(VXPixFormat_YUV420P);
+    FitIntoContainer(*picture, test.container);
+    return picture;
+}
+
+std::string Terms(const IVXRational& ratio, char between)
+{
+    return std::to_string(ratio.Num()) + between + std::to_string(ratio.Den());
+}
+
+class PicturesOnDiscs : public testing::TestWithParam<PictureCase>
+{
+};
+
+TEST_P(PicturesOnDiscs, AreWhatPlayersTake)
+{
+    const auto picture = PictureIn(GetParam());
+    EXPECT_EQ(GetParam().outline,
+              std::to_string(picture->GetWidth()) + 'x' + std::to_string(picture->GetHeight()) + " at " +
+                  Terms(*picture->GetFrameRate(), '/') + ", " + Terms(*picture->GetAspectRatio(), ':'));
+}
+
+constexpr PictureCase kPictures[] = {
+    {"Film", "VOB", VXCodecID_MPEG2, {1920, 1080}, {24, 1}, "720x576 at 25/1, 64:45"},
+    {"HalfOf50", "VOB", VXCodecID_MPEG2, {1280, 720}, {50, 1}, "720x576 at 25/1, 64:45"},
+    {"HalfOf60", "VOB", VXCodecID_MPEG2, {1280, 720}, {60, 1}, "720x480 at 30000/1001, 32:27"},
+    {"TwiceOf15", "VOB", VXCodecID_MPEG2, {640, 480}, {15, 1}, "720x480 at 30000/1001, 8:9"},
+    {"DVDItself", "VOB", VXCodecID_MPEG2, {704, 576}, {25, 1}, "704x576 at 25/1, 12:11"},
+    {"SmallPicturesAreNotWide", "VOB", VXCodecID_MPEG1, {640, 360}, {25, 1}, "352x288 at 25/1, 12:11"},
+    {"FilmOnBluRay", "M2TS", VXCodecID_H264, {1920, 800}, {24, 1}, "1920x1080 at 24/1, 1:1"},
+    {"SmallOnBluRay", "M2TS", VXCodecID_H264, {640, 480}, {25, 1}, "720x576 at 25/1, 16:15"},
+    {"Motion", "M2TS", VXCodecID_H264, {1280, 720}, {60, 1}, "1280x720 at 60000/1001, 1:1"},
+    {"UltraHD", "M2TS", VXCodecID_HEVC, {3840, 2160}, {30, 1}, "3840x2160 at 60/1, 1:1"},
+    {"TransportStreamOfAnything", "TS", VXCodecID_H264, {640, 480}, {15, 1}, "640x480 at 15/1, 1:1"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Sizes, PicturesOnDiscs, testing::ValuesIn(kPictures),
+                         [](const auto& test) { return test.param.name; });
+
+TEST(FormatLimits, AChosenAspectStays)
+{
+    const auto picture = PictureIn({"", "MP4", VXCodecID_MPEG4, {720, 576}, {25, 1}, ""});
+    picture->SetAspectRatio(IVXRational::MallocRational(16, 11));
+    FitIntoContainer(*picture, "VOB");
+    EXPECT_EQ("16:11", Terms(*picture->GetAspectRatio(), ':'));
+}
+
+TEST(FormatLimits, AGradeIsThatOfTheSizeThatTheContainerTakes)
+{
+    const auto codecs = IVXCodecs::MallocCodecs(VXCodecID_MPEG2, true);
+    const auto picture = IVXCodecParameter::MallocCodecParamter(VXCodecID_MPEG2);
+    const auto bitrate = [&]
+    {
+        return codecs->BestBitrateFor(picture->GetWidth(), picture->GetHeight(), picture->GetFrameRate(),
+                                      picture->GetFormat(), IVXCodecs::QualityLevelNormal, "");
+    };
+    picture->SetWidth(1920);
+    picture->SetHeight(1080);
+    picture->SetFramePerSecond(IVXRational::MallocRational(25, 1));
+    picture->SetBitrate(bitrate());
+    FitIntoContainer(*picture, "VOB");
+    EXPECT_EQ(720, picture->GetWidth());
+    EXPECT_EQ(bitrate(), picture->GetBitrate());
+}
+
+TEST(FormatLimits, PicturesOnDiscsHaveTheMostBitrateThatPlayersTake)
+{
+    const auto picture = PictureIn({"", "MPG", VXCodecID_MPEG2, {720, 576}, {25, 1}, ""});
+    picture->SetBitrate(15'000'000);
+    picture->SetMaxBitrate(15'000'000);
+    FitIntoContainer(*picture, "VOB");
+    EXPECT_EQ(9'800'000, picture->GetBitrate());
+    EXPECT_EQ(9'800'000, picture->GetMaxBitrate());
+}
+
+TEST(FormatLimits, PicturesOnDVDHaveHalfChroma)
+{
+    const auto picture = PictureIn({"", "MPG", VXCodecID_MPEG2, {720, 576}, {25, 1}, ""});
+    picture->SetFormat(kPixFormatYUV422P);
+    FitIntoContainer(*picture, "VOB");
+    EXPECT_EQ(VXPixFormat_YUV420P, picture->GetFormat());
 }
 
 TEST(FormatLimits, PicturesInMXFHaveARateOfTelevision)
@@ -104,8 +239,7 @@ TEST(FormatLimits, PicturesInMXFHaveARateOfTelevision)
     const auto video = IVXCodecParameter::MallocCodecParamter(VXCodecID_ProRes);
     video->SetFramePerSecond(IVXRational::MallocRational(15, 1));
     FitIntoContainer(*video, "MXF");
-    EXPECT_EQ("24000/1001", std::to_string(video->GetFrameRate()->Num()) + "/" +
-                                std::to_string(video->GetFrameRate()->Den()));
+    EXPECT_EQ("30/1", Terms(*video->GetFrameRate(), '/')); // each picture twice
 }
 
 std::uint32_t TagIn(const char* container, int codecID, std::uint32_t tag = 0)
@@ -166,7 +300,26 @@ TEST(FormatLimits, AreWithinWhatTheirCodecsAccept)
                 EXPECT_TRUE(HoldsAll(codec.audio.layouts, limit.layouts)) << codec.name;
                 for (const auto rate : limit.frameRates)
                     EXPECT_EQ(0, av_cmp_q(rate, SnapFrameRate(rate, codec.video))) << codec.name;
+                for (const auto& system : limit.systems)
+                    for (const auto size : system.sizes)
+                        EXPECT_EQ(size, SnapSize(size, codec.video, {2, 2})) << codec.name;
+                EXPECT_TRUE(HoldsAll(codec.formats, limit.formats)) << codec.name;
             }
+}
+
+TEST(FormatLimits, EveryRateOfALimitHasSizesWhereAnyHas)
+{
+    for (const auto& format : FormatTable())
+        for (const auto& limit : format.limits)
+            for (const auto rate : limit.frameRates)
+                EXPECT_TRUE(limit.systems.empty() ||
+                            std::ranges::any_of(limit.systems,
+                                                [rate](const auto& system) {
+                                                    return std::ranges::any_of(
+                                                        system.rates, [rate](AVRational each)
+                                                        { return av_cmp_q(rate, each) == 0; });
+                                                }))
+                    << format.name << ' ' << rate.num << '/' << rate.den;
 }
 
 TEST(FormatLimits, TagsAreKnownToTheMuxer)
