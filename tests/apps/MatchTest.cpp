@@ -47,11 +47,11 @@ constexpr std::string_view kSilenceOnCD = R"(silence.wav (WAV) -> Disc/CD (WAV)
 
 Video            none in the source
 
-Audio          Source      Output
-Codec          PCM 16-bit  PCM 16-bit
-Sample rate    48 kHz      44.1 kHz
-Channels       Stereo      Stereo
-Sample format  16-bit      16-bit
+Audio          Source      Output      Why
+Codec          PCM 16-bit  PCM 16-bit  chosen in the preset
+Sample rate    48 kHz      44.1 kHz    chosen in the preset
+Channels       Stereo      Stereo      chosen in the preset
+Sample format  16-bit      16-bit      chosen in the preset
 )";
 
 TEST(MatchCommand, PrintsTheOutputBesideTheSource)
@@ -69,22 +69,28 @@ TEST(MatchCommand, PrintsTheOutputBesideTheSource)
 TEST(MatchCommand, PrintsBothStreamsOfAFilm)
 {
     const auto text = RunTool({"match", Media::Clip("film.mp4"), "--preset", "Video/WEBM"}).out;
-    EXPECT_NE(std::string::npos, text.find("Codec          H.264        VP9\n")) << text;
-    EXPECT_NE(std::string::npos, text.find("Size           1920 x 1080  1920 x 1080\n"));
-    EXPECT_NE(std::string::npos, text.find("Frame rate     30 fps       30 fps\n"));
-    EXPECT_NE(std::string::npos, text.find("Codec          AAC                  Opus\n"));
+    EXPECT_NE(std::string::npos, text.find("Codec          H.264        VP9          chosen in the preset\n"))
+        << text;
+    EXPECT_NE(std::string::npos,
+              text.find("Size           1920 x 1080  1920 x 1080  taken from the source\n"));
+    EXPECT_NE(std::string::npos,
+              text.find("Frame rate     30 fps       30 fps       taken from the source\n"));
+    EXPECT_NE(std::string::npos,
+              text.find("Codec          AAC                  Opus          chosen in the preset\n"));
 }
 
 TEST(MatchCommand, TellsThatAStreamIsLeftOut)
 {
     const auto text = RunTool({"match", Media::Clip("film.mp4"), "--preset", "Audio/MP3"}).out;
-    EXPECT_NE(std::string::npos, text.find("Codec          H.264        left out\n")) << text;
+    EXPECT_NE(std::string::npos,
+              text.find("Codec          H.264        left out  the preset has no codec for it\n"))
+        << text;
 }
 
 TEST(MatchCommand, JsonHasExactlyTheseMembers)
 {
     const auto json = MatchJson("film.mp4", "Video/MP4");
-    EXPECT_EQ("format hint source output ", Names(*json));
+    EXPECT_EQ("format hint source output why warnings ", Names(*json));
     EXPECT_EQ("video audio ", Names(*(*json)["source"]));
     EXPECT_EQ("video audio ", Names(*(*json)["output"]));
 }
@@ -148,6 +154,32 @@ TEST(MatchCommand, JsonTellsTheOutput)
     EXPECT_EQ("Opus", audio->GetValueString("codec"));
     EXPECT_EQ(48'000, audio->GetValueInt("sampleRate"));
     EXPECT_EQ(2, audio->GetValueInt("channels"));
+}
+
+TEST(MatchCommand, JsonTellsTheReasons)
+{
+    const auto json = MatchJson("film.mp4", "Devices/Phone");
+    const auto size = (*(*(*json)["why"])["video"])["size"];
+    ASSERT_EQ(2, size->Size());
+    EXPECT_EQ("source", size->At(0)->GetValueString("reason"));
+    EXPECT_EQ("bounded", size->At(1)->GetValueString("reason"));
+    EXPECT_EQ("taken from the source", size->At(0)->GetValueString("text"));
+    EXPECT_EQ("null", JsonText(*(*(*(MatchJson("silent.mp4", "Video/MP4")))["why"])["audio"]));
+}
+
+TEST(MatchCommand, WarnsOfABitrateAboveTheSources)
+{
+    const auto text = RunTool({"match", Media::Clip("music.mp3"), "--preset", "Audio/WAV"}).out;
+    EXPECT_THAT(text, testing::HasSubstr(
+                          "\n\nwarning: audio: the bitrate 1.41 Mb/s is above the source's 128 kb/s\n"));
+}
+
+TEST(MatchCommand, JsonTellsTheWarnings)
+{
+    const auto warnings = (*MatchJson("music.mp3", "Audio/WAV"))["warnings"];
+    ASSERT_EQ(1, warnings->Size());
+    EXPECT_EQ("bitrateAboveSource", warnings->At(0)->GetValueString("kind"));
+    EXPECT_EQ("audio", warnings->At(0)->GetValueString("stream"));
 }
 
 TEST(MatchCommand, TakesTheDisplaySizeOfAnAnamorphicSource)
