@@ -3,6 +3,7 @@
 
 #include "apps/vxpresets/ArtworkCommands.h"
 #include "apps/vxpresets/CommandLine.h"
+#include "apps/vxpresets/ConvertCommands.h"
 #include "apps/host/Failure.h"
 
 #include <algorithm>
@@ -19,6 +20,7 @@ namespace Vexlor::Tool
 
 // What reaches beyond the document, to media files and artwork files, is left out.
 std::string MatchCommand(const Request&, const Catalogue&, const Style&) { return {}; }
+std::string MatchAllCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string FormatsCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string CodecsCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string CheckCommand(const Request&, const Catalogue&, const Style&) { return {}; }

@@ -1,7 +1,9 @@
 #include "CommandLine.h"
 
 #include "ArtworkCommands.h"
+#include "CommandOptions.h"
 #include "CommandOutline.h"
+#include "ConvertCommands.h"
 #include "apps/host/Failure.h"
 #include "apps/host/Text.h"
 
@@ -16,9 +18,6 @@ namespace
 constexpr auto* kAbout =
     "Output presets of a media converter: what they offer, and what a media file becomes in one of them.";
 constexpr auto* kFooter = "Exit codes: 0 done, 1 failed, 2 wrong usage.";
-constexpr auto* kPresetHelp =
-    "Path of names (\"Video/MP4\"; \"\\/\" stands for a slash inside a name), or an "
-    "unambiguous part of one";
 
 // Every option is taken before the command as well as behind it.
 void AddCommonOptions(CLI::App& app, Request& request)
@@ -29,6 +28,8 @@ void AddCommonOptions(CLI::App& app, Request& request)
     app.footer(kFooter);
 }
 
+} // namespace
+
 CLI::App* AddCommand(CLI::App& app, Request& request, const char* name, const char* help, Command command)
 {
     auto* sub = app.add_subcommand(name, help);
@@ -36,6 +37,9 @@ CLI::App* AddCommand(CLI::App& app, Request& request, const char* name, const ch
     sub->callback([&request, command] { request.command = command; });
     return sub;
 }
+
+namespace
+{
 
 void AddCheck(CLI::App& app, Request& request)
 {
@@ -63,10 +67,7 @@ void AddCommands(CLI::App& app, Request& request)
     AddCommand(app, request, "show", "Print a preset: every list, the current entry in brackets", ShowCommand)
         ->add_option("PRESET", request.preset, kPresetHelp)
         ->required();
-    auto* match =
-        AddCommand(app, request, "match", "Print what a media file becomes in a preset", MatchCommand);
-    match->add_option("MEDIA", request.media, "Media file")->required();
-    match->add_option("--preset", request.preset, kPresetHelp)->type_name("PRESET")->required();
+    AddConvertCommands(app, request);
     AddCommand(app, request, "formats", "Print the containers and the codecs that each takes",
                FormatsCommand);
     auto* codecs =

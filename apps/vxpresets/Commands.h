@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ArtworkRequest.h"
+#include "ConvertRequest.h"
 #include "Style.h"
 #include "apps/host/Catalogue.h"
 
@@ -24,7 +25,7 @@ struct Request
     bool asPaths = false;
     std::optional<std::string> document;
     std::string preset;
-    std::string media;
+    ConvertRequest convert = {};
     std::optional<std::string> codec;
     ArtworkRequest artwork = {};
     bool needsCatalogue = true; ///< the command gets an empty one otherwise
@@ -34,8 +35,6 @@ struct Request
 std::string TreeCommand(const Request& request, const Catalogue& catalogue, const Style& style);
 /// One format preset: every list of its codec presets with the current entry marked.
 std::string ShowCommand(const Request& request, const Catalogue& catalogue, const Style& style);
-/// What a media file becomes in a format preset.
-std::string MatchCommand(const Request& request, const Catalogue& catalogue, const Style& style);
 /// The containers that can be written, and the codecs that each takes.
 std::string FormatsCommand(const Request& request, const Catalogue& catalogue, const Style& style);
 /// The codecs, and what each accepts.

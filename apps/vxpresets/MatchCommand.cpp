@@ -1,4 +1,4 @@
-#include "Commands.h"
+#include "ConvertCommands.h"
 
 #include "MatchText.h"
 #include "apps/host/MediaMatch.h"
@@ -23,11 +23,11 @@ std::string TitleOf(const std::string& name, const IVXFormatParameter& file)
 std::string MatchCommand(const Request& request, const Catalogue& catalogue, const Style& style)
 {
     const auto& entry = FindPreset(catalogue, request.preset);
-    const auto match = MatchMedia(ReadSource(request.media), *entry.preset);
+    const auto match = MatchMedia(ReadSource(request.convert.media), *entry.preset);
     if (request.asJson)
         return MatchJson(match);
     const auto title =
-        TitleOf(request.media, *match.media.parameter) + " -> " + TitleOf(entry.path, *match.output);
+        TitleOf(request.convert.media, *match.media.parameter) + " -> " + TitleOf(entry.path, *match.output);
     return MatchText(match, title, style);
 }
 

@@ -209,6 +209,33 @@ TEST(MatchCommand, TagsMPEG4InAVI)
     EXPECT_EQ("XVID", (*output)["video"]->GetValueString("codecTag"));
 }
 
+TEST(MatchCommand, RanksAllPresets)
+{
+    const auto run = RunTool({"match", Media::Clip("music.flac"), "--all"});
+    EXPECT_EQ(0, run.exitCode);
+    EXPECT_EQ("", run.err);
+    EXPECT_THAT(run.out, testing::HasSubstr("music.flac (FLAC): "));
+    EXPECT_LT(run.out.find("untouched\n"), run.out.find("changed  "));
+    EXPECT_THAT(run.out, testing::ContainsRegex("Audio/FLAC +untouched\n"));
+    EXPECT_THAT(run.out, testing::ContainsRegex("Audio/MP3 +changed +FLAC to MP3\n"));
+}
+
+TEST(MatchCommand, RanksAllPresetsAsJson)
+{
+    const auto json = RunForJson({"match", Media::Clip("music.flac"), "--all"});
+    ASSERT_GT(json->Size(), 20);
+    const auto first = json->At(0);
+    EXPECT_EQ("preset format fit texts video audio ", Names(*first));
+    EXPECT_EQ("untouched", first->GetValueString("fit"));
+    EXPECT_EQ("FLAC", (*first)["audio"]->GetValueString("codec"));
+}
+
+TEST(MatchCommand, TakesEitherAPresetOrAll)
+{
+    const auto run = RunTool({"match", "holiday.mov", "--all", "--preset", "MP4"});
+    EXPECT_EQ(2, run.exitCode);
+}
+
 struct AbsentCase
 {
     const char* what;
