@@ -45,7 +45,8 @@ endif()
 if(VX_BUILD_APPS)
   set(tool ${PROJECT_BINARY_DIR}/apps/vxpresets)
   install(TARGETS vxpresets RUNTIME COMPONENT tools)
-  install(FILES ${PROJECT_BINARY_DIR}/apps/artwork/vxpresets.artwork catalog/preset-document.schema.json
+  install(FILES ${tool}/vxpresets.json ${PROJECT_BINARY_DIR}/apps/artwork/vxpresets.artwork
+                catalog/preset-document.schema.json
           DESTINATION ${CMAKE_INSTALL_DATADIR}/vxpresets COMPONENT tools)
   install(FILES ${tool}/vxpresets.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tools)
   install(FILES ${tool}/vxpresets.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME vxpresets

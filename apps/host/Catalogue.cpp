@@ -1,9 +1,9 @@
 #include "Catalogue.h"
 
-#include "DefaultTree.h"
 #include "Failure.h"
 #include "NameSearch.h"
 #include "Text.h"
+#include "catalog/DefaultTree.h"
 
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
@@ -54,7 +54,7 @@ Catalogue CatalogueOf(const std::string& origin, const std::shared_ptr<const IVX
 Catalogue LoadCatalogue(const std::optional<std::string>& document)
 {
     if (!document)
-        return CatalogueOf(kTool, DefaultTree());
+        return CatalogueOf(kTool, Catalog::DefaultTree());
     const auto json = ReadDocument(*document);
     auto catalogue = CatalogueOf(*document, IVXFormatNode::MallocFormatNode(json));
     if (!catalogue.entries.empty())
