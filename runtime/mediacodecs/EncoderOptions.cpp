@@ -27,6 +27,15 @@ bool EncoderOptions::Has(std::string_view name) const
     return av_dict_get(m_options, std::string(name).c_str(), nullptr, 0) != nullptr;
 }
 
+std::vector<std::pair<std::string, std::string>> EncoderOptions::All() const
+{
+    std::vector<std::pair<std::string, std::string>> all;
+    const AVDictionaryEntry* each = nullptr;
+    while ((each = av_dict_get(m_options, "", each, AV_DICT_IGNORE_SUFFIX)))
+        all.emplace_back(each->key, each->value);
+    return all;
+}
+
 int EncoderOptions::Open(AVCodecContext& context, const AVCodec& encoder)
 {
     const int error = avcodec_open2(&context, &encoder, &m_options);

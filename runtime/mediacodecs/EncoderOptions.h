@@ -8,6 +8,8 @@ extern "C"
 
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace Vexlor
 {
@@ -27,6 +29,8 @@ public:
     void Add(std::string_view name, std::string_view value);
     /// True when the option is there already.
     bool Has(std::string_view name) const;
+    /// All of them, by name.
+    std::vector<std::pair<std::string, std::string>> All() const;
     /// Opens the encoder; FFmpeg's error code when it does not open, or does not know one of the options.
     int Open(AVCodecContext& context, const AVCodec& encoder);
 

@@ -34,10 +34,16 @@ public:
         m_setup.context.reset(avcodec_alloc_context3(&encoder));
     }
 
-    EncoderSetup Open(const IVXCodecParameter& stream, const EncoderWish& wish);
+    EncoderSetup Open(const IVXCodecParameter& stream, const EncoderWish& wish)
+    {
+        return Result(TryToOpen(stream, wish));
+    }
+    PreparedEncoder Prepared(const IVXCodecParameter& stream, const EncoderWish& wish);
 
 private:
+    int Prepare(const IVXCodecParameter& stream, const EncoderWish& wish);
     int TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish);
+    EncoderSetup Result(int error);
     void SetPicture(const IVXCodecParameter& stream);
     void SetSound(const IVXCodecParameter& stream);
     void LimitBitrate();
@@ -194,7 +200,7 @@ void Opening::SetLabels(const IVXCodecParameter& stream)
     }
 }
 
-int Opening::TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish)
+int Opening::Prepare(const IVXCodecParameter& stream, const EncoderWish& wish)
 {
     if (!m_setup.context)
         return AVERROR(ENOMEM);
@@ -211,15 +217,22 @@ int Opening::TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish)
     m_options.Parse(m_row.always);
     SetQuality(stream);
     SetLabels(stream);
+    return 0;
+}
+
+int Opening::TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish)
+{
+    if (const int error = Prepare(stream, wish); error < 0)
+        return error;
     const int opened = m_options.Open(*m_setup.context, m_encoder);
     if (m_setup.context->profile == VX_AV_PROFILE(UNKNOWN)) // muxers ask for it, some encoders forget to say
         m_setup.context->profile = m_profile;
     return opened;
 }
 
-EncoderSetup Opening::Open(const IVXCodecParameter& stream, const EncoderWish& wish)
+EncoderSetup Opening::Result(int error)
 {
-    if (const int error = TryToOpen(stream, wish); error < 0)
+    if (error < 0)
     {
         m_setup.complaint = std::string(m_encoder.name) + ": " + FFmpegErrorText(error);
         m_setup.context.reset();
@@ -227,26 +240,48 @@ EncoderSetup Opening::Open(const IVXCodecParameter& stream, const EncoderWish& w
     return std::move(m_setup);
 }
 
-EncoderSetup Refused(const std::string& complaint)
+PreparedEncoder Opening::Prepared(const IVXCodecParameter& stream, const EncoderWish& wish)
 {
-    EncoderSetup setup;
-    setup.complaint = complaint;
-    return setup;
+    PreparedEncoder prepared;
+    static_cast<EncoderSetup&>(prepared) = Result(Prepare(stream, wish));
+    prepared.options = m_options.All();
+    return prepared;
+}
+
+template <class Answer>
+Answer Refused(const std::string& complaint)
+{
+    Answer answer;
+    answer.complaint = complaint;
+    return answer;
+}
+
+/// What the encoder answers that is wished for, or the reason why there is none.
+template <class Answer>
+Answer Ask(const IVXCodecParameter& stream, const EncoderWish& wish,
+           Answer (Opening::*ask)(const IVXCodecParameter&, const EncoderWish&))
+{
+    const auto* codec = CapabilitiesOf(stream.GetCodecID());
+    if (!codec)
+        return Refused<Answer>("codec " + std::to_string(stream.GetCodecID()) + " is not known");
+    const auto name =
+        wish.encoder.empty() && !codec->encoders.empty() ? codec->encoders.front() : wish.encoder;
+    const auto* encoder = avcodec_find_encoder_by_name(name.c_str());
+    if (!encoder || encoder->id != codec->codec->avID)
+        return Refused<Answer>(std::string(codec->codec->name) + " has no encoder " + name + " here");
+    return (Opening(*codec, *encoder).*ask)(stream, wish);
 }
 
 } // namespace
 
 EncoderSetup OpenEncoder(const IVXCodecParameter& stream, const EncoderWish& wish)
 {
-    const auto* codec = CapabilitiesOf(stream.GetCodecID());
-    if (!codec)
-        return Refused("codec " + std::to_string(stream.GetCodecID()) + " is not known");
-    const auto name =
-        wish.encoder.empty() && !codec->encoders.empty() ? codec->encoders.front() : wish.encoder;
-    const auto* encoder = avcodec_find_encoder_by_name(name.c_str());
-    if (!encoder || encoder->id != codec->codec->avID)
-        return Refused(std::string(codec->codec->name) + " has no encoder " + name + " here");
-    return Opening(*codec, *encoder).Open(stream, wish);
+    return Ask(stream, wish, &Opening::Open);
+}
+
+PreparedEncoder PrepareEncoder(const IVXCodecParameter& stream, const EncoderWish& wish)
+{
+    return Ask(stream, wish, &Opening::Prepared);
 }
 
 } // namespace Vexlor

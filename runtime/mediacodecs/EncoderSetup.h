@@ -7,6 +7,7 @@ extern "C"
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Vexlor
@@ -46,5 +47,15 @@ struct EncoderSetup
 /// SVT-AV1 tells stderr what it does unless the environment has SVT_LOG=1, and waits for ever when it is
 /// closed in the middle of a stream: it has to see a frame and the end.
 EncoderSetup OpenEncoder(const IVXCodecParameter& stream, const EncoderWish& wish);
+
+/// An encoder that is told all and not yet open.
+struct PreparedEncoder : EncoderSetup
+{
+    /// What it is told beside the context, by libavcodec's names.
+    std::vector<std::pair<std::string, std::string>> options;
+};
+
+/// Tells an encoder the same as OpenEncoder, and leaves it there.
+PreparedEncoder PrepareEncoder(const IVXCodecParameter& stream, const EncoderWish& wish);
 
 } // namespace Vexlor

@@ -42,12 +42,14 @@ VXMediaFile Filled(const MediaInput& input, const BestStreams& best, const std::
         const auto bitrate = bitrates.at(static_cast<std::size_t>(best.video->index));
         file.parameter->SetVideoCodecParameter(VideoSource(input.Context(), *best.video, bitrate));
         file.videoCodec = SourceCodecName(*best.video);
+        file.videoStream = best.video->index;
     }
     if (best.audio)
     {
         const auto bitrate = bitrates.at(static_cast<std::size_t>(best.audio->index));
         file.parameter->SetAudioCodecParameter(AudioSource(*best.audio, bitrate));
         file.audioCodec = SourceCodecName(*best.audio);
+        file.audioStream = best.audio->index;
     }
     return file;
 }

@@ -25,6 +25,10 @@ struct VXMediaFile
     std::string videoCodec;
     /// Display name of the audio codec; as above.
     std::string audioCodec;
+    /// Number of the video stream in the file, from 0; -1 without one.
+    int videoStream = -1;
+    /// Number of the audio stream; as above.
+    int audioStream = -1;
     /// Length in seconds; 0 when unknown.
     double duration = 0;
     /// Size in bytes.

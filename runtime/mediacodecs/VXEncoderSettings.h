@@ -1,0 +1,43 @@
+#pragma once
+
+#include "VXMediaCodecsExport.h"
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace Vexlor
+{
+
+class IVXCodecParameter;
+
+/// What the ffmpeg program is told so that it encodes a stream as the runtime itself would.
+struct VXEncoderSettings
+{
+    /// The encoder's name: "libx264".
+    std::string encoder;
+    /// Options of libavcodec with their values, as they stand behind a dash: "b" with "6000000".
+    std::vector<std::pair<std::string, std::string>> options;
+    /// The pixel or sample format that frames must have: "yuv420p", "fltp".
+    std::string format;
+    /// The channel layout that they must have: "stereo"; empty for pictures.
+    std::string layout;
+    /// True where samples of pictures go from 0 to the largest number.
+    bool isFullRange = false;
+    /// What of the parameters gave way, a sentence each.
+    std::vector<std::string> changes;
+    /// Why the stream cannot be encoded, one line; empty when it can.
+    std::string complaint;
+};
+
+/// The settings of the preferred encoder that is here for a stream, as matching answers it.
+VX_MEDIACODECS_API VXEncoderSettings EncoderSettingsFor(const IVXCodecParameter& stream);
+
+/// The muxer of libavformat's that writes the container of that name: "mp4"; empty for one that is not known.
+VX_MEDIACODECS_API std::string MuxerFor(const std::string& formatName);
+
+/// The codec tag that this muxer is told for a stream: "XVID", or digits where it is no text; empty where the
+/// muxer chooses.
+VX_MEDIACODECS_API std::string MuxerTagFor(const std::string& formatName, const IVXCodecParameter& stream);
+
+} // namespace Vexlor
