@@ -1,7 +1,9 @@
 #include "BitrateModel.h"
 
 #include "BitrateMath.h"
+#include "BitrateSnapping.h"
 #include "ChannelLayouts.h"
+#include "IVXCodecParameter.h"
 #include "SampleFormats.h"
 
 namespace Vexlor
@@ -12,18 +14,10 @@ namespace
 
 using Grade = IVXCodecs::QualityLevel;
 
-constexpr int kUsualSampleRate = 48000;
 constexpr int kBlockBytes = 1024; // what libavcodec makes unless told otherwise
 constexpr int kSamplesPerByte = 2;
 
-int SampleRateOf(const SoundStream& stream)
-{
-    return stream.sampleRate > 0 ? stream.sampleRate : kUsualSampleRate;
-}
-
-std::uint64_t LayoutOf(const SoundStream& stream) { return stream.layout ? stream.layout : kStereo; }
-
-int ChannelCountOf(const SoundStream& stream) { return ChannelsOf(LayoutOf(stream)); }
+int ChannelCountOf(const SoundStream& stream) { return ChannelsOf(stream.layout); }
 
 // A subwoofer's channel carries next to nothing, which not every encoder makes use of.
 int PaidChannelsOf(const SoundStream& stream, const AudioBitrateRow& row)
@@ -33,22 +27,11 @@ int PaidChannelsOf(const SoundStream& stream, const AudioBitrateRow& row)
     return free ? channels - 1 : channels;
 }
 
-double Nearest(double bitrate, std::span<const int> legal)
-{
-    if (legal.empty())
-        return bitrate;
-    return *std::ranges::min_element(legal, {}, [bitrate](int each) { return std::abs(each - bitrate); });
-}
-
 double LossyBitrate(const AudioBitrateRow& row, const SoundStream& stream, std::size_t grade)
 {
-    const auto rate = SampleRateOf(stream);
-    const auto channels = double(ChannelCountOf(stream));
-    const double bandwidth = std::min(1.0, rate / 44100.0); // hearing ends where 44.1 kHz does
-    const double wanted = row.perChannel.at(grade) * bandwidth * PaidChannelsOf(stream, row);
-    const double kept = std::clamp(wanted, row.minPerChannel * channels, row.maxPerChannel * channels);
-    const double total = std::clamp<double>(kept, row.minTotal, row.maxTotal);
-    return Nearest(1000.0 * total, LegalBitrates(row.codecID, rate, LayoutOf(stream)));
+    const double bandwidth = std::min(1.0, stream.sampleRate / 44100.0); // hearing ends where 44.1 kHz does
+    const double kbps = row.perChannel.at(grade) * bandwidth * PaidChannelsOf(stream, row);
+    return WithinBounds(row, stream, 1000.0 * kbps);
 }
 
 double StoredBitrate(const AudioBitrateRow& row, const CodecCapabilities& codec, const SoundStream& stream)
@@ -57,7 +40,7 @@ double StoredBitrate(const AudioBitrateRow& row, const CodecCapabilities& codec,
     const bool held = std::ranges::find(codec.formats, stream.format) != codec.formats.end();
     const int told = SampleBitsOf(held ? stream.format : codec.formats.front());
     const int bits = row.bits > 0 ? row.bits : std::min(told, row.maxBits);
-    return row.share * SampleRateOf(stream) * ChannelCountOf(stream) * bits;
+    return row.share * stream.sampleRate * ChannelCountOf(stream) * bits;
 }
 
 double BlockBitrate(const AudioBitrateRow& row, const SoundStream& stream)
@@ -65,7 +48,7 @@ double BlockBitrate(const AudioBitrateRow& row, const SoundStream& stream)
     const int channels = std::min(ChannelCountOf(stream), 2);
     const int bytes = kBlockBytes - row.blockHeader * channels;
     const int samples = bytes * kSamplesPerByte / channels + row.headerSamples;
-    return 8.0 * kBlockBytes * SampleRateOf(stream) / samples;
+    return 8.0 * kBlockBytes * stream.sampleRate / samples;
 }
 
 // The modes of the highest sample rate that is not above the stream's; the lowest where all are.
@@ -73,7 +56,7 @@ double SpeechBitrate(const AudioBitrateRow& row, const SoundStream& stream, std:
 {
     const SpeechModes* best = nullptr;
     for (const auto& modes : ListedSpeech())
-        if (modes.codecID == row.codecID && (!best || modes.sampleRate <= SampleRateOf(stream)))
+        if (modes.codecID == row.codecID && (!best || modes.sampleRate <= stream.sampleRate))
             best = &modes;
     return best ? best->bitrates.at(grade) : 1.0;
 }
@@ -105,10 +88,15 @@ std::pair<SoundStream, SoundStream> Extremes(const CodecCapabilities& codec)
 
 } // namespace
 
+SoundStream SoundOf(const IVXCodecParameter& stream, int format)
+{
+    return {stream.GetSampleRate(), stream.GetChannelLayout(), format};
+}
+
 int AudioBitrate(const CodecCapabilities& codec, const SoundStream& stream, Grade level)
 {
     const auto* row = FindAudioBitrate(codec.codec->id);
-    return row ? ToBitrate(Bitrate(*row, codec, stream, IndexOf(level))) : 1;
+    return row ? ToBitrate(Bitrate(*row, codec, Usual(stream), IndexOf(level))) : 1;
 }
 
 Grade AudioGrade(const CodecCapabilities& codec, const SoundStream& stream, int bitrate)

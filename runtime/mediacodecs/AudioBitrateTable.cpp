@@ -15,9 +15,13 @@ using enum AudioBitrateKind;
 constexpr std::array kAudio{
     // Every published figure is within 15 % of a grade: for a channel 64 (Media3; the HLS sample of Shaka in
     // mono and 5.1), 80 (HandBrake; Shaka in stereo), 102 and 128 (YouTube in 5.1 and mono; Jellyfin's most),
-    // 192 (YouTube in stereo). A frame of a channel has 6144 bits at most, ISO/IEC 14496-3 4.5.3.1.
-    AudioBitrateRow{
-        .codecID = VXCodecID_AAC, .perChannel = {48, 72, 112, 192}, .minPerChannel = 8, .maxPerChannel = 256},
+    // 192 (YouTube in stereo). A frame of a channel, 1024 samples, has 6144
+    // bits at most, ISO/IEC 14496-3 4.5.3.1.
+    AudioBitrateRow{.codecID = VXCodecID_AAC,
+                    .perChannel = {48, 72, 112, 192},
+                    .minPerChannel = 8,
+                    .maxPerChannel = 256,
+                    .maxSampleBits = 6},
     // HandBrake 32; CoreAudio takes 12 to 40, fdk-aac as much as 64 in mono.
     AudioBitrateRow{
         .codecID = VXCodecID_HEAAC, .perChannel = {16, 24, 32, 40}, .minPerChannel = 12, .maxPerChannel = 40},
@@ -28,22 +32,17 @@ constexpr std::array kAudio{
     // Shaka 92, 192, 384 and HandBrake 96, 224, 640 in mono, stereo and 5.1; 640 is the most.
     AudioBitrateRow{.codecID = VXCodecID_AC3, .perChannel = {77, 96, 112, 128}},
     // Shaka 64, 160, 192 in mono, stereo and 5.1; Best is AC-3's 640.
-    AudioBitrateRow{.codecID = VXCodecID_EAC3, .perChannel = {38.4, 64, 80, 128}, .minPerChannel = 12},
+    AudioBitrateRow{
+        .codecID = VXCodecID_EAC3, .perChannel = {38.4, 64, 80, 128}, .minPerChannel = 12, .maxTotal = 4096},
     // A DVD's two, 768 and 1536 in 5.1 (ETSI TS 102 114, annex on DVD), and two steps between.
     AudioBitrateRow{.codecID = VXCodecID_DTS, .perChannel = {153.6, 204.8, 256, 307.2}},
     // HandBrake 96 in stereo; Xiph 48 to 64 for music in mono, 128 to 256 for 5.1. libopus takes 6 to 256 a
-    // channel; 510 is what one stream can have, RFC 6716 2.1.1.
-    AudioBitrateRow{.codecID = VXCodecID_Opus,
-                    .perChannel = {32, 48, 64, 96},
-                    .minPerChannel = 6,
-                    .maxPerChannel = 256,
-                    .maxTotal = 510},
+    // channel; a stream of one channel or two can have 510, RFC 6716 2.1.1, and sound of more has more
+    // streams.
+    AudioBitrateRow{
+        .codecID = VXCodecID_Opus, .perChannel = {32, 48, 64, 96}, .minPerChannel = 6, .maxPerChannel = 255},
     // HandBrake 80, which is quality 5 of libvorbis at 44.1 kHz; qualities 2, 7 and 9 beside it.
-    AudioBitrateRow{.codecID = VXCodecID_Vorbis,
-                    .perChannel = {48, 80, 112, 160},
-                    .countsSubwoofer = true,
-                    .minPerChannel = 14,
-                    .maxPerChannel = 240},
+    AudioBitrateRow{.codecID = VXCodecID_Vorbis, .perChannel = {48, 80, 112, 160}, .countsSubwoofer = true},
     // Windows Media Audio's choices for 44.1 kHz in stereo. libavcodec's encoders take nothing below 24.
     AudioBitrateRow{
         .codecID = VXCodecID_WMA1, .perChannel = {32, 48, 64, 96}, .minTotal = 25, .maxTotal = 192},
@@ -74,6 +73,14 @@ constexpr std::array kAudio{
     AudioBitrateRow{.codecID = VXCodecID_ADPCMMS, .kind = Blocks, .blockHeader = 7, .headerSamples = 2},
 };
 
+// What libvorbis takes, as HandBrake has it; it refuses less and more.
+constexpr std::array kChannelBounds{
+    ChannelBounds{VXCodecID_Vorbis, 0, 14, 32},
+    ChannelBounds{VXCodecID_Vorbis, 16000, 22, 86},
+    ChannelBounds{VXCodecID_Vorbis, 32000, 28, 190},
+    ChannelBounds{VXCodecID_Vorbis, 44100, 28, 240},
+};
+
 constexpr std::array kSpeech{
     // The Speex Codec Manual 1.2, tables 9.2 and 10.1: qualities 4, 6, 8 and 10. Above 16 kHz 1.8 kb/s more.
     SpeechModes{VXCodecID_Speex, 8000, {8000, 11000, 15000, 24600}},
@@ -83,6 +90,14 @@ constexpr std::array kSpeech{
     SpeechModes{VXCodecID_AMRNB, 8000, {5900, 7950, 10200, 12200}},
     SpeechModes{VXCodecID_AMRWB, 16000, {8850, 12650, 18250, 23850}},
 };
+
+// All of their modes, in the same tables and in 3GPP TS 26.071 table 1 and 26.171 table 1.
+constexpr std::array kSpeexNarrow{3950, 5950, 8000, 11000, 15000, 18200, 24600};
+constexpr std::array kSpeexWide{3950, 5750, 7750, 9800, 12800, 16800, 20600, 23800, 27800, 34200, 42200};
+constexpr std::array kSpeexUltraWide{5750,  7550,  9550,  11600, 14600, 18600,
+                                     22400, 25600, 29600, 36000, 44000};
+constexpr std::array kAMRNarrow{4750, 5150, 5900, 6700, 7400, 7950, 10200, 12200};
+constexpr std::array kAMRWide{6600, 8850, 12650, 14250, 15850, 18250, 19850, 23050, 23850};
 
 template <int... kKbps>
 constexpr std::array<int, sizeof...(kKbps)> kRates{kKbps * 1000 ...};
@@ -137,11 +152,27 @@ std::span<const int> LegalDTS(int sampleRate, std::uint64_t layout)
     return From(kDTS, bits * sampleRate / 512);
 }
 
+std::span<const int> LegalSpeex(int sampleRate)
+{
+    if (sampleRate < 16000)
+        return kSpeexNarrow;
+    return sampleRate < 32000 ? std::span<const int>(kSpeexWide) : std::span<const int>(kSpeexUltraWide);
+}
+
 } // namespace
 
 const AudioBitrateRow* FindAudioBitrate(int codecID)
 {
     return FindRow(std::span<const AudioBitrateRow>(kAudio), &AudioBitrateRow::codecID, codecID);
+}
+
+ChannelBounds ChannelBoundsOf(const AudioBitrateRow& row, int sampleRate)
+{
+    ChannelBounds bounds{row.codecID, 0, row.minPerChannel, row.maxPerChannel};
+    for (const auto& each : kChannelBounds)
+        if (each.codecID == row.codecID && each.sampleRate <= sampleRate)
+            bounds = each;
+    return bounds;
 }
 
 std::span<const SpeechModes> ListedSpeech() { return kSpeech; }
@@ -158,6 +189,12 @@ std::span<const int> LegalBitrates(int codecID, int sampleRate, std::uint64_t la
         return LegalAC3(ChannelsOf(layout));
     case VXCodecID_DTS:
         return LegalDTS(sampleRate, layout);
+    case VXCodecID_Speex:
+        return LegalSpeex(sampleRate);
+    case VXCodecID_AMRNB:
+        return kAMRNarrow;
+    case VXCodecID_AMRWB:
+        return kAMRWide;
     default:
         return {};
     }

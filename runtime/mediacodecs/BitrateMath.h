@@ -1,6 +1,8 @@
 #pragma once
 
+#include "BitrateModel.h"
 #include "BitrateTable.h"
+#include "ChannelLayouts.h"
 #include "IVXCodecs.h"
 
 #include <algorithm>
@@ -18,6 +20,15 @@ inline constexpr std::array kAllGrades{IVXCodecs::QualityLevelLow, IVXCodecs::Qu
 inline std::size_t IndexOf(IVXCodecs::QualityLevel level)
 {
     return static_cast<std::size_t>(std::clamp(int{level}, 0, int{kGrades} - 1));
+}
+
+/// Sound at a rate and in a layout: usual ones where none is told.
+inline SoundStream Usual(SoundStream stream)
+{
+    constexpr int kUsualSampleRate = 48000;
+    stream.sampleRate = stream.sampleRate > 0 ? stream.sampleRate : kUsualSampleRate;
+    stream.layout = stream.layout ? stream.layout : kStereo;
+    return stream;
 }
 
 /// A whole number of bits a second, from 1 to most.

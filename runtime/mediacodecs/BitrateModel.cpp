@@ -1,9 +1,9 @@
 #include "BitrateModel.h"
 
 #include "BitrateMath.h"
+#include "BitrateSnapping.h"
 #include "IVXCodecParameter.h"
 #include "IVXRational.h"
-#include "LevelTable.h"
 
 namespace Vexlor
 {
@@ -15,8 +15,7 @@ using Grade = IVXCodecs::QualityLevel;
 
 constexpr double kReferenceRate = 30.0;
 constexpr double kUsualPixels = 1280.0 * 720.0;
-constexpr double kLeastBitrate = 1000.0; // encoders that count in kb/s read less as no bitrate at all
-constexpr double kFullChroma = 3.0;      // samples a pixel
+constexpr double kFullChroma = 3.0; // samples a pixel
 
 double PixelsOf(const LadderPoint& point) { return double(point.width) * point.height; }
 
@@ -85,7 +84,7 @@ const GradeProfiles* ProfilesFor(const CodecCapabilities& codec, int format)
 double BitrateOfProfile(const CodecCapabilities& codec, const PictureStream& stream, std::size_t grade)
 {
     const auto* row = ProfilesFor(codec, stream.format);
-    return row ? ProfileBitrate(row->codecID, row->profiles.at(grade), stream) : kLeastBitrate;
+    return row ? ProfileBitrate(row->codecID, row->profiles.at(grade), stream) : 0.0;
 }
 
 double LosslessBitrate(const VideoBitrateRow& row, const PictureStream& stream)
@@ -116,7 +115,7 @@ double BitrateOfList(const CodecCapabilities& codec, const PictureStream& stream
         if (!best || fits)
             best = &row;
     }
-    return best ? best->bitrates.at(grade) : kLeastBitrate;
+    return best ? best->bitrates.at(grade) : 0.0;
 }
 
 double Bitrate(const VideoBitrateRow& row, const CodecCapabilities& codec, const PictureStream& stream,
@@ -135,16 +134,6 @@ double Bitrate(const VideoBitrateRow& row, const CodecCapabilities& codec, const
     }
 }
 
-double MaxBitrate(const VideoBitrateRow& row)
-{
-    if (row.maxBitrate > 0)
-        return double(row.maxBitrate);
-    std::int64_t most = 0;
-    for (const auto& level : LevelsOf(row.codecID))
-        most = std::max(most, level.limits.bitrate);
-    return most > 0 ? double(most) : std::numeric_limits<int>::max();
-}
-
 } // namespace
 
 PictureStream PictureOf(const IVXCodecParameter& stream, int format)
@@ -157,8 +146,7 @@ int VideoBitrate(const CodecCapabilities& codec, const PictureStream& stream, Gr
     const auto* row = FindVideoBitrate(codec.codec->id);
     if (!row)
         return 1;
-    const double bitrate = Bitrate(*row, codec, stream, IndexOf(level));
-    return ToBitrate(std::max(bitrate, kLeastBitrate), MaxBitrate(*row));
+    return ToBitrate(WithinBounds(*row, codec, stream, Bitrate(*row, codec, stream, IndexOf(level))));
 }
 
 int ProfileBitrate(int codecID, int profile, const PictureStream& stream)

@@ -32,6 +32,9 @@ struct SoundStream
     int format;
 };
 
+/// The sound of a stream's record, in that sample format.
+SoundStream SoundOf(const IVXCodecParameter& stream, int format);
+
 /// The bitrate of a video codec's stream at a grade, in bits per second, at least 1. Never falls when the
 /// grade, the picture or the frame rate grows.
 int VideoBitrate(const CodecCapabilities& codec, const PictureStream& stream, IVXCodecs::QualityLevel level);

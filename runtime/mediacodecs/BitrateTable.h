@@ -92,8 +92,9 @@ struct AudioBitrateRow
     AudioBitrateKind kind = AudioBitrateKind::Lossy;
     std::array<double, kGrades> perChannel = {}; ///< kb/s of one channel at 44.1 kHz or more
     bool countsSubwoofer = false; ///< whether the subwoofer's channel is given bits as any other
-    int minPerChannel = 1;        ///< kb/s
-    int maxPerChannel = 100'000;  ///< kb/s
+    int minPerChannel = 1;        ///< kb/s; by sample rate where ChannelBounds has rows
+    int maxPerChannel = 100'000;  ///< kb/s; as above
+    double maxSampleBits = 1'000; ///< of one channel's sample
     int minTotal = 1;             ///< kb/s
     int maxTotal = 2'000'000;     ///< kb/s
     double share = 1.0;           ///< of the samples' own bitrate, for Stored
@@ -101,6 +102,15 @@ struct AudioBitrateRow
     int maxBits = 32;             ///< of a stored sample, where the sample format has more
     int blockHeader = 0;          ///< bytes a channel, for Blocks
     int headerSamples = 0;        ///< samples that a header holds, for Blocks
+};
+
+/// What one channel may have from a sample rate on, in kb/s.
+struct ChannelBounds
+{
+    int codecID;
+    int sampleRate;
+    int least;
+    int most;
 };
 
 /// The modes of a speech codec at one sample rate, by grade.
@@ -121,6 +131,8 @@ const GradeProfiles* FindGradeProfiles(int codecID, int format);
 std::span<const ListedBitrate> ListedBitrates();
 /// The row of an audio codec; null when there is none.
 const AudioBitrateRow* FindAudioBitrate(int codecID);
+/// What one channel of a lossy codec may have at a sample rate, in kb/s.
+ChannelBounds ChannelBoundsOf(const AudioBitrateRow& row, int sampleRate);
 /// The rows of all codecs of kind Speech; of one codec by sample rate, rising.
 std::span<const SpeechModes> ListedSpeech();
 /// The only bitrates that the codec's standard has for sound of that kind and that its encoders take, in bits

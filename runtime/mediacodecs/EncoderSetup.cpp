@@ -1,12 +1,15 @@
 #include "EncoderSetup.h"
 
+#include "BitrateControl.h"
 #include "BitrateModel.h"
+#include "BitrateSnapping.h"
 #include "CodecCapabilities.h"
 #include "EncoderOptions.h"
 #include "EncoderTable.h"
 #include "FFmpegCompat.h"
 #include "FFmpegError.h"
 #include "IVXCodecParameter.h"
+#include "IVXCodecs.h"
 #include "IVXRational.h"
 #include "LevelTable.h"
 #include "ProfileTable.h"
@@ -16,6 +19,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <utility>
 
 namespace Vexlor
@@ -41,12 +45,14 @@ public:
     PreparedEncoder Prepared(const IVXCodecParameter& stream, const EncoderWish& wish);
 
 private:
+    bool IsVideo() const { return m_encoder.type == AVMEDIA_TYPE_VIDEO; }
     int Prepare(const IVXCodecParameter& stream, const EncoderWish& wish);
     int TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish);
     EncoderSetup Result(int error);
     void SetPicture(const IVXCodecParameter& stream);
     void SetSound(const IVXCodecParameter& stream);
-    void LimitBitrate();
+    void SetBitrate(const IVXCodecParameter& stream);
+    void SetBounds(const IVXCodecParameter& stream);
     void SetQuality(const IVXCodecParameter& stream);
     void SetLabels(const IVXCodecParameter& stream);
     template <class Label>
@@ -59,7 +65,10 @@ private:
     EncoderRow m_row;
     EncoderLists m_lists;
     EncoderOptions m_options;
-    int m_profile = VX_AV_PROFILE(UNKNOWN);
+    int m_format = VXPixFormat_None;
+    int m_profile = IVXCodecs::VXProfileUnknown;
+    int m_avProfile = VX_AV_PROFILE(UNKNOWN);
+    std::int64_t m_levelBuffer = 0;
     EncoderSetup m_setup;
 };
 
@@ -102,17 +111,6 @@ int Opening::SampleFormat(int wanted)
     return taken;
 }
 
-// A bound wants a buffer to be kept over; a second of the stream is the usual one.
-void SetBitrates(AVCodecContext& context, const IVXCodecParameter& stream)
-{
-    context.bit_rate = stream.GetBitrate();
-    if (context.codec_type != AVMEDIA_TYPE_VIDEO || stream.GetMaxBitrate() <= 0)
-        return;
-    context.rc_max_rate = stream.GetMaxBitrate();
-    context.rc_min_rate = stream.GetMinBitrate();
-    context.rc_buffer_size = stream.GetMaxBitrate();
-}
-
 void SetFlags(AVCodecContext& context, const EncoderWish& wish)
 {
     if (wish.globalHeader)
@@ -131,8 +129,8 @@ void Opening::SetPicture(const IVXCodecParameter& stream)
     context.framerate = Rational(*stream.GetFrameRate());
     context.time_base = av_inv_q(context.framerate);
     context.sample_aspect_ratio = Rational(*stream.GetAspectRatio());
-    const int format = PixelFormat(stream.GetFormat());
-    context.pix_fmt = AVPixelFormatOf(format);
+    m_format = PixelFormat(stream.GetFormat());
+    context.pix_fmt = AVPixelFormatOf(m_format);
     if (m_row.fullRange)
         context.color_range = AVCOL_RANGE_JPEG;
 }
@@ -142,25 +140,47 @@ void Opening::SetSound(const IVXCodecParameter& stream)
     auto& context = *m_setup.context;
     context.sample_rate = stream.GetSampleRate();
     context.time_base = {1, context.sample_rate};
-    context.sample_fmt = AVSampleFormatOf(SampleFormat(stream.GetFormat()));
+    m_format = SampleFormat(stream.GetFormat());
+    context.sample_fmt = AVSampleFormatOf(m_format);
     av_channel_layout_from_mask(&context.ch_layout, stream.GetChannelLayout());
 }
 
-void Opening::LimitBitrate()
+void Opening::SetBitrate(const IVXCodecParameter& stream)
 {
-    auto& bitrate = m_setup.context->bit_rate;
-    if (m_row.mostBitrate == 0 || bitrate <= m_row.mostBitrate)
+    const int wanted = stream.GetBitrate();
+    int taken = IsVideo() ? NearestBitrate(m_codec, PictureOf(stream, m_format), m_profile, wanted)
+                          : NearestBitrate(m_codec, SoundOf(stream, m_format), wanted);
+    if (m_row.mostBitrate > 0)
+        taken = std::min(taken, m_row.mostBitrate);
+    if (taken != wanted && wanted != 0) // an untold one is nobody's
+        m_setup.changes.push_back("bitrate " + std::to_string(wanted) + " is not taken; " +
+                                  std::to_string(taken) + " stands in");
+    m_setup.context->bit_rate = taken;
+}
+
+void Opening::SetBounds(const IVXCodecParameter& stream)
+{
+    auto& context = *m_setup.context;
+    const auto control = ControlOf(stream, static_cast<int>(context.bit_rate), m_levelBuffer);
+    if (control.isConstant && !m_row.constant.empty())
+        m_options.Parse(m_row.constant);
+    if (m_row.isUnbounded && control.isConstant)
+        m_setup.changes.emplace_back("constant bitrate is not taken; a variable one stands in");
+    else if (m_row.isUnbounded && control.most > 0)
+        m_setup.changes.emplace_back("bounds of the bitrate are not taken; none stand in");
+    if (m_row.isUnbounded || control.most == 0)
         return;
-    m_setup.changes.push_back("bitrate " + std::to_string(bitrate) + " is not taken; " +
-                              std::to_string(m_row.mostBitrate) + " stands in");
-    bitrate = m_row.mostBitrate;
+    context.rc_max_rate = control.most;
+    context.rc_min_rate = control.least;
+    context.rc_buffer_size =
+        static_cast<int>(std::min<std::int64_t>(control.buffer, std::numeric_limits<int>::max()));
 }
 
 void Opening::SetQuality(const IVXCodecParameter& stream)
 {
     if (m_row.qualities.front() == 0 || stream.GetBitrate() <= 0 || m_options.Has("quality"))
         return;
-    const auto grade = VideoGrade(m_codec, PictureOf(stream, stream.GetFormat()), stream.GetBitrate());
+    const auto grade = VideoGrade(m_codec, PictureOf(stream, m_format), stream.GetBitrate());
     m_options.Add("quality", std::to_string(m_row.qualities.at(static_cast<std::size_t>(grade))));
 }
 
@@ -186,11 +206,13 @@ int LevelInProfile(const StreamLabels& labels, int level)
 void Opening::SetLabels(const IVXCodecParameter& stream)
 {
     auto& context = *m_setup.context;
-    auto labels = FittingLabels(m_codec, stream, PixelFormatOf(context.pix_fmt));
+    auto labels = FittingLabels(m_codec, stream, m_format);
+    m_levelBuffer = labels.buffer;
     std::ranges::move(labels.changes, std::back_inserter(m_setup.changes));
     if (labels.profile)
     {
-        m_profile = labels.profile->avNumber;
+        m_profile = labels.profile->number;
+        m_avProfile = labels.profile->avNumber;
         SetLabel(context.profile, m_row.profileOption, *labels.profile);
     }
     if (labels.level)
@@ -204,19 +226,19 @@ int Opening::Prepare(const IVXCodecParameter& stream, const EncoderWish& wish)
 {
     if (!m_setup.context)
         return AVERROR(ENOMEM);
-    if (m_encoder.type == AVMEDIA_TYPE_VIDEO)
+    if (IsVideo())
         SetPicture(stream);
     else
         SetSound(stream);
-    SetBitrates(*m_setup.context, stream);
-    LimitBitrate();
     SetFlags(*m_setup.context, wish);
     const int error = m_options.Parse(wish.options);
     if (error < 0)
         return error;
     m_options.Parse(m_row.always);
-    SetQuality(stream);
     SetLabels(stream);
+    SetBitrate(stream);
+    SetBounds(stream);
+    SetQuality(stream);
     return 0;
 }
 
@@ -226,7 +248,7 @@ int Opening::TryToOpen(const IVXCodecParameter& stream, const EncoderWish& wish)
         return error;
     const int opened = m_options.Open(*m_setup.context, m_encoder);
     if (m_setup.context->profile == VX_AV_PROFILE(UNKNOWN)) // muxers ask for it, some encoders forget to say
-        m_setup.context->profile = m_profile;
+        m_setup.context->profile = m_avProfile;
     return opened;
 }
 

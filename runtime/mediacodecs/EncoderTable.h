@@ -14,6 +14,8 @@ struct EncoderRow
     std::string_view profileOption = {};
     std::string_view levelOption = {}; ///< as above, of a level's text
     std::string_view always = {};      ///< options that are set whatever the stream is: "name=value"
+    std::string_view constant = {};    ///< options for a constant bitrate, beside its bounds
+    bool isUnbounded = false;          ///< refuses a constant bitrate and bounds
     int mostBitrate = 0;               ///< bits a second; 0: any
     bool fullRange = false;            ///< takes limited range only as an unofficial extension
     std::array<int, 4> qualities = {}; ///< its "quality" by grade, where it knows no bitrate; 0: it knows

@@ -26,71 +26,82 @@ constexpr int RootOfEight(std::int64_t picture)
 }
 
 // Each standard's columns in its own order. H.264's and HEVC's bounds of frames a second are 1/fR.
-constexpr LevelLimits H264(std::int64_t rate, std::int64_t picture, std::int64_t kbps)
+constexpr LevelLimits H264(std::int64_t rate, std::int64_t picture, std::int64_t kbps, std::int64_t kbits)
 {
     const int side = kMacroblock * RootOfEight(picture);
-    return {kMacroblock, picture * kMacroblockSize, rate * kMacroblockSize, side, side, 172, kbps * 1000};
+    return {kMacroblock, picture * kMacroblockSize, rate * kMacroblockSize, side, side, 172, kbps * 1000,
+            kbits * 1000};
 }
 
-constexpr LevelLimits HEVC(std::int64_t picture, std::int64_t rate, std::int64_t kbps)
+constexpr LevelLimits HEVC(std::int64_t picture, std::int64_t rate, std::int64_t kbps, std::int64_t kbits)
 {
     constexpr int kSmallestBlock = 8;
     const int side = RootOfEight(picture);
-    return {kSmallestBlock, picture, rate, side, side, 300, kbps * 1000};
+    return {kSmallestBlock, picture, rate, side, side, 300, kbps * 1000, kbits * 1000};
 }
 
-constexpr LevelLimits MPEG4(std::int64_t picture, std::int64_t rate, std::int64_t kbps)
+// MaxBR and MaxCPB are the same number in all levels but the first.
+constexpr LevelLimits HEVC(std::int64_t picture, std::int64_t rate, std::int64_t kbps)
+{
+    return HEVC(picture, rate, kbps, kbps);
+}
+
+constexpr LevelLimits MPEG4(std::int64_t picture, std::int64_t rate, std::int64_t kbps, std::int64_t buffer)
 {
     constexpr int kSide = (1 << 13) - kMacroblock; // 13 bits in the stream
-    return {kMacroblock, picture * kMacroblockSize, rate * kMacroblockSize, kSide, kSide, 0, kbps * 1000};
+    constexpr int kBufferUnit = 16384;
+    return {kMacroblock, picture * kMacroblockSize, rate * kMacroblockSize, kSide, kSide, 0, kbps * 1000,
+            buffer * kBufferUnit};
 }
 
-constexpr LevelLimits MPEG2(int width, int height, int frameRate, std::int64_t rate, std::int64_t kbps)
+constexpr LevelLimits MPEG2(int width, int height, int frameRate, std::int64_t rate, std::int64_t kbps,
+                            std::int64_t buffer)
 {
-    return {kMacroblock, std::int64_t{width} * height, rate, width, height, frameRate, kbps * 1000};
+    return {kMacroblock, std::int64_t{width} * height, rate, width, height, frameRate, kbps * 1000, buffer};
 }
 
 constexpr LevelLimits VP9(std::int64_t rate, std::int64_t picture, int side, std::int64_t kbps)
 {
-    return {1, picture, rate, side, side, 0, kbps * 1000};
+    return {1, picture, rate, side, side, 0, kbps * 1000, 0};
 }
 
 constexpr LevelLimits AV1(std::int64_t picture, int width, int height, std::int64_t rate, int frameRate,
                           std::int64_t kbps)
 {
-    return {1, picture, rate, width, height, frameRate, kbps * 1000};
+    return {1, picture, rate, width, height, frameRate, kbps * 1000, 0};
 }
 
 // clang-format off
 
-// level_idc, ITU-T H.264 table A-1 with its MaxMBPS, MaxFS and MaxBR (here of the VCL, which is the lower).
+// level_idc, ITU-T H.264 table A-1 with its MaxMBPS, MaxFS, MaxBR and MaxCPB (here of the VCL, which is the
+// lower).
 constexpr std::array kH264Levels{
-    LevelRow{10, 10, "1", "1", H264(1485, 99, 64)},
-    LevelRow{9, 9, "1b", "1b", H264(1485, 99, 128)},
-    LevelRow{11, 11, "1.1", "1.1", H264(3000, 396, 192)},
-    LevelRow{12, 12, "1.2", "1.2", H264(6000, 396, 384)},
-    LevelRow{13, 13, "1.3", "1.3", H264(11880, 396, 768)},
-    LevelRow{20, 20, "2", "2", H264(11880, 396, 2000)},
-    LevelRow{21, 21, "2.1", "2.1", H264(19800, 792, 4000)},
-    LevelRow{22, 22, "2.2", "2.2", H264(20250, 1620, 4000)},
-    LevelRow{30, 30, "3", "3", H264(40500, 1620, 10000)},
-    LevelRow{31, 31, "3.1", "3.1", H264(108000, 3600, 14000)},
-    LevelRow{32, 32, "3.2", "3.2", H264(216000, 5120, 20000)},
-    LevelRow{40, 40, "4", "4", H264(245760, 8192, 20000)},
-    LevelRow{41, 41, "4.1", "4.1", H264(245760, 8192, 50000)},
-    LevelRow{42, 42, "4.2", "4.2", H264(522240, 8704, 50000)},
-    LevelRow{50, 50, "5", "5", H264(589824, 22080, 135000)},
-    LevelRow{51, 51, "5.1", "5.1", H264(983040, 36864, 240000)},
-    LevelRow{52, 52, "5.2", "5.2", H264(2073600, 36864, 240000)},
-    LevelRow{60, 60, "6", "6", H264(4177920, 139264, 240000)},
-    LevelRow{61, 61, "6.1", "6.1", H264(8355840, 139264, 480000)},
-    LevelRow{62, 62, "6.2", "6.2", H264(16711680, 139264, 800000)},
+    LevelRow{10, 10, "1", "1", H264(1485, 99, 64, 175)},
+    LevelRow{9, 9, "1b", "1b", H264(1485, 99, 128, 350)},
+    LevelRow{11, 11, "1.1", "1.1", H264(3000, 396, 192, 500)},
+    LevelRow{12, 12, "1.2", "1.2", H264(6000, 396, 384, 1000)},
+    LevelRow{13, 13, "1.3", "1.3", H264(11880, 396, 768, 2000)},
+    LevelRow{20, 20, "2", "2", H264(11880, 396, 2000, 2000)},
+    LevelRow{21, 21, "2.1", "2.1", H264(19800, 792, 4000, 4000)},
+    LevelRow{22, 22, "2.2", "2.2", H264(20250, 1620, 4000, 4000)},
+    LevelRow{30, 30, "3", "3", H264(40500, 1620, 10000, 10000)},
+    LevelRow{31, 31, "3.1", "3.1", H264(108000, 3600, 14000, 14000)},
+    LevelRow{32, 32, "3.2", "3.2", H264(216000, 5120, 20000, 20000)},
+    LevelRow{40, 40, "4", "4", H264(245760, 8192, 20000, 25000)},
+    LevelRow{41, 41, "4.1", "4.1", H264(245760, 8192, 50000, 62500)},
+    LevelRow{42, 42, "4.2", "4.2", H264(522240, 8704, 50000, 62500)},
+    LevelRow{50, 50, "5", "5", H264(589824, 22080, 135000, 135000)},
+    LevelRow{51, 51, "5.1", "5.1", H264(983040, 36864, 240000, 240000)},
+    LevelRow{52, 52, "5.2", "5.2", H264(2073600, 36864, 240000, 240000)},
+    LevelRow{60, 60, "6", "6", H264(4177920, 139264, 240000, 240000)},
+    LevelRow{61, 61, "6.1", "6.1", H264(8355840, 139264, 480000, 480000)},
+    LevelRow{62, 62, "6.2", "6.2", H264(16711680, 139264, 800000, 800000)},
 };
 
-// general_level_idc (30 times the level), ITU-T H.265 tables A.8 and A.9 with their MaxLumaPs, MaxLumaSr and
-// MaxBR; 1000 is added for the High tier.
+// general_level_idc (30 times the level), ITU-T H.265 tables A.8 and A.9 with their MaxLumaPs, MaxLumaSr,
+// MaxBR and MaxCPB; 1000 is added for the High tier.
 constexpr std::array kHEVCLevels{
-    LevelRow{30, 30, "1", "level-idc=1:high-tier=0", HEVC(36864, 552960, 128)},
+    LevelRow{30, 30, "1", "level-idc=1:high-tier=0", HEVC(36864, 552960, 128, 350)},
     LevelRow{60, 60, "2", "level-idc=2:high-tier=0", HEVC(122880, 3686400, 1500)},
     LevelRow{63, 63, "2.1", "level-idc=2.1:high-tier=0", HEVC(245760, 7372800, 3000)},
     LevelRow{90, 90, "3", "level-idc=3:high-tier=0", HEVC(552960, 16588800, 6000)},
@@ -114,24 +125,24 @@ constexpr std::array kHEVCLevels{
 };
 
 // The lower four bits of profile_and_level_indication, Advanced Simple, ISO/IEC 14496-2 annex G; macroblocks a
-// picture and a second, and kb/s, of its annex N.
+// picture and a second, kb/s and units of the VBV buffer, of its annex N.
 constexpr std::array kMPEG4Levels{
-    LevelRow{0, 0, "0", {}, MPEG4(99, 2970, 128)},
-    LevelRow{1, 1, "1", {}, MPEG4(99, 2970, 128)},
-    LevelRow{2, 2, "2", {}, MPEG4(396, 5940, 384)},
-    LevelRow{3, 3, "3", {}, MPEG4(396, 11880, 768)},
-    LevelRow{7, 7, "3b", {}, MPEG4(396, 11880, 1500)},
-    LevelRow{4, 4, "4", {}, MPEG4(792, 23760, 3000)},
-    LevelRow{5, 5, "5", {}, MPEG4(1620, 48600, 8000)},
+    LevelRow{0, 0, "0", {}, MPEG4(99, 2970, 128, 10)},
+    LevelRow{1, 1, "1", {}, MPEG4(99, 2970, 128, 10)},
+    LevelRow{2, 2, "2", {}, MPEG4(396, 5940, 384, 40)},
+    LevelRow{3, 3, "3", {}, MPEG4(396, 11880, 768, 40)},
+    LevelRow{7, 7, "3b", {}, MPEG4(396, 11880, 1500, 65)},
+    LevelRow{4, 4, "4", {}, MPEG4(792, 23760, 3000, 80)},
+    LevelRow{5, 5, "5", {}, MPEG4(1620, 48600, 8000, 112)},
 };
 
 // Level identification, ISO/IEC 13818-2 table 8-3: the higher the level, the lower its number. Limits of the
-// Main profile, tables 8-11 (2nd edition: 1088 lines, not 1152), 8-12 and 8-13.
+// Main profile, tables 8-11 (2nd edition: 1088 lines, not 1152), 8-12, 8-13 and, for the buffer, 8-14.
 constexpr std::array kMPEG2Levels{
-    LevelRow{10, 10, "Low", {}, MPEG2(352, 288, 30, 3041280, 4000)},
-    LevelRow{8, 8, "Main", {}, MPEG2(720, 576, 30, 10368000, 15000)},
-    LevelRow{6, 6, "High 1440", {}, MPEG2(1440, 1088, 60, 47001600, 60000)},
-    LevelRow{4, 4, "High", {}, MPEG2(1920, 1088, 60, 62668800, 80000)},
+    LevelRow{10, 10, "Low", {}, MPEG2(352, 288, 30, 3041280, 4000, 475136)},
+    LevelRow{8, 8, "Main", {}, MPEG2(720, 576, 30, 10368000, 15000, 1835008)},
+    LevelRow{6, 6, "High 1440", {}, MPEG2(1440, 1088, 60, 47001600, 60000, 7340032)},
+    LevelRow{4, 4, "High", {}, MPEG2(1920, 1088, 60, 62668800, 80000, 9781248)},
 };
 
 // Ten times the level, as the codec configuration box of VP9 in MP4 has it. Limits: webmproject.org/vp9/levels,
@@ -202,21 +213,21 @@ struct ProfileLimits
 // MPEG-4 Simple: ISO/IEC 14496-2 annex N (level 4 is its 4a). MPEG-2: as above; High's luma rates are those of
 // its 4:2:2 pictures, the lower ones.
 constexpr std::array kProfileLimits{
-    ProfileLimits{VXCodecID_MPEG4, 0, 0, MPEG4(99, 1485, 64)},
-    ProfileLimits{VXCodecID_MPEG4, 0, 1, MPEG4(99, 1485, 64)},
-    ProfileLimits{VXCodecID_MPEG4, 0, 2, MPEG4(396, 5940, 128)},
-    ProfileLimits{VXCodecID_MPEG4, 0, 3, MPEG4(396, 11880, 384)},
-    ProfileLimits{VXCodecID_MPEG4, 0, 4, MPEG4(1200, 36000, 4000)},
-    ProfileLimits{VXCodecID_MPEG4, 0, 5, MPEG4(1620, 40500, 8000)},
-    ProfileLimits{VXCodecID_MPEG2, 5, 8, MPEG2(720, 576, 30, 10368000, 15000)},
-    ProfileLimits{VXCodecID_MPEG2, 1, 8, MPEG2(720, 576, 30, 11059200, 20000)},
-    ProfileLimits{VXCodecID_MPEG2, 1, 6, MPEG2(1440, 1088, 60, 47001600, 80000)},
-    ProfileLimits{VXCodecID_MPEG2, 1, 4, MPEG2(1920, 1088, 60, 62668800, 100000)},
-    ProfileLimits{VXCodecID_MPEG2, 128, 8, MPEG2(720, 608, 30, 11059200, 50000)},
-    ProfileLimits{VXCodecID_MPEG2, 128, 4, MPEG2(1920, 1088, 60, 62668800, 300000)},
+    ProfileLimits{VXCodecID_MPEG4, 0, 0, MPEG4(99, 1485, 64, 10)},
+    ProfileLimits{VXCodecID_MPEG4, 0, 1, MPEG4(99, 1485, 64, 10)},
+    ProfileLimits{VXCodecID_MPEG4, 0, 2, MPEG4(396, 5940, 128, 40)},
+    ProfileLimits{VXCodecID_MPEG4, 0, 3, MPEG4(396, 11880, 384, 40)},
+    ProfileLimits{VXCodecID_MPEG4, 0, 4, MPEG4(1200, 36000, 4000, 80)},
+    ProfileLimits{VXCodecID_MPEG4, 0, 5, MPEG4(1620, 40500, 8000, 112)},
+    ProfileLimits{VXCodecID_MPEG2, 5, 8, MPEG2(720, 576, 30, 10368000, 15000, 1835008)},
+    ProfileLimits{VXCodecID_MPEG2, 1, 8, MPEG2(720, 576, 30, 11059200, 20000, 2441216)},
+    ProfileLimits{VXCodecID_MPEG2, 1, 6, MPEG2(1440, 1088, 60, 47001600, 80000, 9781248)},
+    ProfileLimits{VXCodecID_MPEG2, 1, 4, MPEG2(1920, 1088, 60, 62668800, 100000, 12222464)},
+    ProfileLimits{VXCodecID_MPEG2, 128, 8, MPEG2(720, 608, 30, 11059200, 50000, 9437184)},
+    ProfileLimits{VXCodecID_MPEG2, 128, 4, MPEG2(1920, 1088, 60, 62668800, 300000, 47185920)},
 };
 
-/// Thousandths of the level's bitrate that a profile may use; 1000 for a profile without a row.
+/// Thousandths of the level's bitrate and buffer that a profile may use; 1000 for a profile without a row.
 struct BitrateFactor
 {
     int codecID;
@@ -294,7 +305,9 @@ std::optional<LevelLimits> LimitsOf(int codecID, int profile, int level)
     if (!row)
         return std::nullopt;
     auto limits = row->limits;
-    limits.bitrate = limits.bitrate * FactorOf(standard, profile) / 1000;
+    const int factor = FactorOf(standard, profile);
+    limits.bitrate = limits.bitrate * factor / 1000;
+    limits.buffer = limits.buffer * factor / 1000;
     return limits;
 }
 

@@ -19,6 +19,7 @@ struct LevelLimits
     int height;           ///< luma samples
     int frameRate;        ///< frames a second, however small they are; 0: any
     std::int64_t bitrate; ///< bits a second
+    std::int64_t buffer;  ///< bits that a decoder holds before they are due; 0: not told
 };
 
 /// One level of one codec. Numbers are the standard's own where it has one, and stand in preset documents.

@@ -124,6 +124,14 @@ int ProfileOfBitrate(const CodecCapabilities& codec, const IVXCodecParameter& st
     return ProfileAtBitrate(codec, PictureOf(stream, pixelFormat), stream.GetBitrate());
 }
 
+// An encoder that is given no level chooses the lowest.
+std::int64_t BufferOf(const VXLevelStream& stream, const LevelRow* level)
+{
+    const auto limits =
+        LimitsOf(stream.codecID, stream.profile, level ? level->number : SmallestLevel(stream));
+    return limits ? limits->buffer : 0;
+}
+
 } // namespace
 
 StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParameter& stream, int pixelFormat)
@@ -135,7 +143,9 @@ StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParamet
     SetProfile(labels, codec, isOpen ? ProfileNeededBy(stream) : stream.GetProfile(), content);
     if (isOpen)
         labels.changes.clear(); // nobody asked for the one that gave way
-    SetLevel(labels, stream.GetLevel(), LevelStream(stream, labels.profile));
+    const auto seen = LevelStream(stream, labels.profile);
+    SetLevel(labels, stream.GetLevel(), seen);
+    labels.buffer = BufferOf(seen, labels.level);
     return labels;
 }
 

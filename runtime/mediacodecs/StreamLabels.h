@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -16,7 +17,8 @@ struct StreamLabels
 {
     const ProfileRow* profile = nullptr; ///< null: the encoder chooses
     const LevelRow* level = nullptr;     ///< as above
-    std::vector<std::string> changes;    ///< what gave way, a sentence each
+    std::int64_t buffer = 0; ///< bits that a decoder of that level holds, or of the lowest; 0: not told
+    std::vector<std::string> changes; ///< what gave way, a sentence each
 };
 
 /// The labels nearest to the stream's own that its format, size, rates and bitrate allow. A profile that

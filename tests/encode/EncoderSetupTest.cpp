@@ -6,6 +6,7 @@
 #include "runtime/mediacodecs/CodecCapabilities.h"
 #include "runtime/mediacodecs/FFmpegCompat.h"
 #include "runtime/mediacodecs/FFmpegQuiet.h"
+#include "tests/encode/Encoding.h"
 #include "tests/encode/Streams.h"
 
 #include <gmock/gmock.h>
@@ -28,6 +29,8 @@ protected:
     const FFmpegQuiet quiet;
     std::shared_ptr<IVXCodecParameter> picture = Picture(VXCodecID_MPEG2);
     std::shared_ptr<IVXCodecParameter> sound = Sound(VXCodecID_FLAC);
+
+    void SetUp() override { sound->SetBitrate(0); } // FLAC has none to be set
 };
 
 TEST_F(EncoderSetupTest, PictureIsAsTheParameterSays)
@@ -108,14 +111,50 @@ TEST_F(EncoderSetupTest, HeadersGoWhereTheContainerWantsThem)
     EXPECT_GT(OpenEncoder(*film, {.globalHeader = true}).context->extradata_size, 0);
 }
 
-TEST_F(EncoderSetupTest, BoundsAreKeptOverASecond)
+TEST_F(EncoderSetupTest, BoundsAreKeptOverTheBufferOfTheLevel)
 {
     picture->SetMaxBitrate(5'000'000);
     picture->SetMinBitrate(3'000'000);
     const auto setup = OpenEncoder(*picture, {});
     EXPECT_EQ(5'000'000, setup.context->rc_max_rate);
     EXPECT_EQ(3'000'000, setup.context->rc_min_rate);
-    EXPECT_EQ(5'000'000, setup.context->rc_buffer_size);
+    EXPECT_EQ(1'835'008, setup.context->rc_buffer_size); // Main
+}
+
+TEST_F(EncoderSetupTest, BoundsThatLeaveTheBitrateOutFollowIt)
+{
+    picture->SetMaxBitrate(1'000'000);
+    picture->SetMinBitrate(9'000'000);
+    const auto setup = OpenEncoder(*picture, {});
+    EXPECT_EQ(4'000'000, setup.context->rc_max_rate);
+    EXPECT_EQ(4'000'000, setup.context->rc_min_rate);
+}
+
+TEST_F(EncoderSetupTest, ConstantBitrateHasItsBoundsThere)
+{
+    picture->SetBitrateMode(1);
+    const auto setup = OpenEncoder(*picture, {});
+    EXPECT_EQ(4'000'000, setup.context->rc_max_rate);
+    EXPECT_EQ(4'000'000, setup.context->rc_min_rate);
+}
+
+TEST_F(EncoderSetupTest, VariableBitrateWithoutBoundsHasNoBuffer)
+{
+    const auto setup = OpenEncoder(*picture, {});
+    EXPECT_EQ(0, setup.context->rc_max_rate);
+    EXPECT_EQ(0, setup.context->rc_buffer_size);
+}
+
+TEST_F(EncoderSetupTest, EncoderThatRefusesAConstantBitrateGetsAVariableOne)
+{
+    const auto modern = Picture(VXCodecID_AV1);
+    if (CapabilitiesOf(VXCodecID_AV1)->encoders.front() != "libsvtav1")
+        GTEST_SKIP() << "another encoder here";
+    modern->SetBitrateMode(1);
+    const auto setup = OpenEncoder(*modern, {});
+    EXPECT_THAT(setup.changes, ElementsAre("constant bitrate is not taken; a variable one stands in"));
+    ASSERT_TRUE(setup.context);
+    EncodePictures(*setup.context, 1);
 }
 
 TEST_F(EncoderSetupTest, PixelFormatThatTheEncoderLacksGivesWay)

@@ -119,6 +119,17 @@ constexpr BitrateCase kBitrates[] = {
 INSTANTIATE_TEST_SUITE_P(Codecs, LevelBitrate, testing::ValuesIn(kBitrates),
                          [](const auto& test) { return test.param.name; });
 
+TEST(LevelTable, TheBufferOfADecoderFollowsTheProfile)
+{
+    EXPECT_EQ(31'250'000, LimitsOf(VXCodecID_H264, 100, 40)->buffer);
+    EXPECT_EQ(25'000'000, LimitsOf(VXCodecID_H264, 77, 40)->buffer);
+    EXPECT_EQ(30'000'000, LimitsOf(VXCodecID_HEVC, 1, 1120)->buffer);
+    EXPECT_EQ(350'000, LimitsOf(VXCodecID_HEVC, 1, 30)->buffer);
+    EXPECT_EQ(112 * 16384, LimitsOf(VXCodecID_MPEG4, 15, 5)->buffer);
+    EXPECT_EQ(1'835'008, LimitsOf(VXCodecID_MPEG2, 4, 8)->buffer);
+    EXPECT_EQ(9'437'184, LimitsOf(VXCodecID_MPEG2, 128, 8)->buffer);
+}
+
 TEST(LevelTable, AProfileHasNoLevelThatItsStandardLeavesOut)
 {
     constexpr int kSimpleOfMPEG2 = 5;

@@ -1,0 +1,89 @@
+#include "BitrateSnapping.h"
+
+#include "BitrateMath.h"
+#include "ChannelLayouts.h"
+#include "LevelTable.h"
+
+namespace Vexlor
+{
+
+namespace
+{
+
+constexpr double kLeastBitrate = 1000.0; // encoders that count in kb/s read less as no bitrate at all
+
+double MostBitrate(const VideoBitrateRow& row)
+{
+    if (row.maxBitrate > 0)
+        return double(row.maxBitrate);
+    std::int64_t most = 0;
+    for (const auto& level : LevelsOf(row.codecID))
+        most = std::max(most, level.limits.bitrate);
+    return most > 0 ? double(most) : std::numeric_limits<int>::max();
+}
+
+double Nearest(double bitrate, std::span<const int> legal)
+{
+    return *std::ranges::min_element(legal, {}, [bitrate](int each) { return std::abs(each - bitrate); });
+}
+
+/// Of the bitrates of a codec that has no others than those of its grades.
+template <class BitrateOf>
+int NearestOfGrades(int wanted, BitrateOf bitrateOf)
+{
+    return bitrateOf(NearestGrade(wanted, bitrateOf));
+}
+
+bool TakesAny(const VideoBitrateRow& row)
+{
+    return row.kind == VideoBitrateKind::Predicted || row.kind == VideoBitrateKind::Intra;
+}
+
+} // namespace
+
+double WithinBounds(const VideoBitrateRow& row, const CodecCapabilities& /*codec*/,
+                    const PictureStream& /*stream*/, double bitrate)
+{
+    return std::clamp(bitrate, kLeastBitrate, MostBitrate(row));
+}
+
+double WithinBounds(const AudioBitrateRow& row, const SoundStream& stream, double bitrate)
+{
+    const auto sound = Usual(stream);
+    const auto legal = LegalBitrates(row.codecID, sound.sampleRate, sound.layout);
+    if (!legal.empty())
+        return Nearest(bitrate, legal);
+    const double channels = 1000.0 * ChannelsOf(sound.layout);
+    const auto bounds = ChannelBoundsOf(row, sound.sampleRate);
+    const double most = std::min<double>(bounds.most, row.maxSampleBits * sound.sampleRate / 1000.0);
+    const double kept = std::clamp(bitrate, std::min<double>(bounds.least, most) * channels, most * channels);
+    return std::clamp(kept, 1000.0 * row.minTotal, 1000.0 * row.maxTotal);
+}
+
+int NearestBitrate(const CodecCapabilities& codec, const PictureStream& stream, int profile, int wanted)
+{
+    const auto* row = FindVideoBitrate(codec.codec->id);
+    if (!row || (wanted == 0 && TakesAny(*row)))
+        return wanted;
+    if (TakesAny(*row))
+        return ToBitrate(WithinBounds(*row, codec, stream, wanted));
+    if (const int own = ProfileBitrate(row->codecID, profile, stream); own > 0)
+        return own;
+    return NearestOfGrades(wanted,
+                           [&](IVXCodecs::QualityLevel level) { return VideoBitrate(codec, stream, level); });
+}
+
+int NearestBitrate(const CodecCapabilities& codec, const SoundStream& stream, int wanted)
+{
+    const auto* row = FindAudioBitrate(codec.codec->id);
+    const bool takesAny =
+        row && (row->kind == AudioBitrateKind::Lossy || row->kind == AudioBitrateKind::Speech);
+    if (!row || (wanted == 0 && takesAny))
+        return wanted;
+    if (takesAny)
+        return ToBitrate(WithinBounds(*row, stream, wanted));
+    return NearestOfGrades(wanted,
+                           [&](IVXCodecs::QualityLevel level) { return AudioBitrate(codec, stream, level); });
+}
+
+} // namespace Vexlor

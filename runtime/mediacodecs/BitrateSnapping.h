@@ -1,0 +1,22 @@
+#pragma once
+
+#include "BitrateModel.h"
+#include "BitrateTable.h"
+
+namespace Vexlor
+{
+
+/// The bitrate within what the standard lets such a picture have, in bits per second.
+double WithinBounds(const VideoBitrateRow& row, const CodecCapabilities& codec, const PictureStream& stream,
+                    double bitrate);
+/// The bitrate within what such sound may have, or the nearest one of those that it can have.
+double WithinBounds(const AudioBitrateRow& row, const SoundStream& stream, double bitrate);
+
+/// The bitrate nearest to a wanted one that the codec's pictures can have: the profile's, the nearest of a
+/// list or the codec's own where they have those, else the wanted one within its bounds. An untold bitrate,
+/// 0, stays where the codec takes any.
+int NearestBitrate(const CodecCapabilities& codec, const PictureStream& stream, int profile, int wanted);
+/// As above, for sound.
+int NearestBitrate(const CodecCapabilities& codec, const SoundStream& stream, int wanted);
+
+} // namespace Vexlor
