@@ -2,6 +2,7 @@
 #include "fuzz/Require.h"
 
 #include "apps/vxpresets/ArtworkCommands.h"
+#include "apps/vxpresets/EditCommands.h"
 #include "apps/vxpresets/CommandLine.h"
 #include "apps/vxpresets/ConvertCommands.h"
 #include "apps/host/Failure.h"
@@ -24,6 +25,12 @@ std::string MatchAllCommand(const Request&, const Catalogue&, const Style&) { re
 std::string FormatsCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string CodecsCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string CheckCommand(const Request&, const Catalogue&, const Style&) { return {}; }
+std::string EditAddCommand(const Request&, const Catalogue&, const Style&) { return {}; }
+std::string EditCloneCommand(const Request&, const Catalogue&, const Style&) { return {}; }
+std::string EditMoveCommand(const Request&, const Catalogue&, const Style&) { return {}; }
+std::string EditRemoveCommand(const Request&, const Catalogue&, const Style&) { return {}; }
+std::string EditRenameCommand(const Request&, const Catalogue&, const Style&) { return {}; }
+std::string EditSetCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string ArtworkListCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string ArtworkCheckCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string ArtworkExtractCommand(const Request&, const Catalogue&, const Style&) { return {}; }

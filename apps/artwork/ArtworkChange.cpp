@@ -1,6 +1,7 @@
 #include "ArtworkChange.h"
 
 #include "ArtworkReplacement.h"
+#include "apps/host/Faces.h"
 #include "apps/host/Failure.h"
 
 #include "IVXArtworkImageGroup.h"

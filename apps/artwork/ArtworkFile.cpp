@@ -4,12 +4,10 @@
 #include "apps/host/Failure.h"
 
 #include "artwork/VXLittleEndian.h"
-#include "catalog/icons/Faces.h"
 #include "runtime/foundation/VXLogSink.h"
 
 #include "IVXError.h"
 
-#include <algorithm>
 
 namespace Vexlor::Tool
 {
@@ -77,18 +75,6 @@ std::shared_ptr<IVXData> BlobOf(const ArtworkFile& file, const VXArtworkEntry& e
     if (!file.storage->Seek(entry.offset)->Succeed())
         return IVXData::MallocData(0);
     return file.storage->Read(entry.size);
-}
-
-std::string FaceName(int faceID)
-{
-    const auto face = std::ranges::find(Catalog::kFaces, faceID, &Catalog::Face::id);
-    return face != Catalog::kFaces.end() ? std::string(face->name) : std::string();
-}
-
-std::string FaceText(int faceID)
-{
-    const auto name = FaceName(faceID);
-    return std::to_string(faceID) + (name.empty() ? name : " (" + name + ')');
 }
 
 } // namespace Vexlor::Tool

@@ -32,9 +32,4 @@ bool IsWhole(const ArtworkFile& file, const VXArtworkEntry& entry);
 /// The group's bytes, as far as they lie inside the file.
 std::shared_ptr<IVXData> BlobOf(const ArtworkFile& file, const VXArtworkEntry& entry);
 
-/// "20000000 (FormatFaceIDMP4)"; the number alone where it has no name.
-std::string FaceText(int faceID);
-/// "FormatFaceIDMP4"; empty where the number has no name.
-std::string FaceName(int faceID);
-
 } // namespace Vexlor::Tool

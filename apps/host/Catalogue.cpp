@@ -2,6 +2,7 @@
 
 #include "Failure.h"
 #include "NameSearch.h"
+#include "Qualities.h"
 #include "Text.h"
 #include "catalog/DefaultTree.h"
 
@@ -56,7 +57,9 @@ Catalogue LoadCatalogue(const std::optional<std::string>& document)
     if (!document)
         return CatalogueOf(kTool, Catalog::DefaultTree());
     const auto json = ReadDocument(*document);
-    auto catalogue = CatalogueOf(*document, IVXFormatNode::MallocFormatNode(json));
+    const auto root = IVXFormatNode::MallocFormatNode(json);
+    TakeUpQualities(*root, *json);
+    auto catalogue = CatalogueOf(*document, root);
     if (!catalogue.entries.empty())
         return catalogue;
     const bool isObject = JsonText(*json).starts_with('{');

@@ -45,6 +45,8 @@ public:
     explicit DocumentTree(std::string_view text);
 
     const DocumentValue& operator[](DocumentPosition value) const { return m_values[value]; }
+    /// The whole text.
+    std::string_view Text() const { return m_text; }
     /// The bytes of a value.
     std::string_view Source(DocumentPosition value) const;
     /// The name of a member.

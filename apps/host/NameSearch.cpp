@@ -55,12 +55,10 @@ Positions WithPartOfName(const std::vector<Candidate>& candidates, std::string_v
     return found;
 }
 
-Positions Meant(const std::vector<Candidate>& candidates, std::string_view text)
+Positions WithWholeName(const std::vector<Candidate>& candidates, std::string_view text)
 {
     auto found = WithWholeName(candidates, text, [](std::string_view name) { return std::string(name); });
-    if (found.empty())
-        found = WithWholeName(candidates, text, Folded);
-    return found.empty() ? WithPartOfName(candidates, text) : found;
+    return found.empty() ? WithWholeName(candidates, text, Folded) : found;
 }
 
 /// The fewest characters to insert, remove or replace to make one text of the other.
@@ -112,6 +110,18 @@ std::string Listed(const std::vector<Candidate>& candidates, const Positions& po
     return Joined(names, ", ") + (rest == 0 ? "" : " and " + std::to_string(rest) + " more");
 }
 
+std::size_t OnlyOne(const std::vector<Candidate>& candidates, const Positions& found, std::string_view text,
+                    const std::string& begin, const std::string& kind)
+{
+    if (found.size() == 1)
+        return found.front();
+    if (!found.empty())
+        throw Failure(begin + Quoted(text) + " is more than one " + kind + ": " + Listed(candidates, found));
+    const auto nearest = Listed(candidates, Nearest(candidates, text));
+    throw Failure(begin + "no " + kind + ' ' + Quoted(text) +
+                  (nearest.empty() ? ", nor any other" : "; nearest: " + nearest));
+}
+
 } // namespace
 
 std::string NearestName(const std::vector<std::string>& names, std::string_view text)
@@ -131,14 +141,15 @@ std::string NearestName(const std::vector<std::string>& names, std::string_view 
 std::size_t FindByName(const std::vector<Candidate>& candidates, std::string_view text,
                        const std::string& kind, const std::string& origin)
 {
-    const auto found = Meant(candidates, text);
-    if (found.size() == 1)
-        return found.front();
-    if (found.empty())
-        throw Failure(origin + ": no " + kind + ' ' + Quoted(text) +
-                      "; nearest: " + Listed(candidates, Nearest(candidates, text)));
-    throw Failure(origin + ": " + Quoted(text) + " is more than one " + kind + ": " +
-                  Listed(candidates, found));
+    const auto found = WithWholeName(candidates, text);
+    return OnlyOne(candidates, found.empty() ? WithPartOfName(candidates, text) : found, text, origin + ": ",
+                   kind);
+}
+
+std::size_t FindByWholeName(const std::vector<Candidate>& candidates, std::string_view text,
+                            const std::string& kind)
+{
+    return OnlyOne(candidates, WithWholeName(candidates, text), text, {}, kind);
 }
 
 } // namespace Vexlor::Tool

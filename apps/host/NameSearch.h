@@ -27,4 +27,8 @@ std::string NearestName(const std::vector<std::string>& names, std::string_view 
 std::size_t FindByName(const std::vector<Candidate>& candidates, std::string_view text,
                        const std::string& kind, const std::string& origin);
 
+/// The same of whole names alone, without an origin in front: what is to be changed is not guessed.
+std::size_t FindByWholeName(const std::vector<Candidate>& candidates, std::string_view text,
+                            const std::string& kind);
+
 } // namespace Vexlor::Tool

@@ -145,6 +145,13 @@ std::string Folded(std::string_view text)
     return folded;
 }
 
+std::string Squeezed(std::string_view text)
+{
+    auto squeezed = Folded(text);
+    std::erase(squeezed, ' ');
+    return squeezed;
+}
+
 std::string Quoted(std::string_view text) { return '"' + OneLine(text) + '"'; }
 
 std::string PathEscaped(std::string_view name)

@@ -20,6 +20,8 @@ std::vector<std::string> Entries(std::string_view text);
 std::vector<std::string> Wrapped(std::string_view text, int width);
 /// The text with ASCII capitals made small.
 std::string Folded(std::string_view text);
+/// The same without blanks: two texts that people would take for one.
+std::string Squeezed(std::string_view text);
 /// The text in double quotes, on one line.
 std::string Quoted(std::string_view text);
 /// The name as a part of a path of names: "\/" for each slash.

@@ -4,6 +4,7 @@
 #include "apps/artwork/ArtworkChange.h"
 #include "apps/artwork/ArtworkGroup.h"
 #include "apps/artwork/ArtworkLooks.h"
+#include "apps/host/Faces.h"
 #include "apps/host/Failure.h"
 #include "apps/host/Text.h"
 

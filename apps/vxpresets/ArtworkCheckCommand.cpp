@@ -2,6 +2,7 @@
 
 #include "ArtworkChoice.h"
 #include "ArtworkFindings.h"
+#include "apps/host/Faces.h"
 #include "apps/host/Failure.h"
 #include "apps/host/Json.h"
 #include "apps/host/Text.h"

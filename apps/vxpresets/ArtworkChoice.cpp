@@ -1,15 +1,15 @@
 #include "ArtworkChoice.h"
 
 #include "apps/artwork/DefaultArtwork.h"
+#include "apps/host/Faces.h"
 #include "apps/host/Failure.h"
 #include "apps/host/NameSearch.h"
+#include "apps/host/Quantities.h"
 #include "apps/host/Text.h"
 
 #include "catalog/icons/Faces.h"
 
 #include <algorithm>
-#include <charconv>
-#include <optional>
 
 namespace Vexlor::Tool
 {
@@ -19,17 +19,9 @@ namespace
 
 constexpr const char* kBuiltIn = "built-in artwork";
 
-std::optional<int> NumberOf(std::string_view text)
-{
-    int number = 0;
-    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool isWhole = end == text.data() + text.size();
-    return fault == std::errc() && isWhole ? std::optional(number) : std::nullopt;
-}
-
 std::size_t GroupAt(const ArtworkFile& file, const std::string& text)
 {
-    const auto number = NumberOf(std::string_view(text).substr(1));
+    const auto number = IntegerOf(std::string_view(text).substr(1));
     if (number && *number >= 0 && static_cast<std::size_t>(*number) < file.table.size())
         return static_cast<std::size_t>(*number);
     throw Failure(file.name + ": no group at " + Quoted(text) + ", there are " +
@@ -74,19 +66,10 @@ std::size_t FindGroup(const ArtworkFile& file, const std::string& text)
 {
     if (text.starts_with('#'))
         return GroupAt(file, text);
-    if (const auto number = NumberOf(text))
+    if (const auto number = IntegerOf(text))
         return GroupOfFace(file, *number);
     const auto faceIDs = NamedFaces(file);
     return GroupOfFace(file, faceIDs[FindByName(NamesOf(faceIDs), text, "group", file.name)]);
-}
-
-int FaceOf(const std::string& text)
-{
-    if (const auto number = NumberOf(text))
-        return *number;
-    std::vector<int> faceIDs(Catalog::kFaces.size());
-    std::ranges::transform(Catalog::kFaces, faceIDs.begin(), &Catalog::Face::id);
-    return faceIDs[FindByName(NamesOf(faceIDs), text, "face identifier", "vxpresets")];
 }
 
 } // namespace Vexlor::Tool

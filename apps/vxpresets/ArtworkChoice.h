@@ -16,8 +16,4 @@ ArtworkFile OpenRequested(const ArtworkRequest& request);
 /// Of several groups of one identifier it is the first. Throws Failure.
 std::size_t FindGroup(const ArtworkFile& file, const std::string& text);
 
-/// The face identifier that the text means: a number, the name of a known one or a part of it. Throws
-/// Failure.
-int FaceOf(const std::string& text);
-
 } // namespace Vexlor::Tool

@@ -3,6 +3,7 @@
 #include "ArtworkChoice.h"
 #include "apps/artwork/ArtworkGroup.h"
 #include "apps/artwork/ArtworkPictures.h"
+#include "apps/host/Faces.h"
 #include "apps/host/Failure.h"
 #include "apps/host/Text.h"
 

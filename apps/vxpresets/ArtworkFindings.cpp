@@ -2,6 +2,7 @@
 
 #include "apps/artwork/ArtworkGroup.h"
 #include "apps/artwork/ArtworkPictures.h"
+#include "apps/host/Faces.h"
 
 #include "IVXArtworkImage.h"
 #include "IVXData.h"

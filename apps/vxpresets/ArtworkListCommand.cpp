@@ -4,6 +4,7 @@
 #include "Table.h"
 #include "apps/artwork/ArtworkGroup.h"
 #include "apps/artwork/ArtworkPictures.h"
+#include "apps/host/Faces.h"
 #include "apps/host/Json.h"
 #include "apps/host/Text.h"
 

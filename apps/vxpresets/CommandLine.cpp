@@ -4,6 +4,7 @@
 #include "CommandOptions.h"
 #include "CommandOutline.h"
 #include "ConvertCommands.h"
+#include "EditCommands.h"
 #include "apps/host/Failure.h"
 #include "apps/host/Text.h"
 
@@ -80,6 +81,7 @@ void AddCommands(CLI::App& app, Request& request)
         ->excludes(codec)
         ->excludes("--json");
     AddCheck(app, request);
+    AddEditCommands(app, request);
     AddArtworkCommands(app, request);
 }
 

@@ -2,6 +2,7 @@
 
 #include "ArtworkRequest.h"
 #include "ConvertRequest.h"
+#include "EditRequest.h"
 #include "Style.h"
 #include "apps/host/Catalogue.h"
 
@@ -28,6 +29,7 @@ struct Request
     ConvertRequest convert = {};
     std::optional<std::string> codec;
     ArtworkRequest artwork = {};
+    EditRequest edit = {};
     bool needsCatalogue = true; ///< the command gets an empty one otherwise
 };
 
