@@ -6,6 +6,7 @@ extern "C"
 #include <libavutil/mem.h>
 }
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -17,9 +18,6 @@ namespace
 {
 
 constexpr int kBufferBytes = 1 << 16;
-// The index of a film of many hours takes a few dozen MiB; a reader that wants more than this is being led
-// around in circles.
-constexpr std::int64_t kBudget = std::int64_t{256} << 20;
 
 // The path's bytes are UTF-8 on every platform.
 std::filesystem::path FilePath(const std::string& path) { return {std::u8string(path.begin(), path.end())}; }
@@ -43,7 +41,12 @@ std::string ComplaintAboutKind(std::filesystem::file_type type, const std::error
 
 } // namespace
 
-BoundedFile::BoundedFile(const std::string& path) : m_budget(kBudget), m_complaint(Open(path)) {}
+BoundedFile::BoundedFile(const std::string& path, std::int64_t bytes, double seconds)
+    : m_budget(bytes),
+      m_deadline(Clock::now() + std::chrono::milliseconds(static_cast<std::int64_t>(seconds * 1000))),
+      m_complaint(Open(path))
+{
+}
 
 std::string BoundedFile::Open(const std::string& path)
 {
@@ -86,10 +89,10 @@ void BoundedFile::FreeIO::operator()(AVIOContext* io) const
 
 int BoundedFile::Read(std::uint8_t* bytes, int count)
 {
-    if (Exhausted())
+    if (Exhausted() || IsLate())
         return AVERROR_EXIT;
     m_stream.clear();
-    m_stream.read(reinterpret_cast<char*>(bytes), count);
+    m_stream.read(reinterpret_cast<char*>(bytes), std::min<std::int64_t>(count, m_budget));
     const auto got = static_cast<int>(m_stream.gcount());
     m_budget -= got;
     if (got > 0)

@@ -15,6 +15,7 @@ namespace
 {
 
 constexpr double kSampleBytes = 8 << 20;
+constexpr int kLeastPacket = 64; // or empty ones would be read for ever
 
 struct FreePacket
 {
@@ -34,14 +35,17 @@ bool NeedsEstimate(const AVStream* stream)
 
 // The bytes that each stream takes in the first few MiB of packets; only streams without a bitrate are
 // counted.
-std::vector<double> PacketBytes(AVFormatContext& context)
+std::vector<double> PacketBytes(const MediaInput& input)
 {
+    auto& context = input.Context();
     std::vector<double> bytes(context.nb_streams);
     const std::unique_ptr<AVPacket, FreePacket> packet(av_packet_alloc());
-    for (double all = 0; packet && all < kSampleBytes && av_read_frame(&context, packet.get()) >= 0;)
+    for (double all = 0; packet && all < kSampleBytes && !input.HasHadEnough();)
     {
+        if (av_read_frame(&context, packet.get()) < 0)
+            break;
         const auto index = static_cast<std::size_t>(packet->stream_index);
-        all += packet->size;
+        all += std::max(packet->size, kLeastPacket);
         // A damaged file may bring in a stream late.
         if (index < bytes.size() && IsWithoutBitrate(context.streams[index]))
             bytes[index] += packet->size;
@@ -92,7 +96,7 @@ std::vector<int> SourceBitrates(const MediaInput& input)
     const double remainder = std::ranges::any_of(streams, NeedsEstimate) ? Remainder(input, streams) : 0;
     if (remainder <= 0)
         return bitrates;
-    const auto bytes = PacketBytes(input.Context());
+    const auto bytes = PacketBytes(input);
     const double all = std::accumulate(bytes.begin(), bytes.end(), 0.0);
     for (std::size_t i = 0; i < bytes.size(); ++i)
         if (bytes[i] > 0)

@@ -56,10 +56,10 @@ VXMediaFile Filled(const MediaInput& input, const BestStreams& best, const std::
 
 } // namespace
 
-VXMediaFile ReadMediaFile(const std::string& path)
+VXMediaFile ReadMediaFile(const std::string& path, const VXMediaFileLimits& limits)
 {
     const FFmpegQuiet quiet;
-    const MediaInput input(path);
+    const MediaInput input(path, limits);
     if (!input.Complaint().empty())
         return Unread(path, input.Complaint());
     const auto best = FindBestStreams(input.Context());

@@ -35,6 +35,20 @@ struct VXMediaFile
     std::int64_t size = 0;
 };
 
+/// How much a file may cost before it is given up: a file from outside is made to be read cheaply or for
+/// ever.
+struct VXMediaFileLimits
+{
+    /// Bytes that are read. The index of a film of many hours takes a few dozen MiB.
+    std::int64_t bytes = std::int64_t{256} << 20;
+    /// Seconds, asked for between reads and packets; below a millisecond none.
+    double seconds = 30;
+    /// Streams; those of a transport stream beyond them are left out, other files are refused.
+    int streams = 256;
+    /// Pixels of a picture that is decoded to know its format; a larger one keeps what its header tells.
+    std::int64_t pixels = std::int64_t{1} << 26;
+};
+
 /// Reads the parameters of the media file at that path, which is UTF-8 and never more than a file name: no
 /// address, no pattern, no list.
 ///
@@ -42,11 +56,12 @@ struct VXMediaFile
 /// turns. The frame rate is the average, else the container's, else 0/1. A bitrate that the stream does not
 /// tell is its share of the container's; 0 when that is unknown, too. Cover pictures, still pictures and
 /// playlists are not video. Of a file that is cut off, what its beginning tells is answered, if that
-/// describes the streams.
+/// describes the streams. A file that costs more than the limits is refused, with the reason; so is one whose
+/// tables would take memory out of proportion to its size.
 ///
 /// Nothing is written to stderr: while it reads, FFmpeg's own log function is silenced for the whole process;
 /// a log function that the host has set stays in place and receives every line. Safe in several threads at
 /// once.
-VX_MEDIACODECS_API VXMediaFile ReadMediaFile(const std::string& path);
+VX_MEDIACODECS_API VXMediaFile ReadMediaFile(const std::string& path, const VXMediaFileLimits& limits = {});
 
 } // namespace Vexlor
