@@ -68,29 +68,38 @@ constexpr Grades kHEVC{GradeLadder{kHEVCNormal, kLow}, {kHEVCNormal}, {kHEVCHigh
 
 // ---- VP9 and AV1 ------------------------------------------------------------------------------------------
 
-// Normal. Google, VP9 recommended settings (developers.google.com/media/vp9/settings, read in 2026), average
-// bitrate for VOD at 24 to 30 fps; of the two figures for 640 x 480 that of medium quality. Its low quality,
-// 512, is Low there.
-constexpr std::array kVP9Normal{
-    LadderPoint{320, 240, 150},     LadderPoint{640, 360, 276},    LadderPoint{640, 480, 750},
-    LadderPoint{1280, 720, 1024},   LadderPoint{1920, 1080, 1800}, LadderPoint{2560, 1440, 6000},
-    LadderPoint{3840, 2160, 12000},
+// A grade is to look the same in every codec, so H.264's ladders by 0.6, the factor of VP9 in Jellyfin's
+// encoder settings, are the base. Google, VP9 recommended settings (developers.google.com/media/vp9/settings,
+// read in 2026), average bitrate for VOD at 24 to 30 fps, has a third of Apple's
+// H.264 at 720p and 1080p, three quarters of it at 360p and more than it at 240p and 480p: it aims lower
+// where most is watched. Its figures are therefore found at other grades by the size, and a point near one
+// leans its way, by no more than brings it within 15 %: Low has 720p (1024), 1080p (1800) and 1440p (6000);
+// Normal 360p (276), 480p of low quality (512) and 2160p (12000); High 240p (150) and 480p of medium quality
+// (750).
+constexpr std::array kVP9Low{
+    LadderPoint{640, 360, 146},    LadderPoint{640, 480, 252},    LadderPoint{960, 540, 800},
+    LadderPoint{1280, 720, 1170},  LadderPoint{1920, 1080, 2060}, LadderPoint{2560, 1440, 5400},
+    LadderPoint{3840, 2160, 7733},
 };
-
-// High. H.264's by Jellyfin's 0.6, without Apple's figure for 432p, which is less than Google's here.
+constexpr std::array kVP9Normal{
+    LadderPoint{640, 360, 240},     LadderPoint{640, 480, 440},    LadderPoint{960, 540, 1200},
+    LadderPoint{1280, 720, 1800},   LadderPoint{1920, 1080, 3600}, LadderPoint{2560, 1440, 8100},
+    LadderPoint{3840, 2160, 11600},
+};
+// Without Apple's figure for 432p, which is less than Google's here.
 constexpr std::array kVP9High{
-    LadderPoint{640, 360, 600},     LadderPoint{854, 480, 1368},   LadderPoint{1280, 720, 2700},
-    LadderPoint{1920, 1080, 4800},  LadderPoint{2560, 1440, 9600}, LadderPoint{3840, 2160, 24000},
-    LadderPoint{7680, 4320, 72000},
+    LadderPoint{320, 240, 170},    LadderPoint{640, 360, 600},     LadderPoint{640, 480, 652},
+    LadderPoint{854, 480, 1368},   LadderPoint{1280, 720, 2700},   LadderPoint{1920, 1080, 4800},
+    LadderPoint{2560, 1440, 9600}, LadderPoint{3840, 2160, 24000}, LadderPoint{7680, 4320, 72000},
 };
 constexpr double kBestOfVP9 = 0.6;
 
-constexpr Grades kVP9{GradeLadder{kVP9Normal, kLow}, {kVP9Normal}, {kVP9High}, {kBest, kBestOfVP9}};
+constexpr Grades kVP9{GradeLadder{kVP9Low}, {kVP9Normal}, {kVP9High}, {kBest, kBestOfVP9}};
 
 // Nobody publishes a ladder of AV1: VP9's, by the factors 0.5 and 0.6 that Jellyfin has for the two.
 constexpr double kAV1AgainstVP9 = 0.5 / 0.6;
 
-constexpr Grades kAV1{GradeLadder{kVP9Normal, kLow* kAV1AgainstVP9},
+constexpr Grades kAV1{GradeLadder{kVP9Low, kAV1AgainstVP9},
                       {kVP9Normal, kAV1AgainstVP9},
                       {kVP9High, kAV1AgainstVP9},
                       {kBest, kBestOfVP9* kAV1AgainstVP9}};
@@ -200,7 +209,8 @@ constexpr std::array kVideo{
     // The largest bit_rate field, ISO/IEC 11172-2 2.4.3.2, is (2^18 - 2) x 400.
     VideoBitrateRow{.codecID = VXCodecID_MPEG1, .grades = kMPEG2, .maxBitrate = 104'856'800},
     VideoBitrateRow{.codecID = VXCodecID_MPEG2, .grades = kMPEG2},
-    // The Qt encoder's model gives VP8 the figures of H.264 and Theora those of MPEG-4.
+    // The Qt encoder's model gives VP8, Theora and MPEG-4 the figures of H.264. VP8, whose tools are those of
+    // H.264's Baseline, keeps them; Theora, which lacks them as MPEG-4 does, has those of MPEG-4 here.
     VideoBitrateRow{.codecID = VXCodecID_VP8, .grades = kH264},
     VideoBitrateRow{.codecID = VXCodecID_VP9, .grades = kVP9},
     VideoBitrateRow{.codecID = VXCodecID_AV1, .grades = kAV1},

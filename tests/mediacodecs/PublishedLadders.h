@@ -28,7 +28,7 @@ struct PublishedLadder
     int format;
     double frameRate;
     std::vector<PublishedPoint> points;
-    /// The grades of which one has every point, the lowest and the highest; the same one where it has.
+    /// The grades of which one has every point, the lowest and the highest; the same one where that has all.
     IVXCodecs::QualityLevel from;
     IVXCodecs::QualityLevel to = from;
 };
@@ -141,14 +141,15 @@ inline const std::vector<PublishedLadder>& PublishedLadders()
          30,
          {{960, 540, 1600}, {1280, 720, 3400}, {1920, 1080, 5800}, {3840, 2160, 16800}},
          QualityLevelHigh},
-        // developers.google.com/media/vp9/settings
-        {"GoogleVP9LQ",
+        // developers.google.com/media/vp9/settings. Leaner at 720p and 1080p than at other sizes, beside
+        // H.264's.
+        {"LowQualityVP9",
          "Google VP9 VOD, low quality",
          VXCodecID_VP9,
          k420,
          30,
          {{640, 480, 512}},
-         QualityLevelLow},
+         QualityLevelNormal},
         {"GoogleVP930",
          "Google VP9 VOD",
          VXCodecID_VP9,
@@ -161,13 +162,15 @@ inline const std::vector<PublishedLadder>& PublishedLadders()
           {1920, 1080, 1800},
           {2560, 1440, 6000},
           {3840, 2160, 12000}},
-         QualityLevelNormal},
+         QualityLevelLow,
+         QualityLevelHigh},
         {"GoogleVP960",
          "Google VP9 VOD",
          VXCodecID_VP9,
          k420,
          60,
          {{1280, 720, 1800}, {1920, 1080, 3000}, {2560, 1440, 9000}, {3840, 2160, 18000}},
+         QualityLevelLow,
          QualityLevelNormal},
         // The services of OBS Studio. What the service takes at most, not what it recommends: at 1080p as
         // little as Apple's lower figure, at 360p as much as YouTube's, and no grade is both.

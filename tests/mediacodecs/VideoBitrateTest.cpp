@@ -80,6 +80,43 @@ TEST(VideoBitrate, OfModernCodecsIsLower)
     EXPECT_GT(of(VXCodecID_H263), of(VXCodecID_MPEG4));
 }
 
+/// What a codec may need of H.264's bitrate at the same grade, so that it looks the same: what is published
+/// for HEVC falls from 0.8 at 720p to 0.4 at 360p and 2160p; VP9's and AV1's factors are 0.6 and 0.5.
+struct Efficiency
+{
+    const char* name;
+    int codecID;
+    double least;
+    double most;
+};
+
+class EfficiencyAgainstH264 : public testing::TestWithParam<Efficiency>
+{
+};
+
+TEST_P(EfficiencyAgainstH264, IsThatOfTheCodecAtEveryGradeAndSize)
+{
+    const auto& test = GetParam();
+    for (const auto size :
+         {PictureSize{640, 360}, {854, 480}, {1280, 720}, {1920, 1080}, {2560, 1440}, {3840, 2160}})
+        for (const auto level : kAllGrades)
+        {
+            const PictureStream stream{size.width, size.height, 30, k420};
+            const double ratio =
+                double(Video(test.codecID, stream, level)) / Video(VXCodecID_H264, stream, level);
+            EXPECT_GE(ratio, test.least) << size.height << " lines at grade " << level;
+            EXPECT_LE(ratio, test.most) << size.height << " lines at grade " << level;
+        }
+}
+
+constexpr Efficiency kEfficiencies[] = {
+    {"HEVC", VXCodecID_HEVC, 0.39, 0.81},
+    {"VP9", VXCodecID_VP9, 0.5, 0.67},
+    {"AV1", VXCodecID_AV1, 0.42, 0.56},
+};
+INSTANTIATE_TEST_SUITE_P(VideoBitrate, EfficiencyAgainstH264, testing::ValuesIn(kEfficiencies),
+                         [](const auto& test) { return test.param.name; });
+
 TEST(VideoBitrate, RisesWithDepthAndChroma)
 {
     const auto of = [](int format) {
