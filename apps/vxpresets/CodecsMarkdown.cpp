@@ -45,7 +45,7 @@ struct Picture
 constexpr std::array kPictures{Picture{640, 360, 30},   Picture{854, 480, 30},   Picture{1280, 720, 30},
                                Picture{1920, 1080, 30}, Picture{1920, 1080, 60}, Picture{3840, 2160, 30},
                                Picture{3840, 2160, 60}};
-constexpr std::array kLayouts{"Mono", "Stereo", "5.1", "5.1 (side)"};
+constexpr std::array kLayouts{"Mono", "Stereo", "5.1"};
 constexpr int kSampleRate = 48000;
 
 /// A codec's bitrate by grade, for one picture or sound, and the lowest level that holds the picture.

@@ -37,7 +37,8 @@ double LossyBitrate(const AudioBitrateRow& row, const SoundStream& stream, std::
 double StoredBitrate(const AudioBitrateRow& row, const CodecCapabilities& codec, const SoundStream& stream)
 {
     // A stream told in a format that the codec does not hold is converted to the one offered first.
-    const bool held = std::ranges::find(codec.formats, stream.format) != codec.formats.end();
+    const bool held = std::ranges::find(codec.formats, AVSampleFormatOf(stream.format), AVSampleFormatOf) !=
+                      codec.formats.end();
     const int told = SampleBitsOf(held ? stream.format : codec.formats.front());
     const int bits = row.bits > 0 ? row.bits : std::min(told, row.maxBits);
     return row.share * stream.sampleRate * ChannelCountOf(stream) * bits;

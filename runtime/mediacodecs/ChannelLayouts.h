@@ -8,6 +8,9 @@ namespace Vexlor
 {
 
 /// One channel layout with a name; one bit a loudspeaker, as in the headers of WAVE files.
+///
+/// Layouts that no codec has both of share a name: whether the two rear channels of 5.1 stand beside or
+/// behind is the codec's business, and nobody's who chooses.
 struct ChannelLayoutRow
 {
     std::uint64_t mask;

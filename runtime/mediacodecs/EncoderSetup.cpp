@@ -104,7 +104,7 @@ int Opening::SampleFormat(int wanted)
     const auto avFormat = AVSampleFormatOf(wanted);
     for (const auto same : {avFormat, av_get_planar_sample_fmt(avFormat), av_get_packed_sample_fmt(avFormat)})
         if (same != AV_SAMPLE_FMT_NONE && Lists(m_lists.sampleFormats, same))
-            return SampleFormatOf(same);
+            return SampleFormatOf(same, SampleBitsOf(wanted));
     const int taken = FirstTaken(m_codec.formats, m_lists.sampleFormats, AVSampleFormatOf);
     m_setup.changes.push_back("sample format " + SampleFormatName(wanted) + " is not taken; " +
                               SampleFormatName(taken) + " stands in");
@@ -142,6 +142,7 @@ void Opening::SetSound(const IVXCodecParameter& stream)
     context.time_base = {1, context.sample_rate};
     m_format = SampleFormat(stream.GetFormat());
     context.sample_fmt = AVSampleFormatOf(m_format);
+    context.bits_per_raw_sample = SampleBitsOf(m_format);
     av_channel_layout_from_mask(&context.ch_layout, stream.GetChannelLayout());
 }
 

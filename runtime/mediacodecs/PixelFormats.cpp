@@ -76,7 +76,7 @@ constexpr std::array kPixelFormats{
     PixelFormatRow{kPixFormatGBRP10, AV_PIX_FMT_GBRP10, "RGB planar 10-bit"},
     PixelFormatRow{kPixFormatGBRP12, AV_PIX_FMT_GBRP12, "RGB planar 12-bit"},
     PixelFormatRow{99, AV_PIX_FMT_GBRAP, "RGB planar with alpha"},
-    PixelFormatRow{100, AV_PIX_FMT_PAL8, "Palette of 256 colors"},
+    PixelFormatRow{kPixFormatPAL8, AV_PIX_FMT_PAL8, "Palette of 256 colors"},
     PixelFormatRow{101, AV_PIX_FMT_RGB48, "RGB 16-bit"},
     PixelFormatRow{102, AV_PIX_FMT_RGBA64, "RGB 16-bit with alpha"},
     PixelFormatRow{103, AV_PIX_FMT_RGB0, "RGB, padded"},

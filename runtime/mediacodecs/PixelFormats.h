@@ -42,6 +42,7 @@ inline constexpr int kPixFormatBGRA = 93;
 inline constexpr int kPixFormatGBRP = 96;
 inline constexpr int kPixFormatGBRP10 = 97;
 inline constexpr int kPixFormatGBRP12 = 98;
+inline constexpr int kPixFormatPAL8 = 100;
 inline constexpr int kPixFormatBGR0 = 104;
 inline constexpr int kPixFormatRGB8 = 107;
 inline constexpr int kPixFormatBGR8 = 108;

@@ -24,16 +24,21 @@ constexpr std::array kSampleFormats{
     SampleFormatRow{kSampleFormatFLTP, AV_SAMPLE_FMT_FLTP, "32-bit float planar"},
     SampleFormatRow{kSampleFormatDBLP, AV_SAMPLE_FMT_DBLP, "64-bit float planar"},
     SampleFormatRow{kSampleFormatS64P, AV_SAMPLE_FMT_S64P, "64-bit planar"},
+    SampleFormatRow{kSampleFormatS24, AV_SAMPLE_FMT_S32, "24-bit", 24},
+    SampleFormatRow{kSampleFormatS24P, AV_SAMPLE_FMT_S32P, "24-bit planar", 24},
 };
 
 } // namespace
 
 std::span<const SampleFormatRow> SampleFormatTable() { return kSampleFormats; }
 
-int SampleFormatOf(AVSampleFormat avFormat)
+int SampleFormatOf(AVSampleFormat avFormat, int bits)
 {
-    const auto* row = FindRow(SampleFormatTable(), &SampleFormatRow::avFormat, avFormat);
-    return row ? row->format : VXSampleFormat_None;
+    const SampleFormatRow* found = nullptr;
+    for (const auto& row : kSampleFormats)
+        if (row.avFormat == avFormat && (!found || row.bits == bits))
+            found = &row;
+    return found ? found->format : VXSampleFormat_None;
 }
 
 AVSampleFormat AVSampleFormatOf(int format)
@@ -44,6 +49,9 @@ AVSampleFormat AVSampleFormatOf(int format)
 
 int SampleBitsOf(int format)
 {
+    const auto* row = FindRow(SampleFormatTable(), &SampleFormatRow::format, format);
+    if (row && row->bits > 0)
+        return row->bits;
     const auto bytes = av_get_bytes_per_sample(AVSampleFormatOf(format));
     return bytes > 0 ? bytes * 8 : 16;
 }

@@ -147,7 +147,7 @@ std::shared_ptr<IVXCodecParameter> AudioSource(const AVStream& stream, int bitra
     auto source = Source(stream, bitrate);
     source->SetSampleRate(codec.sample_rate);
     source->SetChannelLayout(LayoutOf(codec.ch_layout));
-    source->SetFormat(SampleFormatOf(static_cast<AVSampleFormat>(codec.format)));
+    source->SetFormat(SampleFormatOf(static_cast<AVSampleFormat>(codec.format), codec.bits_per_raw_sample));
     return source;
 }
 

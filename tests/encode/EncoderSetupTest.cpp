@@ -182,6 +182,15 @@ TEST_F(EncoderSetupTest, SampleFormatThatTheEncoderLacksGivesWay)
     EXPECT_THAT(setup.changes, ElementsAre("sample format 32-bit float is not taken; 16-bit stands in"));
 }
 
+TEST_F(EncoderSetupTest, SamplesOf24BitsAreEncodedAsSuch)
+{
+    sound->SetFormat(kSampleFormatS24);
+    const auto setup = OpenEncoder(*sound, {});
+    EXPECT_EQ(AV_SAMPLE_FMT_S32, setup.context->sample_fmt);
+    EXPECT_EQ(24, setup.context->bits_per_raw_sample);
+    EXPECT_THAT(setup.changes, IsEmpty());
+}
+
 TEST_F(EncoderSetupTest, ProfileAndLevelAreLibavcodecsNumbers)
 {
     picture->SetProfile(4); // Main

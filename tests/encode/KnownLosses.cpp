@@ -35,7 +35,6 @@ constexpr std::array kLosses{
             "FLAC has one place for back and side loudspeakers (RFC 9639 9.1.3)"},
     LossRow{"CAF AIFF", kPCM, "layout", "libavformat writes no layout of its own where a tag is near enough"},
     LossRow{"MKV MKA MXF", kPCM, "layout", "the number of channels of PCM is stored, not their places"},
-    LossRow{"MKV", kCodecs<VXCodecID_DIVX>, "codec", "Matroska names MPEG-4 without the encoder's tag"},
 };
 
 /// How exactly a container tells a frame rate.

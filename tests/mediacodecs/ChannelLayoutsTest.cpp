@@ -1,6 +1,7 @@
 #include "runtime/mediacodecs/ChannelLayouts.h"
 #include "Columns.h"
 #include "VXMediaCodecs.h"
+#include "runtime/mediacodecs/CodecTable.h"
 
 #include <gtest/gtest.h>
 
@@ -15,10 +16,20 @@ namespace Vexlor
 namespace
 {
 
-TEST(ChannelLayouts, MasksAndNamesAreGivenOnce)
+TEST(ChannelLayouts, MasksAreGivenOnce)
 {
     EXPECT_EQ(ChannelLayoutTable().size(), DifferentValues(ChannelLayoutTable(), &ChannelLayoutRow::mask));
-    EXPECT_EQ(ChannelLayoutTable().size(), DifferentValues(ChannelLayoutTable(), &ChannelLayoutRow::name));
+}
+
+TEST(ChannelLayouts, ThoseOfOneCodecAreToldApartByTheirNames)
+{
+    for (const auto& codec : CodecTable())
+    {
+        std::set<std::string> names;
+        for (const auto layout : codec.audio.layouts)
+            EXPECT_TRUE(names.insert(VXChannelLayoutName(layout)).second)
+                << codec.name << ' ' << VXChannelLayoutName(layout);
+    }
 }
 
 TEST(ChannelLayouts, MasksAreTheOnesOfLibavutil)
@@ -36,6 +47,7 @@ TEST(ChannelLayouts, NamesAreAsPeopleWriteThem)
     EXPECT_EQ("Mono", VXChannelLayoutName(kMono));
     EXPECT_EQ("Stereo", VXChannelLayoutName(kStereo));
     EXPECT_EQ("5.1", VXChannelLayoutName(kLayout51));
+    EXPECT_EQ("5.1", VXChannelLayoutName(kLayout51Side)); // AC-3's
     EXPECT_EQ("7.1", VXChannelLayoutName(kLayout71));
 }
 

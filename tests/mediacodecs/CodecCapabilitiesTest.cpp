@@ -61,6 +61,17 @@ TEST(CodecCapabilities, PicturesOfEightBitsAndHalfChromaAreOfferedFirstWhereTheC
     }
 }
 
+TEST(CodecCapabilities, PicturesOfTenBitsAreOfferedSecondWhereTheCodecHasThem)
+{
+    for (const int id : {VXCodecID_H264, VXCodecID_HEVC, VXCodecID_VP9, VXCodecID_AV1})
+        EXPECT_EQ(kPixFormatYUV420P10, FindCodec(id)->formats[1]) << id;
+}
+
+TEST(CodecCapabilities, GIFIsOfferedWithItsPalette)
+{
+    EXPECT_EQ(kPixFormatPAL8, CapabilitiesOf(VXCodecID_GIF)->formats.front());
+}
+
 TEST(CodecCapabilities, NoPictureIsOfferedInAFormatOfGraphicsCards)
 {
     for (const int id : CodecIDs(VXCodecTypeVideo))

@@ -177,7 +177,7 @@ constexpr PictureCase kPictures[] = {
     {"Film", "VOB", VXCodecID_MPEG2, {1920, 1080}, {24, 1}, "720x576 at 25/1, 64:45"},
     {"HalfOf50", "VOB", VXCodecID_MPEG2, {1280, 720}, {50, 1}, "720x576 at 25/1, 64:45"},
     {"HalfOf60", "VOB", VXCodecID_MPEG2, {1280, 720}, {60, 1}, "720x480 at 30000/1001, 32:27"},
-    {"TwiceOf15", "VOB", VXCodecID_MPEG2, {640, 480}, {15, 1}, "720x480 at 30000/1001, 8:9"},
+    {"TwiceOf15", "VOB", VXCodecID_MPEG2, {640, 480}, {15, 1}, "704x480 at 30000/1001, 10:11"},
     {"DVDItself", "VOB", VXCodecID_MPEG2, {704, 576}, {25, 1}, "704x576 at 25/1, 12:11"},
     {"SmallPicturesAreNotWide", "VOB", VXCodecID_MPEG1, {640, 360}, {25, 1}, "352x288 at 25/1, 12:11"},
     {"FilmOnBluRay", "M2TS", VXCodecID_H264, {1920, 800}, {24, 1}, "1920x1080 at 24/1, 1:1"},

@@ -191,6 +191,13 @@ TEST(Format, ListsWhatAKnowingUserPicksFirst)
     EXPECT_THAT(mp4->VideoCodecIDs(), Contains(VXCodecID_HEVC));
 }
 
+TEST(Format, ListsWhatPlayersAcceptAlone)
+{
+    EXPECT_THAT(IVXFormat::MallocFormat("MP4", "")->VideoCodecIDs(), Not(Contains(VXCodecID_MPEG2)));
+    EXPECT_THAT(IVXFormat::MallocFormat("MKV", "")->VideoCodecIDs(), Not(Contains(VXCodecID_DIVX)));
+    EXPECT_THAT(IVXFormat::MallocFormat("M2TS", "")->AudioCodecIDs(), Not(Contains(VXCodecID_AAC)));
+}
+
 TEST(Format, OfSoundAloneHasNoVideoCodecs)
 {
     for (const char* name :
