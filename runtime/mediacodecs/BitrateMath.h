@@ -9,6 +9,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <tuple>
 
 namespace Vexlor
 {
@@ -28,6 +29,18 @@ inline SoundStream Usual(SoundStream stream)
     constexpr int kUsualSampleRate = 48000;
     stream.sampleRate = stream.sampleRate > 0 ? stream.sampleRate : kUsualSampleRate;
     stream.layout = stream.layout ? stream.layout : kStereo;
+    return stream;
+}
+
+inline constexpr double kReferenceRate = 30.0; // of the ladders
+
+/// A picture of a size at a rate: usual ones where none is told.
+inline PictureStream Usual(PictureStream stream)
+{
+    if (stream.width <= 0 || stream.height <= 0)
+        std::tie(stream.width, stream.height) = std::pair(1280, 720);
+    const bool told = std::isfinite(stream.frameRate) && stream.frameRate > 0;
+    stream.frameRate = told ? std::clamp(stream.frameRate, 1.0, 300.0) : kReferenceRate;
     return stream;
 }
 

@@ -13,22 +13,11 @@ namespace
 
 using Grade = IVXCodecs::QualityLevel;
 
-constexpr double kReferenceRate = 30.0;
-constexpr double kUsualPixels = 1280.0 * 720.0;
 constexpr double kFullChroma = 3.0; // samples a pixel
 
 double PixelsOf(const LadderPoint& point) { return double(point.width) * point.height; }
 
-double PixelsOf(const PictureStream& stream)
-{
-    return stream.width > 0 && stream.height > 0 ? double(stream.width) * stream.height : kUsualPixels;
-}
-
-double FrameRateOf(const PictureStream& stream)
-{
-    const bool told = std::isfinite(stream.frameRate) && stream.frameRate > 0;
-    return told ? std::clamp(stream.frameRate, 1.0, 300.0) : kReferenceRate;
-}
+double PixelsOf(const PictureStream& stream) { return double(stream.width) * stream.height; }
 
 // Straight lines between the points on logarithmic scales; beyond both ends the cost of a pixel stays.
 double AlongLadder(std::span<const LadderPoint> ladder, double pixels)
@@ -71,7 +60,7 @@ double Along(const GradeLadder& ladder, const PictureStream& stream)
 
 double LadderBitrate(const VideoBitrateRow& row, const PictureStream& stream, std::size_t grade)
 {
-    return Along(row.grades.at(grade), stream) * row.factor * RateFactor(row, FrameRateOf(stream)) *
+    return Along(row.grades.at(grade), stream) * row.factor * RateFactor(row, stream.frameRate) *
            ChromaFactor(stream.format) * DepthFactor(row, stream.format);
 }
 
@@ -90,7 +79,7 @@ double BitrateOfProfile(const CodecCapabilities& codec, const PictureStream& str
 double LosslessBitrate(const VideoBitrateRow& row, const PictureStream& stream)
 {
     const double bits = row.bits > 0 ? row.bits : SamplesPerPixel(stream.format) * BitDepthOf(stream.format);
-    return row.share * bits * PixelsOf(stream) * FrameRateOf(stream);
+    return row.share * bits * PixelsOf(stream) * stream.frameRate;
 }
 
 bool HasRows(int codecID, int format)
@@ -111,7 +100,7 @@ double BitrateOfList(const CodecCapabilities& codec, const PictureStream& stream
             continue;
         const bool isLarger = best && row.size != best->size;
         const bool fits = isLarger ? double(row.size.width) * row.size.height <= PixelsOf(stream)
-                                   : row.frameRate <= FrameRateOf(stream);
+                                   : row.frameRate <= stream.frameRate;
         if (!best || fits)
             best = &row;
     }
@@ -146,13 +135,15 @@ int VideoBitrate(const CodecCapabilities& codec, const PictureStream& stream, Gr
     const auto* row = FindVideoBitrate(codec.codec->id);
     if (!row)
         return 1;
-    return ToBitrate(WithinBounds(*row, codec, stream, Bitrate(*row, codec, stream, IndexOf(level))));
+    const auto usual = Usual(stream);
+    return ToBitrate(WithinBounds(*row, usual, Bitrate(*row, codec, usual, IndexOf(level))));
 }
 
 int ProfileBitrate(int codecID, int profile, const PictureStream& stream)
 {
     const auto* ladder = FindProfileLadder(codecID, profile);
-    return ladder ? ToBitrate(Along(*ladder, stream) * FrameRateOf(stream) / kReferenceRate) : 0;
+    const auto usual = Usual(stream);
+    return ladder ? ToBitrate(Along(*ladder, usual) * usual.frameRate / kReferenceRate) : 0;
 }
 
 int ProfileAtBitrate(const CodecCapabilities& codec, const PictureStream& stream, int bitrate)

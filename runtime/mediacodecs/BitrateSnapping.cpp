@@ -2,7 +2,9 @@
 
 #include "BitrateMath.h"
 #include "ChannelLayouts.h"
+#include "IVXRational.h"
 #include "LevelTable.h"
+#include "VXLevels.h"
 
 namespace Vexlor
 {
@@ -12,14 +14,32 @@ namespace
 
 constexpr double kLeastBitrate = 1000.0; // encoders that count in kb/s read less as no bitrate at all
 
-double MostBitrate(const VideoBitrateRow& row)
+VXLevelStream LevelStreamOf(int codecID, const PictureStream& stream)
 {
-    if (row.maxBitrate > 0)
-        return double(row.maxBitrate);
+    constexpr int kParts = 1000;
+    VXLevelStream seen;
+    seen.codecID = codecID;
+    seen.width = stream.width;
+    seen.height = stream.height;
+    seen.frameRate =
+        IVXRational::MallocRational(static_cast<int>(std::ceil(stream.frameRate * kParts)), kParts);
+    return seen;
+}
+
+double MostOfLevels(int codecID, const PictureStream& stream)
+{
+    const int lowest = SmallestLevel(LevelStreamOf(codecID, stream));
+    const auto own = LimitsOf(codecID, IVXCodecs::VXProfileUnknown, lowest);
     std::int64_t most = 0;
-    for (const auto& level : LevelsOf(row.codecID))
-        most = std::max(most, level.limits.bitrate);
+    for (const auto& level : LevelsOf(codecID))
+        if (!own || (level.limits.picture == own->picture && level.limits.rate == own->rate))
+            most = std::max(most, level.limits.bitrate);
     return most > 0 ? double(most) : std::numeric_limits<int>::max();
+}
+
+double MostBitrate(const VideoBitrateRow& row, const PictureStream& stream)
+{
+    return row.maxBitrate > 0 ? double(row.maxBitrate) : MostOfLevels(row.codecID, stream);
 }
 
 double Nearest(double bitrate, std::span<const int> legal)
@@ -41,10 +61,9 @@ bool TakesAny(const VideoBitrateRow& row)
 
 } // namespace
 
-double WithinBounds(const VideoBitrateRow& row, const CodecCapabilities& /*codec*/,
-                    const PictureStream& /*stream*/, double bitrate)
+double WithinBounds(const VideoBitrateRow& row, const PictureStream& stream, double bitrate)
 {
-    return std::clamp(bitrate, kLeastBitrate, MostBitrate(row));
+    return std::clamp(bitrate, kLeastBitrate, MostBitrate(row, stream));
 }
 
 double WithinBounds(const AudioBitrateRow& row, const SoundStream& stream, double bitrate)
@@ -66,7 +85,7 @@ int NearestBitrate(const CodecCapabilities& codec, const PictureStream& stream, 
     if (!row || (wanted == 0 && TakesAny(*row)))
         return wanted;
     if (TakesAny(*row))
-        return ToBitrate(WithinBounds(*row, codec, stream, wanted));
+        return ToBitrate(WithinBounds(*row, Usual(stream), wanted));
     if (const int own = ProfileBitrate(row->codecID, profile, stream); own > 0)
         return own;
     return NearestOfGrades(wanted,

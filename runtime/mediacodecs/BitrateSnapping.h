@@ -6,9 +6,10 @@
 namespace Vexlor
 {
 
-/// The bitrate within what the standard lets such a picture have, in bits per second.
-double WithinBounds(const VideoBitrateRow& row, const CodecCapabilities& codec, const PictureStream& stream,
-                    double bitrate);
+/// The bitrate within what the standard lets such a picture have, in bits per second. A codec with levels has
+/// what the lowest one for the picture's size and rate allows, or the levels beside it that hold no more but
+/// bits: a grade is not to raise the level that players must have.
+double WithinBounds(const VideoBitrateRow& row, const PictureStream& stream, double bitrate);
 /// The bitrate within what such sound may have, or the nearest one of those that it can have.
 double WithinBounds(const AudioBitrateRow& row, const SoundStream& stream, double bitrate);
 

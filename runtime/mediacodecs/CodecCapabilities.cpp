@@ -73,7 +73,8 @@ std::vector<int> OfferedLevels(const CodecRow& codec)
 {
     std::vector<int> numbers;
     for (const auto& level : LevelsOf(codec.id))
-        numbers.push_back(level.number);
+        if (!level.onlyRead)
+            numbers.push_back(level.number);
     return numbers;
 }
 

@@ -16,6 +16,8 @@ namespace
 constexpr int kMacroblock = 16;
 constexpr int kMacroblockSize = kMacroblock * kMacroblock;
 
+constexpr bool kOnlyRead = true;
+
 /// The longest side of a picture where the standard bounds it by the root of eight times the picture.
 constexpr int RootOfEight(std::int64_t picture)
 {
@@ -50,8 +52,8 @@ constexpr LevelLimits MPEG4(std::int64_t picture, std::int64_t rate, std::int64_
 {
     constexpr int kSide = (1 << 13) - kMacroblock; // 13 bits in the stream
     constexpr int kBufferUnit = 16384;
-    return {kMacroblock, picture * kMacroblockSize, rate * kMacroblockSize, kSide, kSide, 0, kbps * 1000,
-            buffer * kBufferUnit};
+    return {kMacroblock, picture * kMacroblockSize, rate * kMacroblockSize, kSide, kSide, 0,
+            kbps * 1000, buffer * kBufferUnit};
 }
 
 constexpr LevelLimits MPEG2(int width, int height, int frameRate, std::int64_t rate, std::int64_t kbps,
@@ -134,6 +136,7 @@ constexpr std::array kMPEG4Levels{
     LevelRow{7, 7, "3b", {}, MPEG4(396, 11880, 1500, 65)},
     LevelRow{4, 4, "4", {}, MPEG4(792, 23760, 3000, 80)},
     LevelRow{5, 5, "5", {}, MPEG4(1620, 48600, 8000, 112)},
+    LevelRow{6, 6, "6", {}, MPEG4(3600, 108000, 12000, 248)}, // Simple alone
 };
 
 // Level identification, ISO/IEC 13818-2 table 8-3: the higher the level, the lower its number. Limits of the
@@ -165,23 +168,33 @@ constexpr std::array kVP9Levels{
 };
 
 // seq_level_idx, AV1 bitstream, A.3; the indices left out are reserved. MaxPicSize, MaxHSize, MaxVSize,
-// MaxDisplayRate, MaxHeaderRate (a frame has a header at least) and MainMbps: no encoder of ours asks for the
-// High tier. The option is one of SVT-AV1's own.
+// MaxDisplayRate, MaxHeaderRate (a frame has a header at least), MainMbps and HighMbps; 1000 is added for the
+// High tier, which SVT-AV1 1.4 writes for no stream. The option is one of SVT-AV1's own.
 constexpr std::array kAV1Levels{
     LevelRow{0, 0, "2.0", "level=20", AV1(147456, 2048, 1152, 4423680, 150, 1500)},
     LevelRow{1, 1, "2.1", "level=21", AV1(278784, 2816, 1584, 8363520, 150, 3000)},
     LevelRow{4, 4, "3.0", "level=30", AV1(665856, 4352, 2448, 19975680, 150, 6000)},
     LevelRow{5, 5, "3.1", "level=31", AV1(1065024, 5504, 3096, 31950720, 150, 10000)},
     LevelRow{8, 8, "4.0", "level=40", AV1(2359296, 6144, 3456, 70778880, 300, 12000)},
+    LevelRow{1008, 8, "4.0 High", {}, AV1(2359296, 6144, 3456, 70778880, 300, 30000), kOnlyRead},
     LevelRow{9, 9, "4.1", "level=41", AV1(2359296, 6144, 3456, 141557760, 300, 20000)},
+    LevelRow{1009, 9, "4.1 High", {}, AV1(2359296, 6144, 3456, 141557760, 300, 50000), kOnlyRead},
     LevelRow{12, 12, "5.0", "level=50", AV1(8912896, 8192, 4352, 267386880, 300, 30000)},
+    LevelRow{1012, 12, "5.0 High", {}, AV1(8912896, 8192, 4352, 267386880, 300, 100000), kOnlyRead},
     LevelRow{13, 13, "5.1", "level=51", AV1(8912896, 8192, 4352, 534773760, 300, 40000)},
+    LevelRow{1013, 13, "5.1 High", {}, AV1(8912896, 8192, 4352, 534773760, 300, 160000), kOnlyRead},
     LevelRow{14, 14, "5.2", "level=52", AV1(8912896, 8192, 4352, 1069547520, 300, 60000)},
+    LevelRow{1014, 14, "5.2 High", {}, AV1(8912896, 8192, 4352, 1069547520, 300, 240000), kOnlyRead},
     LevelRow{15, 15, "5.3", "level=53", AV1(8912896, 8192, 4352, 1069547520, 300, 60000)},
+    LevelRow{1015, 15, "5.3 High", {}, AV1(8912896, 8192, 4352, 1069547520, 300, 240000), kOnlyRead},
     LevelRow{16, 16, "6.0", "level=60", AV1(35651584, 16384, 8704, 1069547520, 300, 60000)},
+    LevelRow{1016, 16, "6.0 High", {}, AV1(35651584, 16384, 8704, 1069547520, 300, 240000), kOnlyRead},
     LevelRow{17, 17, "6.1", "level=61", AV1(35651584, 16384, 8704, 2139095040, 300, 100000)},
+    LevelRow{1017, 17, "6.1 High", {}, AV1(35651584, 16384, 8704, 2139095040, 300, 480000), kOnlyRead},
     LevelRow{18, 18, "6.2", "level=62", AV1(35651584, 16384, 8704, 4278190080, 300, 160000)},
+    LevelRow{1018, 18, "6.2 High", {}, AV1(35651584, 16384, 8704, 4278190080, 300, 800000), kOnlyRead},
     LevelRow{19, 19, "6.3", "level=63", AV1(35651584, 16384, 8704, 4278190080, 300, 160000)},
+    LevelRow{1019, 19, "6.3 High", {}, AV1(35651584, 16384, 8704, 4278190080, 300, 800000), kOnlyRead},
 };
 
 struct CodecLevels
@@ -219,6 +232,7 @@ constexpr std::array kProfileLimits{
     ProfileLimits{VXCodecID_MPEG4, 0, 3, MPEG4(396, 11880, 384, 40)},
     ProfileLimits{VXCodecID_MPEG4, 0, 4, MPEG4(1200, 36000, 4000, 80)},
     ProfileLimits{VXCodecID_MPEG4, 0, 5, MPEG4(1620, 40500, 8000, 112)},
+    ProfileLimits{VXCodecID_MPEG4, 0, 6, MPEG4(3600, 108000, 12000, 248)},
     ProfileLimits{VXCodecID_MPEG2, 5, 8, MPEG2(720, 576, 30, 10368000, 15000, 1835008)},
     ProfileLimits{VXCodecID_MPEG2, 1, 8, MPEG2(720, 576, 30, 11059200, 20000, 2441216)},
     ProfileLimits{VXCodecID_MPEG2, 1, 6, MPEG2(1440, 1088, 60, 47001600, 80000, 9781248)},
@@ -226,6 +240,17 @@ constexpr std::array kProfileLimits{
     ProfileLimits{VXCodecID_MPEG2, 128, 8, MPEG2(720, 608, 30, 11059200, 50000, 9437184)},
     ProfileLimits{VXCodecID_MPEG2, 128, 4, MPEG2(1920, 1088, 60, 62668800, 300000, 47185920)},
 };
+
+/// A level that one profile lacks, which has the limits of the levels themselves.
+struct MissingLevel
+{
+    int codecID;
+    int profile;
+    int level;
+    friend constexpr bool operator==(const MissingLevel&, const MissingLevel&) = default;
+};
+
+constexpr std::array kMissingLevels{MissingLevel{VXCodecID_MPEG4, 15, 6}};
 
 /// Thousandths of the level's bitrate and buffer that a profile may use; 1000 for a profile without a row.
 struct BitrateFactor
@@ -290,6 +315,8 @@ std::span<const LevelRow> LevelsOf(int codecID)
     return codec ? codec->levels : std::span<const LevelRow>();
 }
 
+bool LevelsCountAverage(int codecID) { return codecID == VXCodecID_VP9; }
+
 int LevelNumberOf(int codecID, int avLevel)
 {
     const auto* row = FindRow(LevelsOf(codecID), &LevelRow::avNumber, avLevel);
@@ -302,7 +329,8 @@ std::optional<LevelLimits> LimitsOf(int codecID, int profile, int level)
     if (HasOwnLimits(standard, profile))
         return OwnLimits(standard, profile, level);
     const auto* row = FindRow(LevelsOf(standard), &LevelRow::number, level);
-    if (!row)
+    if (!row ||
+        std::ranges::find(kMissingLevels, MissingLevel{standard, profile, level}) != kMissingLevels.end())
         return std::nullopt;
     auto limits = row->limits;
     const int factor = FactorOf(standard, profile);

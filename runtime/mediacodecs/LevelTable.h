@@ -30,12 +30,15 @@ struct LevelRow
     std::string_view name; ///< display name: "4.1"
     /// Text of the encoder's own level option; empty: avNumber is what is set.
     std::string_view option;
-    LevelLimits limits; ///< of a profile that has none of its own
+    LevelLimits limits;    ///< of a profile that has none of its own
+    bool onlyRead = false; ///< made by none of the encoders
 };
 
 /// True for a number of the High tier, where the standard has two.
 constexpr bool IsHighTier(int level) { return level >= 1000; }
 
+/// True for a codec whose levels bound the average bitrate, not the highest.
+bool LevelsCountAverage(int codecID);
 /// The levels of a codec of ours, lowest first; empty for a codec without levels.
 std::span<const LevelRow> LevelsOf(int codecID);
 /// The number of a level of libavcodec's, of the main tier where there are two; VXLevelUnknown when it has

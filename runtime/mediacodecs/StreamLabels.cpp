@@ -40,6 +40,12 @@ std::string GaveWay(const std::string& label, const Row& wanted, const std::stri
            " stands in";
 }
 
+template <class Row>
+std::string NotMade(const std::string& label, const Row& wanted, const Row* taken)
+{
+    return label + ' ' + std::string(wanted.name) + " is not made; " + NameOf(taken) + " stands in";
+}
+
 /// What a profile has to hold: a picture's pixel format or a sound's layout.
 struct Content
 {
@@ -97,12 +103,14 @@ void SetProfile(StreamLabels& labels, const CodecCapabilities& codec, int wanted
 void SetLevel(StreamLabels& labels, int wanted, const VXLevelStream& stream)
 {
     labels.level = FindLevel(stream.codecID, wanted);
-    if (!labels.level || LevelHolds(wanted, stream))
+    if (!labels.level || (!labels.level->onlyRead && LevelHolds(wanted, stream)))
         return;
     const auto& refused = *labels.level;
-    const auto tiers = IsHighTier(wanted) ? VXLevelTiers::Both : VXLevelTiers::Main;
-    labels.level = FindLevel(stream.codecID, SmallestLevel(stream, tiers));
-    labels.changes.push_back(GaveWay("level", refused, "the stream", labels.level));
+    const bool isHigh = IsHighTier(wanted) && !refused.onlyRead;
+    labels.level =
+        FindLevel(stream.codecID, SmallestLevel(stream, isHigh ? VXLevelTiers::Both : VXLevelTiers::Main));
+    labels.changes.push_back(refused.onlyRead ? NotMade("level", refused, labels.level)
+                                              : GaveWay("level", refused, "the stream", labels.level));
 }
 
 VXLevelStream LevelStream(const IVXCodecParameter& stream, const ProfileRow* profile)
@@ -113,7 +121,8 @@ VXLevelStream LevelStream(const IVXCodecParameter& stream, const ProfileRow* pro
     seen.width = stream.GetWidth();
     seen.height = stream.GetHeight();
     seen.frameRate = stream.GetFrameRate();
-    seen.bitrate = std::max(stream.GetBitrate(), stream.GetMaxBitrate());
+    seen.bitrate = LevelsCountAverage(seen.codecID) ? stream.GetBitrate()
+                                                    : std::max(stream.GetBitrate(), stream.GetMaxBitrate());
     return seen;
 }
 

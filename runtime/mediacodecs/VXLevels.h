@@ -28,7 +28,7 @@ struct VXLevelStream
     std::int64_t bitrate = 0;
 };
 
-/// Which levels are searched, where a standard has two tiers of them (HEVC).
+/// Which levels are searched, where a standard has two tiers of them (HEVC, AV1).
 enum class VXLevelTiers : int
 {
     Both,
@@ -40,10 +40,10 @@ enum class VXLevelTiers : int
 /// H.264: ITU-T H.264 table A-1, sides up to the root of eight times the picture, 172 frames a second, the
 /// bitrate of the VCL (a NAL stream may have a fifth more), times 1.25 for High, 3 for High 10, 4 for High
 /// 4:2:2 and 4:4:4. HEVC: ITU-T H.265 tables A.8 to A.10, alike, 300 frames a second. VP9:
-/// webmproject.org/vp9/levels. AV1: bitstream, annex A.3, Main tier. MPEG-4: ISO/IEC 14496-2 annex N. MPEG-2:
-/// ISO/IEC 13818-2 tables 8-11 to 8-13. Sides are counted in whole blocks: 1080 lines of H.264 are 1088. What
-/// depends on the encoder's choices (reference frames, slices, tiles) is not looked at. False for a level
-/// that the codec or profile does not have.
+/// webmproject.org/vp9/levels. AV1: bitstream, annex A.3, whose High tier is known here and made by no
+/// encoder of ours. MPEG-4: ISO/IEC 14496-2 annex N. MPEG-2: ISO/IEC 13818-2 tables 8-11 to 8-13. Sides are
+/// counted in whole blocks: 1080 lines of H.264 are 1088. What depends on the encoder's choices (reference
+/// frames, slices, tiles) is not looked at. False for a level that the codec or profile does not have.
 VX_MEDIACODECS_API bool LevelHolds(int level, const VXLevelStream& stream);
 
 /// The lowest level that holds the stream, a level's Main tier before its High tier; VXLevelUnknown when none

@@ -38,6 +38,7 @@ constexpr LabelCase kLabels[] = {
     {"ProfileOfMoreThanTheFormat", VXCodecID_HEVC, VXPixFormat_YUV420P, 2, kUnknown, "Main 10, -", 0},
     {"LevelTooLow", VXCodecID_H264, VXPixFormat_YUV420P, 100, 10, "High, 3", 1},
     {"HighTierIsOfferedToHighTierOnly", VXCodecID_HEVC, VXPixFormat_YUV420P, 1, 30, "Main, 3", 1},
+    {"TierThatNoEncoderMakes", VXCodecID_AV1, VXPixFormat_YUV420P, 0, 1012, "Main, 3.0", 1},
     {"LevelOfMPEG2NeedsAProfile", VXCodecID_MPEG2, VXPixFormat_YUV420P, kUnknown, 8, "Main, Main", 0},
     {"AndOneThatHoldsTheFormat", VXCodecID_MPEG2, kPixFormatYUV422P, kUnknown, 8, "4:2:2, Main", 0},
     {"DNxHRNeedsAProfile", VXCodecID_DNxHR, kPixFormatYUV422P, kUnknown, kUnknown, "LB, -", 0},
@@ -131,6 +132,27 @@ TEST(StreamLabels, AProfileThatIsAskedForStaysWhateverTheBitrate)
     stream->SetProfile(3);
     EXPECT_EQ("HQ",
               FittingLabels(*CapabilitiesOf(VXCodecID_ProRes), *stream, kPixFormatYUV422P10).profile->name);
+}
+
+TEST(StreamLabels, LevelsOfVP9CountTheAverageBitrateAndThoseOfH264TheHighest)
+{
+    const auto levelOf = [](int codecID, int level)
+    {
+        const auto stream = Picture(codecID); // 4 Mb/s
+        stream->SetLevel(level);
+        stream->SetMaxBitrate(40'000'000);
+        return std::string(FittingLabels(*CapabilitiesOf(codecID), *stream, VXPixFormat_YUV420P).level->name);
+    };
+    EXPECT_EQ("3", levelOf(VXCodecID_VP9, 30));
+    EXPECT_EQ("4.1", levelOf(VXCodecID_H264, 30));
+}
+
+TEST(StreamLabels, LevelThatNoEncoderMakesIsSaidToBeOne)
+{
+    const auto stream = Picture(VXCodecID_AV1);
+    stream->SetLevel(1008);
+    const auto labels = FittingLabels(*CapabilitiesOf(VXCodecID_AV1), *stream, VXPixFormat_YUV420P);
+    EXPECT_EQ("level 4.0 High is not made; 3.0 stands in", labels.changes.at(0));
 }
 
 TEST(StreamLabels, ChangeNamesBothLabelsAndTheCause)

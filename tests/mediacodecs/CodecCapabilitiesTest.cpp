@@ -3,6 +3,7 @@
 #include "VXMediaCodecs.h"
 #include "runtime/mediacodecs/ChannelLayouts.h"
 #include "runtime/mediacodecs/FFmpegCompat.h"
+#include "runtime/mediacodecs/LevelTable.h"
 #include "runtime/mediacodecs/SampleFormats.h"
 
 #include <gmock/gmock.h>
@@ -18,6 +19,15 @@ namespace
 using testing::Contains;
 using testing::ElementsAre;
 using testing::Not;
+
+TEST(CodecCapabilities, LevelsThatNoEncoderMakesAreNotOffered)
+{
+    for (const auto& codec : CodecTable())
+        for (const auto& level : LevelsOf(codec.id))
+            EXPECT_EQ(level.onlyRead, std::ranges::find(CapabilitiesOf(codec.id)->levels, level.number) ==
+                                          CapabilitiesOf(codec.id)->levels.end())
+                << codec.name << ' ' << level.name;
+}
 
 TEST(CodecCapabilities, AreSharedByAllWhoAsk)
 {

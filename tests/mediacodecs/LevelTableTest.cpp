@@ -108,10 +108,12 @@ constexpr BitrateCase kBitrates[] = {
     {"HEVCMainOfTheHighTier", VXCodecID_HEVC, 1, 1153, 160000000},
     {"HEVCMain42210", VXCodecID_HEVC, 402, 153, 66680000},
     {"AV1Main", VXCodecID_AV1, 0, 0, 1500000},
+    {"AV1MainOfTheHighTier", VXCodecID_AV1, 0, 1008, 30000000},
     {"AV1Professional", VXCodecID_AV1, 2, 0, 4500000},
     {"VP9", VXCodecID_VP9, 0, 41, 30000000},
     {"MPEG4AdvancedSimple", VXCodecID_MPEG4, 15, 3, 768000},
     {"MPEG4Simple", VXCodecID_MPEG4, 0, 3, 384000},
+    {"MPEG4SimpleOfTheHighestLevel", VXCodecID_MPEG4, 0, 6, 12000000},
     {"DivXSimple", VXCodecID_DIVX, 0, 5, 8000000},
     {"MPEG2Main", VXCodecID_MPEG2, 4, 8, 15000000},
     {"MPEG2Of422", VXCodecID_MPEG2, 128, 8, 50000000},
@@ -138,6 +140,9 @@ TEST(LevelTable, AProfileHasNoLevelThatItsStandardLeavesOut)
     constexpr int kSimpleOfMPEG4 = 0;
     constexpr int k3b = 7;
     EXPECT_FALSE(LimitsOf(VXCodecID_MPEG4, kSimpleOfMPEG4, k3b));
+    constexpr int kAdvancedSimple = 15;
+    EXPECT_FALSE(LimitsOf(VXCodecID_MPEG4, kAdvancedSimple, 6));
+    EXPECT_FALSE(LimitsOf(VXCodecID_DIVX, kAdvancedSimple, 6));
 }
 
 } // namespace

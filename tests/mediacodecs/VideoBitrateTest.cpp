@@ -146,6 +146,14 @@ constexpr auto kHostilePictures = std::to_array<HostilePicture>({
     {"UnknownFormat", {1920, 1080, 30, 12345}},
     {"ALine", {INT_MAX, 1, 30, k420}},
 });
+TEST(VideoBitrate, StaysWithinTheLowestLevelForThePicture)
+{
+    // Level 1b for 176 x 144 at 15 fps, and MPEG-2 of Low for 352 x 288.
+    EXPECT_EQ(128'000, Video(VXCodecID_H264, {176, 144, 15, k420}, Grade::QualityLevelBest));
+    EXPECT_EQ(30'000'000,
+              Video(VXCodecID_VP9, {1920, 1080, 60, kPixFormatYUV444P12}, Grade::QualityLevelBest));
+}
+
 TEST(VideoBitrate, StaysWithinTheHighestLevel)
 {
     EXPECT_EQ(800'000'000,
