@@ -181,13 +181,13 @@ bool DocumentChanges::StartsLine(std::size_t offset) const
     return last != std::string_view::npos && before[last] == '\n';
 }
 
-/// What stands in front of each value in it, or would.
+/// What stands in front of the last value in it, or would.
 std::string DocumentChanges::InnerBlanks(DocumentPosition container) const
 {
     if (m_tree[container].count == 0)
         return m_lineEnd.empty() ? kOneLine : OuterBlanks(container) + kOneLevel;
-    const auto& first = m_tree[container + 1];
-    const auto begin = first.nameSize > 0 ? first.name : first.begin;
+    const auto& last = m_tree[Inside(container).back()];
+    const auto begin = last.nameSize > 0 ? last.name : last.begin;
     return StartsLine(begin) ? m_lineEnd + Indentation(begin) : kOneLine;
 }
 

@@ -35,7 +35,9 @@ DocumentPosition DocumentNames::Find(const std::string& text, DocumentThing thin
 {
     const auto isMeant = [thing](const Entry& entry)
     { return thing == DocumentThing::Either || entry.isPreset == (thing == DocumentThing::Preset); };
-    if (text.size() > 1 && text.front() == '/')
+    if (text == kRoot && thing != DocumentThing::Preset)
+        return 0;
+    if (text.starts_with('/'))
     {
         const auto value = AtPointer(text);
         const auto entry = std::ranges::find(m_entries, value, &Entry::value);
@@ -50,7 +52,7 @@ DocumentPosition DocumentNames::Find(const std::string& text, DocumentThing thin
     std::vector<Candidate> candidates;
     std::vector<DocumentPosition> values;
     for (const auto& entry : m_entries)
-        if (isMeant(entry))
+        if (isMeant(entry) && entry.value != 0)
         {
             const bool isUnique = counts[entry.path] == 1;
             candidates.push_back({isUnique ? entry.path : paths.AsPointer(entry.value),
