@@ -1,5 +1,10 @@
+#include "runtime/foundation/VXJsonEscape.h"
 #include "runtime/foundation/VXJsonMembers.h"
+#include "runtime/foundation/VXJsonNode.h"
+#include "runtime/foundation/VXJsonPieces.h"
 
+#include <array>
+#include <charconv>
 #include <iterator>
 #include <typeinfo>
 #include <utility>
@@ -39,27 +44,44 @@ std::shared_ptr<const IVXJsonValue> OrNull(const Handle& handle)
 
 JsonItem ItemOf(const Handle& handle);
 
+template <class Value, class... Arguments>
+std::shared_ptr<Value> MakeValue(const Arguments&... arguments)
+{
+    return std::allocate_shared<Value>(JsonPieceAllocator<Value>(), arguments...);
+}
+
+// A text that a setter wrote, as what it stands for. A string is left as it stands: only few need a copy.
+JsonItem ScalarOf(std::string_view text)
+{
+    if (text.front() == '"')
+        return {.kind = JsonKind::Text, .bits = 0, .text = text, .node = nullptr};
+    if (text == "true" || text == "false")
+        return {.kind = JsonKind::Bool, .bits = text == "true", .text = {}, .node = nullptr};
+    std::int64_t number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return {
+        .kind = JsonKind::Int64, .bits = std::bit_cast<std::uint64_t>(number), .text = {}, .node = nullptr};
+}
+
 // A scalar member as it was when it was looked up.
 class VXJsonScalar final : public VXJsonReadOnly<VXJsonScalar>
 {
 public:
-    explicit VXJsonScalar(const JsonMember& member)
-        : m_kind(member.kind), m_bits(member.bits), m_text(member.text)
+    explicit VXJsonScalar(std::string_view text) : m_text(text) {}
+
+    JsonItem Self() const override
     {
+        return {.kind = JsonKind::Text, .bits = 0, .text = m_text, .node = nullptr};
     }
 
-    JsonItem Self() const override { return {.kind = m_kind, .bits = m_bits, .text = m_text, .node = this}; }
-
 private:
-    JsonKind m_kind;
-    std::uint64_t m_bits;
     std::string m_text;
 };
 
 class VXJsonArray final : public VXJsonReadOnly<VXJsonArray>
 {
 public:
-    explicit VXJsonArray(Handles elements) : m_elements(std::move(elements)) {}
+    explicit VXJsonArray(const Handles& elements) : m_elements(elements) {}
     VXJsonArray(const VXJsonArray&) = delete;
     VXJsonArray& operator=(const VXJsonArray&) = delete;
     ~VXJsonArray() { LetGo(std::move(m_elements)); }
@@ -84,6 +106,14 @@ private:
     Handles m_elements;
 };
 
+// A member without a look at what its text stands for.
+JsonItem WrittenItem(const JsonMember& member)
+{
+    if (member.child)
+        return ItemOf(*member.child);
+    return {.kind = JsonKind::Text, .bits = 0, .text = member.value, .node = nullptr};
+}
+
 // Null until the first member is set.
 class VXJsonObject final : public VXJsonGetters<VXJsonObject>
 {
@@ -93,14 +123,16 @@ public:
     VXJsonObject& operator=(const VXJsonObject&) = delete;
     ~VXJsonObject()
     {
-        if (!m_children.empty())
-            LetGo(std::move(m_children));
+        if (m_members.Written().empty())
+            LetGo(m_members.TakeChildren());
     }
 
     JsonItem Find(std::string_view name) const
     {
         JsonMember member;
-        return m_members.Find(name, member) ? Item(member) : JsonItem();
+        if (!m_members.Find(name, member))
+            return {};
+        return member.child ? ItemOf(*member.child) : ScalarOf(member.value);
     }
 
     JsonItem Self() const override
@@ -114,11 +146,19 @@ public:
         JsonMember member;
         if (!m_members.Next(cursor.at, member))
             return false;
-        entry = {.name = member.name, .item = Item(member)};
+        entry = {.name = member.name, .item = WrittenItem(member), .isNameAsWritten = true};
         return true;
     }
 
-    std::shared_ptr<const IVXJsonValue> operator[](std::string_view name) const override;
+    std::string_view WrittenMembers() const override { return m_members.Written(); }
+
+    std::shared_ptr<const IVXJsonValue> operator[](std::string_view name) const override
+    {
+        JsonMember member;
+        if (!m_members.Find(name, member))
+            return JsonNull();
+        return member.child ? OrNull(*member.child) : MakeValue<VXJsonScalar>(member.value);
+    }
     std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view name) const override
     {
         return Find(name).kind == JsonKind::Array ? (*this)[name] : JsonEmptyArray();
@@ -127,64 +167,32 @@ public:
     void SetValueInt(std::string_view name, int value) override { SetValueInt64(name, value); }
     void SetValueInt64(std::string_view name, std::int64_t value) override
     {
-        Set({.name = name, .kind = JsonKind::Int64, .bits = std::bit_cast<std::uint64_t>(value), .text = {}});
+        std::array<char, std::numeric_limits<std::int64_t>::digits10 + 2> digits{};
+        const auto* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+        m_members.SetText(name, {digits.data(), static_cast<std::size_t>(end - digits.data())});
     }
     void SetValueBool(std::string_view name, bool value) override
     {
-        Set({.name = name, .kind = JsonKind::Bool, .bits = value, .text = {}});
+        m_members.SetText(name, value ? "true" : "false");
     }
     void SetValueString(std::string_view name, const std::string& value) override
     {
-        Set({.name = name, .kind = JsonKind::String, .bits = 0, .text = value});
+        std::string text;
+        AppendJsonString(text, value);
+        m_members.SetText(name, text);
     }
-    void SetValueObject(std::string_view name, const Handle& value) override;
+    void SetValueObject(std::string_view name, const Handle& value) override
+    {
+        m_members.SetChild(name, value);
+    }
     void SetValueArray(std::string_view name, const Handles& values) override
     {
-        SetValueObject(name, std::make_shared<VXJsonArray>(values));
+        m_members.SetChild(name, MakeValue<VXJsonArray>(values));
     }
 
 private:
-    static constexpr JsonKind kChild = JsonKind::Object; // of whatever kind: the child itself knows
-
-    JsonItem Item(const JsonMember& member) const
-    {
-        if (member.kind == kChild)
-            return ItemOf(m_children[member.bits]);
-        return {.kind = member.kind, .bits = member.bits, .text = member.text, .node = nullptr};
-    }
-
-    void Set(const JsonMember& member)
-    {
-        const JsonMember before = m_members.Set(member);
-        if (before.kind == kChild)
-            m_children[before.bits].reset();
-    }
-
     VXJsonMembers m_members;
-    Handles m_children;
 };
-
-std::shared_ptr<const IVXJsonValue> VXJsonObject::operator[](std::string_view name) const
-{
-    JsonMember member;
-    if (!m_members.Find(name, member))
-        return JsonNull();
-    if (member.kind == kChild)
-        return OrNull(m_children[member.bits]);
-    return std::make_shared<VXJsonScalar>(member);
-}
-
-void VXJsonObject::SetValueObject(std::string_view name, const Handle& value)
-{
-    JsonMember before;
-    if (m_members.Find(name, before) && before.kind == kChild)
-    {
-        m_children[before.bits] = value;
-        return;
-    }
-    m_children.push_back(value);
-    Set({.name = name, .kind = kChild, .bits = m_children.size() - 1, .text = {}});
-}
 
 JsonItem ItemOf(const Handle& handle)
 {
@@ -199,6 +207,6 @@ JsonItem ItemOf(const Handle& handle)
 
 } // namespace
 
-std::shared_ptr<IVXJsonValue> IVXJsonValue::JsonValueNull() { return std::make_shared<VXJsonObject>(); }
+std::shared_ptr<IVXJsonValue> IVXJsonValue::JsonValueNull() { return MakeValue<VXJsonObject>(); }
 
 } // namespace Vexlor

@@ -1,6 +1,12 @@
 #include "runtime/foundation/VXJsonMembers.h"
 
+#include "runtime/foundation/VXJsonEscape.h"
+
+#include <algorithm>
+#include <bitset>
 #include <cstring>
+#include <string>
+#include <utility>
 
 namespace Vexlor
 {
@@ -8,60 +14,162 @@ namespace Vexlor
 namespace
 {
 
-// What stands before the bytes of a member's name and text.
-struct Header
-{
-    std::uint64_t bits = 0; // a string's length
-    std::size_t nameSize = 0;
-    JsonKind kind = JsonKind::Absent;
-};
+// Begins the place of a child, whose number follows. No text holds this character: it is escaped.
+constexpr char kChildMark = '\1';
+constexpr std::size_t kChildSize = 1 + sizeof(std::size_t);
 
-constexpr std::size_t kHeaderSize = sizeof(Header::bits) + sizeof(Header::nameSize) + sizeof(Header::kind);
-
-template <class Field>
-char* Put(char* to, Field field)
+// Whether an odd number of backslashes stands before that place.
+bool IsEscaped(std::string_view text, std::size_t at)
 {
-    std::memcpy(to, &field, sizeof field);
-    return to + sizeof field;
+    std::size_t start = at;
+    while (text[start - 1] == '\\')
+        --start;
+    return (at - start) % 2 != 0;
 }
 
-template <class Field>
-const char* Take(const char* from, Field& field)
+// The length of the string that text begins with, quotes and all.
+std::size_t StringLength(std::string_view text)
 {
-    std::memcpy(&field, from, sizeof field);
-    return from + sizeof field;
+    std::size_t end = text.find('"', 1);
+    while (IsEscaped(text, end))
+        end = text.find('"', end + 1);
+    return end + 1;
 }
 
-std::array<char, kHeaderSize> HeaderOf(const JsonMember& member)
+std::size_t ValueLength(std::string_view text)
 {
-    std::array<char, kHeaderSize> bytes{};
-    char* to =
-        Put(bytes.data(), member.kind == JsonKind::String ? std::uint64_t{member.text.size()} : member.bits);
-    to = Put(to, member.name.size());
-    Put(to, member.kind);
-    return bytes;
+    if (text[0] == kChildMark)
+        return kChildSize;
+    return text[0] == '"' ? StringLength(text) : text.find(',');
+}
+
+// What stands around a name and its value: quotes, colon and comma.
+constexpr std::size_t kMarks = 4;
+
+char* Put(char* to, std::string_view text) { return std::ranges::copy(text, to).out; }
+
+void PutMember(char* to, std::string_view name, std::string_view value)
+{
+    *to++ = '"';
+    to = Put(to, name);
+    *to++ = '"';
+    *to++ = ':';
+    to = Put(to, value);
+    *to = ',';
+}
+
+// A number below kHashes that differs for most names. Four of their letters do, and need no loop.
+constexpr std::size_t kHashes = 256;
+
+std::size_t HashOf(std::string_view name)
+{
+    if (name.empty())
+        return 0;
+    const auto letter = [&](std::size_t at) { return std::size_t{static_cast<unsigned char>(name[at])}; };
+    const std::size_t half = name.size() / 2;
+    return (letter(0) + 7 * letter(half / 2) + 31 * letter(half) + 127 * letter(name.size() - 1) +
+            3 * name.size()) %
+           kHashes;
+}
+
+std::uint16_t NearBit(std::size_t hash) { return static_cast<std::uint16_t>(1U << hash % 16); }
+
+// The name as it is kept.
+std::string EscapedName(std::string_view name)
+{
+    std::string text;
+    AppendJsonString(text, name);
+    return text.substr(1, text.size() - 2);
 }
 
 } // namespace
 
+struct VXJsonMembers::Far
+{
+    std::string text;
+    std::vector<Child> children;
+    std::bitset<kHashes> names; // of the names' hashes: a name without one is no member's
+};
+
+VXJsonMembers::~VXJsonMembers()
+{
+    if (IsFar())
+        delete &FarPart();
+}
+
+VXJsonMembers::Far& VXJsonMembers::FarPart() const
+{
+    Far* far = nullptr;
+    std::memcpy(&far, m_near.data(), sizeof far);
+    return *far;
+}
+
+VXJsonMembers::Far& VXJsonMembers::MakeFar()
+{
+    if (IsFar())
+        return FarPart();
+    auto far = std::make_unique<Far>();
+    far->text.reserve(4 * kNear);
+    far->text = Text();
+    std::size_t cursor = 0;
+    JsonMember member;
+    while (Next(cursor, member))
+        far->names.set(HashOf(member.name));
+    m_size = kFar;
+    Far* const address = far.release();
+    std::memcpy(m_near.data(), &address, sizeof address);
+    return *address;
+}
+
+std::string_view VXJsonMembers::Text() const
+{
+    return IsFar() ? std::string_view(FarPart().text) : std::string_view(m_near.data(), m_size);
+}
+
+std::string_view VXJsonMembers::Written() const
+{
+    return IsFar() && !FarPart().children.empty() ? std::string_view() : Text();
+}
+
+std::vector<VXJsonMembers::Child> VXJsonMembers::TakeChildren()
+{
+    std::vector<Child> children;
+    if (IsFar())
+    {
+        children.resize(FarPart().children.size());
+        children.swap(FarPart().children);
+    }
+    return children;
+}
+
 bool VXJsonMembers::Next(std::size_t& cursor, JsonMember& member) const
 {
-    if (cursor == m_bytes.size())
+    const std::string_view rest = Text().substr(cursor);
+    if (rest.empty())
         return false;
-    Header header;
-    const char* from = Take(m_bytes.data() + cursor, header.bits);
-    from = Take(from, header.nameSize);
-    from = Take(from, header.kind);
-    member.name = {from, header.nameSize};
-    member.kind = header.kind;
-    member.bits = header.bits;
-    member.text = {from + header.nameSize, header.kind == JsonKind::String ? header.bits : 0};
-    cursor += kHeaderSize + member.name.size() + member.text.size();
+    const std::size_t name = StringLength(rest);
+    member.name = rest.substr(1, name - 2);
+    member.value = rest.substr(name + 1, ValueLength(rest.substr(name + 1)));
+    member.child = nullptr;
+    if (member.value[0] == kChildMark)
+    {
+        std::size_t child = 0;
+        std::memcpy(&child, member.value.data() + 1, sizeof child);
+        member.child = &FarPart().children[child];
+    }
+    cursor += member.name.size() + member.value.size() + kMarks;
     return true;
 }
 
-bool VXJsonMembers::Find(std::string_view name, JsonMember& member) const
+bool VXJsonMembers::MayHave(std::size_t hash) const
 {
+    return IsFar() ? FarPart().names.test(hash) : (m_names & NearBit(hash)) != 0;
+}
+
+bool VXJsonMembers::FindPlain(std::string_view name, JsonMember& member) const
+{
+    if (!MayHave(HashOf(name)))
+        return false;
     std::size_t cursor = 0;
     while (Next(cursor, member))
         if (member.name == name)
@@ -69,23 +177,55 @@ bool VXJsonMembers::Find(std::string_view name, JsonMember& member) const
     return false;
 }
 
-JsonMember VXJsonMembers::Set(const JsonMember& member)
+bool VXJsonMembers::Find(std::string_view name, JsonMember& member) const
 {
-    // Two short members, in a block of the size that the object itself takes.
-    constexpr std::size_t kUsualSize = 47;
-    const auto header = HeaderOf(member);
-    JsonMember before;
-    if (Find(member.name, before))
+    return IsPlainJsonText(name) ? FindPlain(name, member) : FindPlain(EscapedName(name), member);
+}
+
+void VXJsonMembers::Replace(const JsonMember& member, std::string_view value)
+{
+    const auto at = static_cast<std::size_t>(member.value.data() - Text().data());
+    Far& far = MakeFar();
+    far.text.replace(at, member.value.size(), value);
+    if (member.child)
+        far.children[static_cast<std::size_t>(member.child - far.children.data())].reset();
+}
+
+void VXJsonMembers::SetPlain(std::string_view name, std::string_view value)
+{
+    if (JsonMember before; FindPlain(name, before))
+        return Replace(before, value);
+    const std::size_t size = name.size() + value.size() + kMarks;
+    if (!IsFar() && m_size + size <= kNear)
     {
-        const auto start = static_cast<std::size_t>(before.name.data() - m_bytes.data()) - kHeaderSize;
-        m_bytes.replace(start + kHeaderSize + before.name.size(), before.text.size(), member.text);
-        m_bytes.replace(start, kHeaderSize, header.data(), kHeaderSize);
-        return {.name = {}, .kind = before.kind, .bits = before.bits, .text = {}};
+        PutMember(m_near.data() + m_size, name, value);
+        m_names |= NearBit(HashOf(name));
+        m_size = static_cast<std::uint8_t>(m_size + size);
+        return;
     }
-    if (m_bytes.empty())
-        m_bytes.reserve(kUsualSize);
-    m_bytes.append(header.data(), kHeaderSize).append(member.name).append(member.text);
-    return {};
+    Far& far = MakeFar();
+    far.text.append(1, '"').append(name).append("\":").append(value).append(1, ',');
+    far.names.set(HashOf(name));
+}
+
+void VXJsonMembers::SetText(std::string_view name, std::string_view value)
+{
+    return IsPlainJsonText(name) ? SetPlain(name, value) : SetPlain(EscapedName(name), value);
+}
+
+void VXJsonMembers::SetChild(std::string_view name, const Child& child)
+{
+    auto& children = MakeFar().children;
+    if (JsonMember before; Find(name, before) && before.child)
+    {
+        children[static_cast<std::size_t>(before.child - children.data())] = child;
+        return;
+    }
+    std::array<char, kChildSize> place{kChildMark};
+    const std::size_t number = children.size();
+    std::memcpy(place.data() + 1, &number, sizeof number);
+    children.push_back(child);
+    SetText(name, {place.data(), place.size()});
 }
 
 } // namespace Vexlor

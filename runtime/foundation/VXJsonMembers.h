@@ -1,38 +1,72 @@
 #pragma once
 
-#include "runtime/foundation/VXJsonNode.h"
+#include "IVXJsonValue.h"
 
 #include <array>
-#include <string>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <string_view>
+#include <vector>
 
 namespace Vexlor
 {
 
-/// One member as it is kept: its value's text or bits, or for a container the number of a child.
+/// One member as it is kept.
 struct JsonMember
 {
-    std::string_view name;
-    JsonKind kind = JsonKind::Absent;
-    std::uint64_t bits = 0;
-    std::string_view text;
+    std::string_view name;  ///< as it stands in a text, without the quotes
+    std::string_view value; ///< as it stands in a text; of a child its place only
+    const std::shared_ptr<IVXJsonValue>* child = nullptr; ///< where the value is one, never null
 };
 
-/// The members of an object in the order in which they were first set, one behind the other in one buffer:
-/// most objects of a preset document have two or three short members, for which a list of strings costs many
-/// times the memory and the time.
+/// The members of an object in the order in which they were first set, as the text that they become: most
+/// objects of a preset document have two or three short members, are written once and never read. So they
+/// stand one behind the other in the object itself, which with its counts fills a line of the processor's
+/// cache; more text, and children, go elsewhere.
 class VXJsonMembers
 {
 public:
-    bool Empty() const { return m_bytes.empty(); }
+    using Child = std::shared_ptr<IVXJsonValue>;
+
+    VXJsonMembers() = default;
+    VXJsonMembers(const VXJsonMembers&) = delete;
+    VXJsonMembers& operator=(const VXJsonMembers&) = delete;
+    ~VXJsonMembers();
+
+    bool Empty() const { return Text().empty(); }
+    /// False when no member has that name.
     bool Find(std::string_view name, JsonMember& member) const;
     /// The member at cursor, which moves on; 0 is the first, false when there is none.
     bool Next(std::size_t& cursor, JsonMember& member) const;
-    /// Adds the member, or replaces the one of its name; answers the kind and bits of that one.
-    JsonMember Set(const JsonMember& member);
+
+    /// Adds a member, or replaces the one of its name.
+    void SetText(std::string_view name, std::string_view value);
+    void SetChild(std::string_view name, const Child& child);
+
+    /// The members as they stand in a text without blanks, a comma behind each; empty with children.
+    std::string_view Written() const;
+    /// Leaves null in their places.
+    std::vector<Child> TakeChildren();
 
 private:
-    std::string m_bytes;
+    struct Far;
+
+    bool IsFar() const { return m_size == kFar; }
+    Far& FarPart() const;
+    Far& MakeFar();
+    std::string_view Text() const;
+    bool MayHave(std::size_t hash) const;
+    bool FindPlain(std::string_view name, JsonMember& member) const;
+    void SetPlain(std::string_view name, std::string_view value);
+    void Replace(const JsonMember& member, std::string_view value);
+
+    static constexpr std::uint8_t kFar = 0xFF;
+    static constexpr std::size_t kNear = 37;
+
+    std::uint16_t m_names = 0;      // of a near text: a bit for some names, none for what is no member
+    std::uint8_t m_size = 0;        // of the text in m_near
+    std::array<char, kNear> m_near; // the text; when m_size is kFar the address of the far part
 };
 
 } // namespace Vexlor

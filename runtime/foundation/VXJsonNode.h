@@ -1,6 +1,7 @@
 #pragma once
 
 #include "IVXJsonValue.h"
+#include "runtime/foundation/VXJsonEscape.h"
 
 #include <algorithm>
 #include <bit>
@@ -24,6 +25,7 @@ enum class JsonKind : std::uint8_t
     Uint64, ///< beyond what a signed integer holds
     Double,
     String,
+    Text, ///< a scalar as it stands in a text; looked up, a string only
     Array,
     Object,
 };
@@ -36,7 +38,7 @@ struct JsonItem
 {
     JsonKind kind = JsonKind::Absent;
     std::uint64_t bits = 0;           ///< of Bool, Int64, Uint64 and Double
-    std::string_view text;            ///< of String
+    std::string_view text;            ///< of String and Text
     const VXJsonNode* node = nullptr; ///< of Array and Object
 };
 
@@ -44,6 +46,7 @@ struct JsonEntry
 {
     std::string_view name; ///< empty for an element
     JsonItem item;
+    bool isNameAsWritten = false; ///< the name is as it stands in a text
 };
 
 /// A place between the elements or members of a container; the first one to begin with.
@@ -65,6 +68,8 @@ public:
     virtual JsonItem Self() const = 0;
     /// The element or member at cursor, which moves on; false when there is none.
     virtual bool Next(JsonCursor& /*cursor*/, JsonEntry& /*entry*/) const { return false; }
+    /// All members as they stand in a text without blanks, a comma behind each, where that is at hand.
+    virtual std::string_view WrittenMembers() const { return {}; }
 
     std::shared_ptr<const IVXJsonValue> operator[](std::string_view) const override { return JsonNull(); }
     std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view) const override
@@ -101,7 +106,13 @@ class VXJsonGetters : public VXJsonNode
 public:
     bool HasKey(std::string_view name) const final { return Item(name).kind != JsonKind::Absent; }
 
-    std::string GetValueString(std::string_view name) const final { return std::string(Item(name).text); }
+    std::string GetValueString(std::string_view name) const final
+    {
+        const JsonItem item = Item(name);
+        if (item.kind != JsonKind::Text)
+            return std::string(item.text);
+        return UnescapedJsonText(item.text.substr(1, item.text.size() - 2));
+    }
 
     int GetValueInt(std::string_view name) const final
     {

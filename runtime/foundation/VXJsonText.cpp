@@ -1,6 +1,6 @@
 #include "runtime/foundation/VXJson.h"
+#include "runtime/foundation/VXJsonEscape.h"
 #include "runtime/foundation/VXJsonNode.h"
-#include "runtime/foundation/VXUtf8.h"
 
 #include <algorithm>
 #include <array>
@@ -12,68 +12,6 @@ namespace Vexlor
 
 namespace
 {
-
-// The letter behind the backslash, 'u' for a character without one of its own, 0 for one that stands for
-// itself and 1 for the bytes of longer characters, which are looked at first.
-constexpr std::array<char, 256> EscapeTable()
-{
-    std::array<char, 256> table{};
-    for (std::size_t c = 0; c < 0x20; ++c)
-        table.at(c) = 'u';
-    for (std::size_t c = 0x80; c < table.size(); ++c)
-        table.at(c) = 1;
-    table['"'] = '"';
-    table['\\'] = '\\';
-    table['\b'] = 'b';
-    table['\f'] = 'f';
-    table['\n'] = 'n';
-    table['\r'] = 'r';
-    table['\t'] = 't';
-    return table;
-}
-
-constexpr auto kEscapes = EscapeTable();
-
-char EscapeOf(char c) { return kEscapes.at(static_cast<unsigned char>(c)); }
-
-void AppendEscape(std::string& out, char c)
-{
-    constexpr std::string_view kHex = "0123456789ABCDEF";
-    out += '\\';
-    out += EscapeOf(c);
-    if (EscapeOf(c) == 'u')
-        out.append("00").append(1, kHex[static_cast<unsigned char>(c) >> 4]).append(1, kHex[c & 0xF]);
-}
-
-// Appends what stands for the start of text, which is no plain character; answers how many bytes that was.
-std::size_t AppendSpecial(std::string& out, std::string_view text)
-{
-    constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
-    if (EscapeOf(text[0]) != 1)
-    {
-        AppendEscape(out, text[0]);
-        return 1;
-    }
-    const std::size_t length = Utf8Length(text);
-    out.append(length == 0 ? kReplacement : text.substr(0, length));
-    return length == 0 ? 1 : length;
-}
-
-void AppendString(std::string& out, std::string_view text)
-{
-    out += '"';
-    while (!text.empty())
-    {
-        std::size_t plain = 0;
-        while (plain < text.size() && EscapeOf(text[plain]) == 0)
-            ++plain;
-        out.append(text.substr(0, plain));
-        text.remove_prefix(plain);
-        if (!text.empty())
-            text.remove_prefix(AppendSpecial(out, text));
-    }
-    out += '"';
-}
 
 template <class Number>
 void AppendNumber(std::string& out, Number number)
@@ -109,7 +47,10 @@ void AppendScalar(std::string& out, const JsonItem& item)
         AppendDouble(out, std::bit_cast<double>(item.bits));
         break;
     case JsonKind::String:
-        AppendString(out, item.text);
+        AppendJsonString(out, item.text);
+        break;
+    case JsonKind::Text:
+        out.append(item.text);
         break;
     default:
         out.append("null");
@@ -157,15 +98,26 @@ private:
             m_text += ',';
         StartLine();
         if (container.named)
-        {
-            AppendString(m_text, entry.name);
-            m_text.append(m_indented ? ": " : ":");
-        }
+            WriteName(entry);
         WriteItem(entry.item);
+    }
+
+    void WriteName(const JsonEntry& entry)
+    {
+        if (entry.isNameAsWritten)
+            m_text.append(1, '"').append(entry.name).append(1, '"');
+        else
+            AppendJsonString(m_text, entry.name);
+        m_text.append(m_indented ? ": " : ":");
     }
 
     void Open(const VXJsonNode& node, bool named)
     {
+        if (const auto members = m_indented ? std::string_view() : node.WrittenMembers(); !members.empty())
+        {
+            m_text.append(1, '{').append(members.substr(0, members.size() - 1)).append(1, '}');
+            return;
+        }
         // Shallow containers are not worth the search: a value below itself gets deep at once.
         if (m_open.size() >= kJsonMaxDepth && !m_deep.insert(&node).second)
             m_isCyclic = true;

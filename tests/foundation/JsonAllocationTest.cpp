@@ -66,7 +66,7 @@ protected:
 
 TEST_F(JsonAllocation, IsCounted)
 {
-    EXPECT_EQ(1, AllocationsOf([] { EXPECT_TRUE(IVXJsonValue::JsonValueNull()); }));
+    EXPECT_LT(0, AllocationsOf([] { EXPECT_TRUE(ParseJson("[1]")); }));
 }
 
 TEST_F(JsonAllocation, MembersAreFoundWithoutAny)

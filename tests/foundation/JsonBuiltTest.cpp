@@ -4,6 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
+#include <limits>
+#include <thread>
+
 namespace Vexlor
 {
 
@@ -124,6 +129,96 @@ TEST(JsonBuilt, TakesPartsOfADocument)
     value->SetValueObject("part", std::const_pointer_cast<IVXJsonValue>(ParseJson(R"({"a": [1.5, "x"]})")));
     EXPECT_EQ(R"({"part":{"a":[1.5,"x"]}})", JsonText(*value));
     EXPECT_EQ(2, (*value)["part"]->GetValueArray("a")->Size());
+}
+
+TEST(JsonBuilt, ScalarsReadAsTheyWereSet)
+{
+    const auto value = Null();
+    value->SetValueInt("int", -1);
+    value->SetValueInt64("lowest", std::numeric_limits<std::int64_t>::min());
+    value->SetValueBool("yes", true);
+    value->SetValueBool("no", false);
+    EXPECT_EQ(-1, value->GetValueInt("int"));
+    EXPECT_EQ(std::numeric_limits<std::int64_t>::min(), value->GetValueInt64("lowest"));
+    EXPECT_TRUE(value->GetValueBool("yes"));
+    EXPECT_FALSE(value->GetValueBool("no"));
+    EXPECT_EQ("", value->GetValueString("int"));
+    EXPECT_EQ(0, value->GetValueInt("yes"));
+    EXPECT_FALSE(value->GetValueBool("int"));
+}
+
+TEST(JsonBuilt, TextsWithEscapesReadAsTheyWereSet)
+{
+    for (const std::string text : {"", "\"", "\\", "a\\\"b\\\\", "\\u0041", "\b\f\n\r\t\x1F\x01/",
+                                   "ü€\U0001F600", "\",\"b\":1", "a,b:c"})
+    {
+        const auto value = Null();
+        value->SetValueString("before", text);
+        value->SetValueString("text", text);
+        value->SetValueInt("behind", 7);
+        EXPECT_EQ(text, value->GetValueString("text"));
+        EXPECT_EQ(7, value->GetValueInt("behind"));
+        EXPECT_EQ(text, ParseJson(JsonText(*value))->GetValueString("text"));
+    }
+}
+
+TEST(JsonBuilt, NamesWithEscapesAreFound)
+{
+    const auto value = Null();
+    for (const auto* name : {"\"", "\\", "a\"b", "b", ":5,", ",\"b", "ü", "\n"})
+        value->SetValueString(name, name);
+    value->SetValueString("a\"b", "again");
+    EXPECT_EQ("again", value->GetValueString("a\"b"));
+    EXPECT_EQ("b", value->GetValueString("b"));
+    EXPECT_EQ("\n", value->GetValueString("\n"));
+    EXPECT_FALSE(value->HasKey("\\\""));
+}
+
+TEST(JsonBuilt, TextThatIsNoUtf8ReadsAsItIsWritten)
+{
+    const auto value = Null();
+    value->SetValueString("text", "a\xFF");
+    EXPECT_EQ("a\xEF\xBF\xBD", value->GetValueString("text"));
+}
+
+TEST(JsonBuilt, AnObjectTakesAnyNumberOfMembers)
+{
+    const auto value = Null();
+    for (int i = 0; i < 500; ++i)
+        value->SetValueInt("member " + std::to_string(i), i);
+    for (int i = 0; i < 500; ++i)
+        EXPECT_EQ(i, value->GetValueInt("member " + std::to_string(i)));
+    EXPECT_FALSE(value->HasKey("member 500"));
+}
+
+TEST(JsonBuilt, ALongTextTakesThePlaceOfAShortOne)
+{
+    const auto value = Null();
+    value->SetValueInt("a", 1);
+    value->SetValueInt("b", 2);
+    value->SetValueString("a", std::string(1000, 'x'));
+    EXPECT_EQ(R"({"a":")" + std::string(1000, 'x') + R"(","b":2})", JsonText(*value));
+}
+
+TEST(JsonBuilt, AReplacedChildIsLetGo)
+{
+    const auto value = Null();
+    value->SetValueObject("child", Null());
+    const std::weak_ptr first = (*value)["child"];
+    value->SetValueObject("child", Null());
+    EXPECT_TRUE(first.expired());
+    const std::weak_ptr second = (*value)["child"];
+    value->SetValueInt("child", 1);
+    EXPECT_TRUE(second.expired());
+}
+
+TEST(JsonBuilt, ValuesMayDieOnAnotherThread)
+{
+    std::vector<std::shared_ptr<IVXJsonValue>> values;
+    std::thread([&] { std::generate_n(std::back_inserter(values), 10'000, [] { return WithText("x"); }); })
+        .join();
+    EXPECT_EQ("x", values.back()->GetValueString("text"));
+    std::thread([taken = std::move(values)]() mutable { taken.clear(); }).join();
 }
 
 TEST(JsonBuilt, AFinishedListReadsAsBefore)

@@ -9,7 +9,7 @@
 namespace
 {
 
-// Each block begins with its size, in a header that keeps the alignment.
+// Before each block lies a header that keeps the alignment.
 constexpr std::size_t kHeader = alignof(std::max_align_t);
 constexpr std::size_t kNoLimit = std::numeric_limits<std::size_t>::max();
 
@@ -34,6 +34,23 @@ bool IsGranted()
     return false;
 }
 
+// What a caller gets of a block, behind the header that ends in the size.
+void* Counted(std::byte* block, std::size_t header, std::size_t size)
+{
+    std::memcpy(block + header - sizeof size, &size, sizeof size);
+    theBytesInUse += size;
+    theMostBytesInUse = std::max(theMostBytesInUse, theBytesInUse);
+    return block + header;
+}
+
+void* Discounted(void* memory, std::size_t header)
+{
+    std::size_t size = 0;
+    std::memcpy(&size, static_cast<std::byte*>(memory) - sizeof size, sizeof size);
+    theBytesInUse -= size;
+    return static_cast<std::byte*>(memory) - header;
+}
+
 } // namespace
 
 // Every form is replaced, so that none is freed by another; not inlined, or the compiler takes free() for the
@@ -43,12 +60,17 @@ bool IsGranted()
 VX_NOT_INLINED void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     auto* block = IsGranted() ? static_cast<std::byte*>(std::malloc(size + kHeader)) : nullptr;
+    return block ? Counted(block, kHeader, size) : nullptr;
+}
+
+VX_NOT_INLINED void* operator new(std::size_t size, std::align_val_t alignment)
+{
+    const auto header = static_cast<std::size_t>(alignment);
+    const std::size_t whole = (size + 2 * header - 1) / header * header;
+    auto* block = IsGranted() ? static_cast<std::byte*>(std::aligned_alloc(header, whole)) : nullptr;
     if (!block)
-        return nullptr;
-    std::memcpy(block, &size, sizeof size);
-    theBytesInUse += size;
-    theMostBytesInUse = std::max(theMostBytesInUse, theBytesInUse);
-    return block + kHeader;
+        throw std::bad_alloc();
+    return Counted(block, header, size);
 }
 
 VX_NOT_INLINED void* operator new(std::size_t size)
@@ -66,14 +88,16 @@ void* operator new[](std::size_t size, const std::nothrow_t&) noexcept
 
 VX_NOT_INLINED void operator delete(void* memory) noexcept
 {
-    if (!memory)
-        return;
-    auto* block = static_cast<std::byte*>(memory) - kHeader;
-    std::size_t size = 0;
-    std::memcpy(&size, block, sizeof size);
-    theBytesInUse -= size;
-    std::free(block);
+    if (memory)
+        std::free(Discounted(memory, kHeader));
 }
+
+VX_NOT_INLINED void operator delete(void* memory, std::align_val_t alignment) noexcept
+{
+    if (memory)
+        std::free(Discounted(memory, static_cast<std::size_t>(alignment)));
+}
+
 void operator delete(void* memory, std::size_t) noexcept { operator delete(memory); }
 void operator delete[](void* memory) noexcept { operator delete(memory); }
 void operator delete[](void* memory, std::size_t) noexcept { operator delete(memory); }

@@ -1,0 +1,121 @@
+#include "runtime/foundation/VXJsonPieces.h"
+
+#include <atomic>
+#include <cstdint>
+#include <new>
+
+namespace Vexlor
+{
+
+namespace
+{
+
+constexpr std::size_t kBlockSize = std::size_t{1} << 16;
+constexpr std::size_t kUnit = 2 * sizeof(std::size_t);
+
+// What a block begins with; its pieces follow. Blocks lie at multiples of their size, so that a piece's
+// address tells where its block is.
+struct alignas(64) Block
+{
+    // As long as pieces are cut from it, a block counts all that it could ever have: so only giving back is
+    // an atomic operation.
+    static constexpr std::size_t kMost = kBlockSize;
+
+    std::atomic<std::size_t> count = kMost;
+    std::size_t used = sizeof(Block);
+    std::size_t pieces = 0;
+};
+
+void Release(Block* block, std::size_t count) noexcept
+{
+    if (block->count.fetch_sub(count, std::memory_order_acq_rel) != count)
+        return;
+    block->~Block();
+    ::operator delete(block, std::align_val_t(kBlockSize));
+}
+
+Block* NewBlock(std::size_t size) { return ::new (::operator new(size, std::align_val_t(kBlockSize))) Block; }
+
+void* Cut(Block* block, std::size_t size)
+{
+    auto* const piece = reinterpret_cast<char*>(block) + block->used;
+    block->used += size;
+    ++block->pieces;
+    return piece;
+}
+
+// A piece too large to share a block has one of its own.
+void* CutAlone(std::size_t size)
+{
+    Block* const block = NewBlock(sizeof(Block) + size);
+    void* const piece = Cut(block, size);
+    Release(block, Block::kMost - 1);
+    return piece;
+}
+
+// The block that this thread cuts from. A plain pointer may be used even while the thread ends.
+thread_local Block* t_current = nullptr;
+thread_local bool t_isEnding = false;
+
+void Retire() noexcept
+{
+    if (t_current)
+        Release(t_current, Block::kMost - t_current->pieces);
+    t_current = nullptr;
+}
+
+struct AtThreadEnd
+{
+    AtThreadEnd() = default;
+    AtThreadEnd(const AtThreadEnd&) = delete;
+    AtThreadEnd& operator=(const AtThreadEnd&) = delete;
+    ~AtThreadEnd()
+    {
+        Retire();
+        t_isEnding = true;
+    }
+};
+
+void StartBlock()
+{
+    thread_local const AtThreadEnd retires;
+    Block* const block = NewBlock(kBlockSize);
+    Retire();
+    t_current = block;
+}
+
+void* TakeShared(std::size_t size)
+{
+    constexpr std::size_t kLargest = kBlockSize / 8;
+    if (size > kLargest || t_isEnding)
+        return CutAlone(size);
+    if (!t_current || kBlockSize - t_current->used < size)
+        StartBlock();
+    return Cut(t_current, size);
+}
+
+// The sanitizer sees an access to a piece that was given back only where each is a block of the heap's own.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool kAreShared = false;
+#elif defined(__has_feature)
+constexpr bool kAreShared = !__has_feature(address_sanitizer);
+#else
+constexpr bool kAreShared = true;
+#endif
+
+} // namespace
+
+void* TakeJsonPiece(std::size_t bytes)
+{
+    return kAreShared ? TakeShared((bytes + kUnit - 1) / kUnit * kUnit) : ::operator new(bytes);
+}
+
+void GiveJsonPiece(void* piece) noexcept
+{
+    if (!kAreShared)
+        return ::operator delete(piece);
+    const auto offset = reinterpret_cast<std::uintptr_t>(piece) % kBlockSize;
+    Release(reinterpret_cast<Block*>(static_cast<char*>(piece) - offset), 1);
+}
+
+} // namespace Vexlor
