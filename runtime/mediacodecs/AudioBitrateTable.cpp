@@ -31,9 +31,12 @@ constexpr std::array kAudio{
     AudioBitrateRow{.codecID = VXCodecID_MP2, .perChannel = {64, 96, 128, 192}},
     // Shaka 92, 192, 384 and HandBrake 96, 224, 640 in mono, stereo and 5.1; 640 is the most.
     AudioBitrateRow{.codecID = VXCodecID_AC3, .perChannel = {77, 96, 112, 128}},
-    // Shaka 64, 160, 192 in mono, stereo and 5.1; Best is AC-3's 640.
+    // HandBrake takes no less than 44.8, 224 for five channels; Shaka 64 in mono, 160 in stereo (its 192
+    // in 5.1
+    // is less than that); Apple's HLS rules 384 in 5.1; Best is AC-3's 640. Frames have 128 bits a sample at
+    // most, which at 32 kHz is 4096.
     AudioBitrateRow{
-        .codecID = VXCodecID_EAC3, .perChannel = {38.4, 64, 80, 128}, .minPerChannel = 12, .maxTotal = 4096},
+        .codecID = VXCodecID_EAC3, .perChannel = {54, 72, 96, 128}, .minPerChannel = 44.8, .maxTotal = 4096},
     // A DVD's two, 768 and 1536 in 5.1 (ETSI TS 102 114, annex on DVD), and two steps between.
     AudioBitrateRow{.codecID = VXCodecID_DTS, .perChannel = {153.6, 204.8, 256, 307.2}},
     // HandBrake 96 in stereo; Xiph 48 to 64 for music in mono, 128 to 256 for 5.1. libopus takes 6 to 256 a

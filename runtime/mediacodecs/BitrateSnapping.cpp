@@ -74,8 +74,8 @@ double WithinBounds(const AudioBitrateRow& row, const SoundStream& stream, doubl
         return Nearest(bitrate, legal);
     const double channels = 1000.0 * ChannelsOf(sound.layout);
     const auto bounds = ChannelBoundsOf(row, sound.sampleRate);
-    const double most = std::min<double>(bounds.most, row.maxSampleBits * sound.sampleRate / 1000.0);
-    const double kept = std::clamp(bitrate, std::min<double>(bounds.least, most) * channels, most * channels);
+    const double most = std::min(bounds.most, row.maxSampleBits * sound.sampleRate / 1000.0);
+    const double kept = std::clamp(bitrate, std::min(bounds.least, most) * channels, most * channels);
     return std::clamp(kept, 1000.0 * row.minTotal, 1000.0 * row.maxTotal);
 }
 

@@ -91,17 +91,17 @@ struct AudioBitrateRow
     int codecID;
     AudioBitrateKind kind = AudioBitrateKind::Lossy;
     std::array<double, kGrades> perChannel = {}; ///< kb/s of one channel at 44.1 kHz or more
-    bool countsSubwoofer = false; ///< whether the subwoofer's channel is given bits as any other
-    int minPerChannel = 1;        ///< kb/s; by sample rate where ChannelBounds has rows
-    int maxPerChannel = 100'000;  ///< kb/s; as above
-    double maxSampleBits = 1'000; ///< of one channel's sample
-    int minTotal = 1;             ///< kb/s
-    int maxTotal = 2'000'000;     ///< kb/s
-    double share = 1.0;           ///< of the samples' own bitrate, for Stored
-    int bits = 0;                 ///< of a stored sample; 0: those of the sample format
-    int maxBits = 32;             ///< of a stored sample, where the sample format has more
-    int blockHeader = 0;          ///< bytes a channel, for Blocks
-    int headerSamples = 0;        ///< samples that a header holds, for Blocks
+    bool countsSubwoofer = false;   ///< whether the subwoofer's channel is given bits as any other
+    double minPerChannel = 1;       ///< kb/s; by sample rate where ChannelBounds has rows
+    double maxPerChannel = 100'000; ///< kb/s; as above
+    double maxSampleBits = 1'000;   ///< of one channel's sample
+    int minTotal = 1;               ///< kb/s
+    int maxTotal = 2'000'000;       ///< kb/s
+    double share = 1.0;             ///< of the samples' own bitrate, for Stored
+    int bits = 0;                   ///< of a stored sample; 0: those of the sample format
+    int maxBits = 32;               ///< of a stored sample, where the sample format has more
+    int blockHeader = 0;            ///< bytes a channel, for Blocks
+    int headerSamples = 0;          ///< samples that a header holds, for Blocks
 };
 
 /// What one channel may have from a sample rate on, in kb/s.
@@ -109,8 +109,8 @@ struct ChannelBounds
 {
     int codecID;
     int sampleRate;
-    int least;
-    int most;
+    double least;
+    double most;
 };
 
 /// The modes of a speech codec at one sample rate, by grade.

@@ -72,7 +72,6 @@ constexpr auto kPublishedSounds = std::to_array<PublishedSound>({
     {"ShakaAC351", VXCodecID_AC3, kLayout51Side, 384},
     {"ShakaEAC3Mono", VXCodecID_EAC3, kMono, 64},
     {"ShakaEAC3Stereo", VXCodecID_EAC3, kStereo, 160},
-    {"ShakaEAC351", VXCodecID_EAC3, kLayout51Side, 192},
 });
 INSTANTIATE_TEST_SUITE_P(AudioBitrate, PublishedSounds, testing::ValuesIn(kPublishedSounds),
                          [](const auto& test) { return test.param.name; });
@@ -132,6 +131,45 @@ TEST(AudioBitrate, OfSpeechIsAModeOfItsSampleRate)
     EXPECT_EQ(27'800, Audio(VXCodecID_Speex, {16000, kMono, kSampleFormatS16}, Grade::QualityLevelHigh));
     EXPECT_EQ(24'600, Audio(VXCodecID_Speex, {8000, kMono, kSampleFormatS16}, Grade::QualityLevelBest));
 }
+
+TEST(AudioBitrate, OfEAC3IsNeverBelow224KilobitsForFiveChannels)
+{
+    for (const auto layout : CapabilitiesOf(VXCodecID_EAC3)->layouts)
+        EXPECT_GE(Audio(VXCodecID_EAC3, {48000, layout, kSampleFormatFLTP}, Grade::QualityLevelLow),
+                  224'000 * ChannelsOf(layout) / 5)
+            << VXChannelLayoutName(layout);
+}
+
+TEST(AudioBitrate, OfOpusGrowsBeyondThatOfOneStream)
+{
+    EXPECT_EQ(672'000, Audio(VXCodecID_Opus, {48000, kLayout71, kSampleFormatFLTP}, Grade::QualityLevelBest));
+}
+
+/// What libvorbis takes of one channel, in kb/s.
+struct VorbisCase
+{
+    const char* name;
+    int sampleRate;
+    int least;
+    int most;
+};
+
+class VorbisOf : public testing::TestWithParam<VorbisCase>
+{
+};
+
+TEST_P(VorbisOf, StaysWithinWhatItsEncoderTakes)
+{
+    const SoundStream mono{GetParam().sampleRate, kMono, kSampleFormatFLTP};
+    EXPECT_GE(Audio(VXCodecID_Vorbis, mono, Grade::QualityLevelLow), 1000 * GetParam().least);
+    EXPECT_LE(Audio(VXCodecID_Vorbis, mono, Grade::QualityLevelBest), 1000 * GetParam().most);
+}
+
+constexpr VorbisCase kVorbisCases[] = {
+    {"At8", 8000, 14, 32},    {"At11", 11025, 14, 32},  {"At16", 16000, 22, 86}, {"At24", 24000, 22, 86},
+    {"At32", 32000, 28, 190}, {"At44", 44100, 28, 240}, {"At48", 48000, 28, 240}};
+INSTANTIATE_TEST_SUITE_P(AudioBitrate, VorbisOf, testing::ValuesIn(kVorbisCases),
+                         [](const auto& test) { return test.param.name; });
 
 TEST(AudioBitrate, OfDTSIsOneOfADVDsAtBothEnds)
 {
