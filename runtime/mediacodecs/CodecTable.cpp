@@ -123,6 +123,7 @@ constexpr auto kWaveLayouts = kLayouts<kStereo, kMono, kLayout21, kLayout30, kLa
                                        kLayout51, kLayout61, kLayout71>;
 
 // Encoders of graphics cards are left out: being compiled in does not say that a card is there to open them.
+// Those of macOS and Windows for H.264 do without one.
 constexpr std::array kTable{
     CodecRow{.id = VXCodecID_H264,
              .name = "H.264",
@@ -135,7 +136,7 @@ constexpr std::array kTable{
              .name = "HEVC",
              .type = VXCodecTypeVideo,
              .avID = AV_CODEC_ID_HEVC,
-             .encoders = "libx265 libkvazaar hevc_videotoolbox hevc_mf",
+             .encoders = "libx265 libkvazaar",
              .formats = kOffered<k420, k420x10, k422, k422x10, k444, k444x10, k420x12, k422x12, k444x12>,
              .video = {.min = {16, 16}, .max = {16384, 16384}, .maxArea = kLevel62Area}},
     CodecRow{.id = VXCodecID_MPEG4, // sizes have 13 bits, time increments 16: ISO/IEC 14496-2 6.2.3
@@ -363,7 +364,7 @@ constexpr std::array kTable{
              .name = "MP2",
              .type = VXCodecTypeAudio,
              .avID = AV_CODEC_ID_MP2,
-             .encoders = "mp2 libtwolame",
+             .encoders = "libtwolame mp2",
              .formats = kOffered<kSampleFormatS16, kSampleFormatFLTP>,
              .audio = {kMPEG2Rates, kStereoMono}},
     CodecRow{.id = VXCodecID_AC3,

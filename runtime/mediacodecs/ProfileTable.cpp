@@ -34,8 +34,8 @@ constexpr std::array kH264Profiles{
 // general_profile_idc, ITU-T H.265 A.3; the range extensions share number 4 and are told apart by 400 and a
 // counter.
 constexpr std::array kHEVCProfiles{
-    ProfileRow{1, VX_AV_PROFILE(HEVC_MAIN), "Main", "libx265 libkvazaar hevc_videotoolbox", "main"},
-    ProfileRow{2, VX_AV_PROFILE(HEVC_MAIN_10), "Main 10", "libx265 hevc_videotoolbox", "main10"},
+    ProfileRow{1, VX_AV_PROFILE(HEVC_MAIN), "Main", "libx265 libkvazaar", "main"},
+    ProfileRow{2, VX_AV_PROFILE(HEVC_MAIN_10), "Main 10", "libx265", "main10"},
     ProfileRow{3, VX_AV_PROFILE(HEVC_MAIN_STILL_PICTURE), "Main Still Picture", ""},
     ProfileRow{4, VX_AV_PROFILE(HEVC_REXT), "Range Extensions", ""},
     ProfileRow{401, VX_AV_PROFILE(HEVC_REXT), "Main 12", "libx265", "main12"},
