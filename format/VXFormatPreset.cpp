@@ -51,6 +51,7 @@ public:
     explicit VXFormatPreset(const IVXJsonValue& json);
     VXFormatPreset(const VXFormatPreset& other);
     VXFormatPreset& operator=(const VXFormatPreset&) = delete;
+    VXFormatPreset& operator=(VXFormatPreset&&) = default;
 
     std::string FormatName() const override { return m_formatName; }
     std::string FormatHint() const override { return m_formatHint; }
@@ -134,6 +135,8 @@ public:
     void SetMinAudioBitrate(int bitrate) override { m_bounds.minAudioBitrate = bitrate; }
 
 private:
+    VXFormatPreset() = default;
+
     std::string m_name;
     std::string m_description;
     std::string m_formatName;
@@ -218,23 +221,26 @@ void VXFormatPreset::CopyFrom(std::shared_ptr<const IVXFormatPreset> other)
 {
     if (!other)
         return;
-    m_name = other->Name();
-    m_description = other->Description();
-    m_formatName = other->FormatName();
-    m_formatHint = other->FormatHint();
-    m_faceID = other->FaceID();
-    m_bounds.maxVideoBitrate = other->MaxVideoBitrate();
-    m_bounds.minVideoBitrate = other->MinVideoBitrate();
-    m_bounds.maxAudioBitrate = other->MaxAudioBitrate();
-    m_bounds.minAudioBitrate = other->MinAudioBitrate();
-    m_bounds.maxWidth = other->MaxWidth();
-    m_bounds.minWidth = other->MinWidth();
-    m_bounds.maxHeight = other->MaxHeight();
-    m_bounds.minHeight = other->MinHeight();
+    // Taken as a whole or not at all, should memory run out.
+    VXFormatPreset copy;
+    copy.m_name = other->Name();
+    copy.m_description = other->Description();
+    copy.m_formatName = other->FormatName();
+    copy.m_formatHint = other->FormatHint();
+    copy.m_faceID = other->FaceID();
+    copy.m_bounds.maxVideoBitrate = other->MaxVideoBitrate();
+    copy.m_bounds.minVideoBitrate = other->MinVideoBitrate();
+    copy.m_bounds.maxAudioBitrate = other->MaxAudioBitrate();
+    copy.m_bounds.minAudioBitrate = other->MinAudioBitrate();
+    copy.m_bounds.maxWidth = other->MaxWidth();
+    copy.m_bounds.minWidth = other->MinWidth();
+    copy.m_bounds.maxHeight = other->MaxHeight();
+    copy.m_bounds.minHeight = other->MinHeight();
     const int videoIndex = other->IndexForVideoCodecPresets();
-    m_video = VXCodecPresetList::CopyOf(videoIndex, other->VideoCodecPresets());
+    copy.m_video = VXCodecPresetList::CopyOf(videoIndex, other->VideoCodecPresets());
     const int audioIndex = other->IndexForAudioCodecPresets();
-    m_audio = VXCodecPresetList::CopyOf(audioIndex, other->AudioCodecPresets());
+    copy.m_audio = VXCodecPresetList::CopyOf(audioIndex, other->AudioCodecPresets());
+    *this = std::move(copy);
 }
 
 std::shared_ptr<IVXJsonValue> VXFormatPreset::JsonValue() const

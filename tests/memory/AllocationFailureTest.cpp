@@ -157,6 +157,19 @@ TEST_P(AllocationFailure, OfCloningAPreset)
     RefuseEach([&] { return preset->Clone(); });
 }
 
+TEST_P(AllocationFailure, OfTakingAPresetOverLeavesTheOldOneWhole)
+{
+    const auto target = IVXFormatPreset::MallocFormatPreset("MP4", "");
+    const auto before = Text(target->JsonValue());
+    std::size_t allocations = 0;
+    for (auto outcome = Outcome::BadAlloc; outcome == Outcome::BadAlloc; ++allocations)
+    {
+        outcome = OutcomeOf([&] { return target->CopyFrom(preset), target; }, allocations, GetParam());
+        EXPECT_EQ(outcome == Outcome::Done ? Text(preset->JsonValue()) : before, Text(target->JsonValue()));
+    }
+    EXPECT_LT(10U, allocations);
+}
+
 TEST_P(AllocationFailure, OfMatchingASource)
 {
     RefuseEach([&] { return preset->MatchForSource(source); });
