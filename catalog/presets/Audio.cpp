@@ -84,12 +84,11 @@ constexpr std::array kSpecial{
 constexpr std::array kGroups{
     Group{"Audio", "", "Every container of sound, with the rate and the channels of the source",
           Icons::CategoryFaceIDAudio, Offer::Everything, kContainers},
-    Group{"Audio", "More MP3", "MP3 by bitrate", Icons::FormatFaceIDMP3, Offer::Everything, kInMP3},
-    Group{"Audio", "More M4A", "AAC by bitrate, and ALAC", Icons::FormatFaceIDM4A, Offer::Everything, kInM4A},
-    Group{"Audio", "More WAV", "Discs, studios, telephones", Icons::FormatFaceIDWAV, Offer::Everything,
-          kInWAV},
-    Group{"Audio", "More Sound", "Speech, surround sound, and without loss", FormatFaceIDAudio,
-          Offer::Everything, kSpecial},
+    Group{"Audio", "More MP3", "MP3 by bitrate", Icons::FormatFaceIDMP3, Offer::Chosen, kInMP3},
+    Group{"Audio", "More M4A", "AAC by bitrate, and ALAC", Icons::FormatFaceIDM4A, Offer::Chosen, kInM4A},
+    Group{"Audio", "More WAV", "Discs, studios, telephones", Icons::FormatFaceIDWAV, Offer::Chosen, kInWAV},
+    Group{"Audio", "More Sound", "Speech, surround sound, and without loss", FormatFaceIDAudio, Offer::Chosen,
+          kSpecial},
 };
 
 } // namespace

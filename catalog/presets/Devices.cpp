@@ -82,7 +82,7 @@ constexpr std::array kTelevisions{
            kH264.Within(1920, 1080).UpTo(20'000), kAAC.Stereo(k48k).Between(192, 384)},
     Preset{"Television with Surround", "A television with a receiver behind it: 5.1 in AC-3", kMKV,
            kH264.Within(1920, 1080).UpTo(20'000),
-           kAC3.Hertz(k48k).Between(192, 640)}, // A/52: 640 kb/s at most
+           kAC3.Hertz(k48k).Between(448, 640)}, // A/52: 640 kb/s at most
     Preset{"Old Television USB", "Televisions of before 2010, whose socket reads MPEG-2 alone", kMPG,
            kMPEG2.Within(720, 576).UpTo(8'000), kMP2.Stereo(k48k).Between(192, 384)}, // our choice
     // developers.google.com/cast/docs/media: codecs and levels of each generation. Bitrates: our choice.
@@ -137,7 +137,7 @@ constexpr std::array kConsoles{
            kH264.Within(1920, 1080).Rate(30'000, 1'001).Profile("High", "4.1").UpTo(10'000),
            kAAC.Stereo(k48k).Between(128, 192)},
     Preset{"Xbox 360 AVI", "Xbox 360, for collections in AVI", kAVI,
-           kMPEG4.Within(1280, 720).Rate(30'000, 1'001).UpTo(5'000), kMP3.Stereo(k48k).Between(128, 192)},
+           kMPEG4.Within(1280, 720).Rate(30'000, 1'001).UpTo(5'000), kMP3.Stereo(k48k).Between(96, 192)},
     Preset{"Xbox One", "Xbox One and newer", kMP4, kH264.Within(1920, 1080).Profile("High").UpTo(20'000),
            kAAC.Stereo(k48k).Between(128, 256)}, // our choice
     Preset{"Xbox 4K", "Xbox One S, One X and Series, in 4K", kMP4, kHEVC.Within(3840, 2160).UpTo(40'000),
@@ -185,7 +185,7 @@ constexpr std::array kCameras{
 constexpr Picture kDVDPAL = kMPEG2.At(720, 576).Rate(25).Profile("Main", "Main").Between(3'000, 8'500);
 constexpr Picture kDVDNTSC =
     kMPEG2.At(720, 480).Rate(30'000, 1'001).Profile("Main", "Main").Between(3'000, 8'500);
-constexpr Sound kDVDSound = kAC3.Hertz(k48k).Between(192, 448);
+constexpr Sound kDVDSound = kAC3.Hertz(k48k).Between(256, 448);
 
 constexpr std::array kPlayers{
     Preset{"DVD PAL 16:9", "To author a DVD for Europe, wide pictures", kVOB,
@@ -210,18 +210,18 @@ constexpr std::array kPlayers{
            kMP2.Stereo(k44k).Exactly(224)},
     Preset{"Blu-ray 1080p", "To author a Blu-ray disc: full HD, 23.976 frames", kM2TS,
            kH264.At(1920, 1080).Rate(24'000, 1'001).Profile("High", "4.1").Between(12'000, 35'000),
-           kAC3.Hertz(k48k).Between(192, 640)},
+           kAC3.Hertz(k48k).Between(448, 640)},
     Preset{"Blu-ray 720p 50", "To author a Blu-ray disc for Europe: 720p, 50 frames", kM2TS,
            kH264.At(1280, 720).Rate(50).Profile("High", "4.1").Between(8'000, 30'000),
-           kAC3.Hertz(k48k).Between(192, 640)},
+           kAC3.Hertz(k48k).Between(448, 640)},
     Preset{"Blu-ray 720p 59.94", "To author a Blu-ray disc for America or Japan: 720p, 59.94 frames", kM2TS,
            kH264.At(1280, 720).Rate(60'000, 1'001).Profile("High", "4.1").Between(8'000, 30'000),
-           kAC3.Hertz(k48k).Between(192, 640)},
+           kAC3.Hertz(k48k).Between(448, 640)},
     // The Home Theater profile of DivX: 720 x 576 at 25 frames, 4 Mb/s on average.
     Preset{"DivX Player", "DVD players with the DivX sign, from a disc or stick", kAVI,
-           kDivX.Within(720, 576).UpTo(4'000), kMP3.Stereo(k48k).Between(128, 192)},
+           kDivX.Within(720, 576).UpTo(4'000), kMP3.Stereo(k48k).Between(96, 192)},
     Preset{"Car Player AVI", "Car radios with a screen and a USB socket", kAVI,
-           kMPEG4.Within(720, 480).Rate(25).UpTo(2'000), kMP3.Stereo(k44k).Between(128, 192)}, // our choice
+           kMPEG4.Within(720, 480).Rate(25).UpTo(2'000), kMP3.Stereo(k44k).Between(96, 192)}, // our choice
     Preset{"Car Screen", "Car systems of about 2012 and newer", kMP4,
            kH264.Within(800, 480).Rate(30).Profile("Baseline", "3.1").UpTo(3'000),
            kAAC.Stereo(k48k).Between(96, 160)}, // our choice

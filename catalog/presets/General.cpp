@@ -33,7 +33,7 @@ constexpr std::array kPresets{
     Preset{"Archive without Loss", "To keep for good: nothing is lost, computers alone play it", kMKV, kFFV1,
            kFLAC},
     Preset{"Music", "Plays on everything that plays music", kMP3File, kNoPicture,
-           kMP3.Stereo(k44k).Between(192, 320)},
+           kMP3.Stereo(k44k).Between(128, 320)},
     Preset{"Lossless Music", "To keep music for good; half the size of a CD's tracks", kFLACFile, kNoPicture,
            kFLAC},
     Preset{"Spoken Word", "Podcasts, lectures and audio books: half a megabyte a minute", kM4A, kNoPicture,

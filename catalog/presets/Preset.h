@@ -27,8 +27,9 @@ struct Size
 
 /// Bounds of a bitrate in kilobits a second; 0 for none.
 ///
-/// The two are as far apart as a document can tell apart where they are equal: neither a grade nor a bitrate
-/// of one's own is kept in a document, but bounds are, and the grades lie between them.
+/// They are what a document keeps of quality: the library reads neither a grade nor a bitrate of one's own.
+/// The grades lie between them in thirds, so where an encoder takes certain bitrates only, all four are to be
+/// such.
 struct Kilobits
 {
     int least = 0;

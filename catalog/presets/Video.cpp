@@ -33,8 +33,8 @@ constexpr std::array kContainers{
     Preset{"3GP", "For mobile phones of before 2010: H.264 and AAC", k3GP, kH264, kAAC},
     Preset{"OGV", "For programs that take free formats alone: Theora and Vorbis", kOGV, kTheora, kVorbis},
     Preset{"MXF", "For broadcasters and editing suites: MPEG-2 and 16-bit sound", kMXF, kMPEG2, kPCM16},
-    Preset{"DV", "The stream of a DV tape, as camcorders and old editing programs take it", kDVFile, kDV,
-           kPCM16},
+    Preset{"DV", "The stream of a DV tape, as camcorders and old editing programs take it", kDVFile,
+           kDV.Shape(IVXSampleAspectPreset::AspectPALDVD4x3), kPCM16},
 };
 
 constexpr std::array kInMP4{
@@ -85,7 +85,7 @@ constexpr std::array kInMKV{
     Preset{"MKV AV1", "For a library of films, smaller still; takes long", kMKV, kAV1, kOpus},
     Preset{"MKV VP9", "Free of royalties, for media players", kMKV, kVP9, kOpus},
     Preset{"MKV with DTS", "For a receiver that has surround sound in DTS", kMKV, kH264,
-           kDTS.Hertz(k48k).Between(768, 1'509)}, // the two rates of discs, ETSI TS 102 114
+           kDTS.Hertz(k48k).Between(768, 1'536)}, // the two rates of discs, ETSI TS 102 114
     Preset{"MKV with FLAC", "Concerts: pictures in H.264, sound without loss", kMKV, kH264, kFLAC},
     Preset{"MKV MPEG-2", "For media players without power, and for recordings of broadcasts", kMKV,
            kMPEG2.Within(1920, 1080).UpTo(25'000), kAC3.Hertz(k48k)},
@@ -132,9 +132,9 @@ constexpr std::array kBroadcast{
 // Sizes and rates: our choice; every size beyond these makes files that no page can carry.
 constexpr std::array kAnimations{
     Preset{"GIF", "A short loop that everything shows, 256 colours; keep it to seconds", kGIFFile,
-           kGIF.Within(480, 480).Rate(10).UpTo(16'000)},
+           kGIF.Within(480, 480).Rate(10).UpTo(9'216)},
     Preset{"Small GIF", "A short loop for messages and forums", kGIFFile,
-           kGIF.Within(320, 320).Rate(10).UpTo(8'000)},
+           kGIF.Within(320, 320).Rate(10).UpTo(4'096)},
     Preset{"WEBP", "A short loop for web pages, all colours, a third of the size of a GIF", kWEBPFile,
            kWebP.Within(640, 640).Rate(20).UpTo(8'000)},
 };
@@ -142,19 +142,16 @@ constexpr std::array kAnimations{
 constexpr std::array kGroups{
     Group{"Video", "", "Every container of pictures and sound, with the size and rate of the source",
           Icons::CategoryFaceIDVideo, Offer::Everything, kContainers},
-    Group{"Video", "More MP4", "Other codecs in MP4", Icons::FormatFaceIDMP4, Offer::Everything, kInMP4},
-    Group{"Video", "More MOV", "For editing, in Apple's container", FormatFaceIDMOV, Offer::Everything,
-          kInMOV},
-    Group{"Video", "More MKV", "For media players and libraries", Icons::FormatFaceIDMKV, Offer::Everything,
+    Group{"Video", "More MP4", "Other codecs in MP4", Icons::FormatFaceIDMP4, Offer::Chosen, kInMP4},
+    Group{"Video", "More MOV", "For editing, in Apple's container", FormatFaceIDMOV, Offer::Chosen, kInMOV},
+    Group{"Video", "More MKV", "For media players and libraries", Icons::FormatFaceIDMKV, Offer::Chosen,
           kInMKV},
-    Group{"Video", "More WEBM", "For web pages, free of royalties", Icons::FormatFaceIDWEBM,
-          Offer::Everything, kInWEBM},
-    Group{"Video", "More AVI", "For old programs of Windows", Icons::FormatFaceIDAVI, Offer::Everything,
-          kInAVI},
+    Group{"Video", "More WEBM", "For web pages, free of royalties", Icons::FormatFaceIDWEBM, Offer::Chosen,
+          kInWEBM},
+    Group{"Video", "More AVI", "For old programs of Windows", Icons::FormatFaceIDAVI, Offer::Chosen, kInAVI},
     Group{"Video", "Broadcast", "For television stations and their editing suites", FormatFaceIDVideo,
-          Offer::Everything, kBroadcast},
-    Group{"Video", "Animations", "Short loops without sound", FormatFaceIDVideo, Offer::Everything,
-          kAnimations},
+          Offer::Chosen, kBroadcast},
+    Group{"Video", "Animations", "Short loops without sound", FormatFaceIDVideo, Offer::Chosen, kAnimations},
 };
 
 } // namespace

@@ -51,18 +51,20 @@ TEST(ShowCommand, WrapsLongLists)
 
 TEST(ShowCommand, PrintsTheBounds)
 {
-    const auto text = RunTool({"show", "Devices/Phone"}).out;
+    const auto text = RunTool({"show", "Devices/Phones/Phone 720p"}).out;
     EXPECT_NE(std::string::npos, text.find("  Largest size     1280 x 720\n"
-                                           "  Video at most    14.00 Mb/s\n"
-                                           "  Audio at most    192 kb/s\n"));
+                                           "  Video at most    7.50 Mb/s\n"
+                                           "  Video at least   937 kb/s\n"
+                                           "  Audio at most    192 kb/s\n"
+                                           "  Audio at least   96 kb/s\n"));
 }
 
 TEST(ShowCommand, JsonTellsThePreset)
 {
-    const auto json = RunForJson({"show", "phone"});
-    EXPECT_EQ("Devices/Phone", json->GetValueString("path"));
-    EXPECT_EQ("Phone", json->GetValueString("name"));
-    EXPECT_EQ("H.264 level 3.1", json->GetValueString("description"));
+    const auto json = RunForJson({"show", "phone 720p"});
+    EXPECT_EQ("Devices/Phones/Phone 720p", json->GetValueString("path"));
+    EXPECT_EQ("Phone 720p", json->GetValueString("name"));
+    EXPECT_EQ("Any smartphone, in little room", json->GetValueString("description"));
     EXPECT_EQ("MP4", json->GetValueString("format"));
     EXPECT_EQ("", json->GetValueString("hint"));
     EXPECT_EQ(20000000, json->GetValueInt("faceID"));
@@ -72,12 +74,12 @@ TEST(ShowCommand, JsonTellsThePreset)
 
 TEST(ShowCommand, JsonTellsBothHalves)
 {
-    const auto json = RunForJson({"show", "phone"});
+    const auto json = RunForJson({"show", "phone 720p"});
     const auto video = (*json)["video"];
-    EXPECT_EQ(14'000'000, video->GetValueInt("maxBitrate"));
-    EXPECT_EQ(-1, video->GetValueInt("minBitrate"));
-    EXPECT_EQ(1, video->GetValueInt("current"));
-    EXPECT_EQ("Auto", video->GetValueArray("codecs")->At(0)->GetValueString("codec"));
+    EXPECT_EQ(7'500'000, video->GetValueInt("maxBitrate"));
+    EXPECT_EQ(937'000, video->GetValueInt("minBitrate"));
+    EXPECT_EQ(0, video->GetValueInt("current"));
+    EXPECT_EQ("H.264", video->GetValueArray("codecs")->At(0)->GetValueString("codec"));
     EXPECT_EQ(192'000, (*json)["audio"]->GetValueInt("maxBitrate"));
 }
 
@@ -145,9 +147,9 @@ TEST(PresetName, NoHitListsTheNearest)
 
 TEST(PresetName, SeveralHitsAreListed)
 {
-    const auto run = RunTool({"show", "page"});
-    EXPECT_EQ("vxpresets: \"page\" is more than one preset: \"Web Video/Web Page 720p\", "
-              "\"Web Video/Web Page 1080p\"\n",
+    const auto run = RunTool({"show", "divx"});
+    EXPECT_EQ("vxpresets: \"divx\" is more than one preset: \"Video/More AVI/AVI DivX\", "
+              "\"Devices/Car and Disc Players/DivX Player\"\n",
               run.err);
     EXPECT_EQ(1, run.exitCode);
 }
@@ -155,7 +157,7 @@ TEST(PresetName, SeveralHitsAreListed)
 TEST(PresetName, ManyHitsAreListedInPart)
 {
     const auto run = RunTool({"show", ""});
-    EXPECT_NE(std::string::npos, run.err.find("\"Video/WEBM\" and 15 more\n")) << run.err;
+    EXPECT_NE(std::string::npos, run.err.find("\"General/Music\" and 212 more\n")) << run.err;
 }
 
 TEST(PresetName, MessagesNameTheDocument)
