@@ -40,6 +40,36 @@ constexpr Choice kProfile{[](const IVXCodecPreset& preset) { return preset.Profi
 constexpr Choice kQuality{CountQualities,
                           [](IVXCodecPreset& preset, int entry) { preset.SetIndexForQualityPresets(entry); }};
 
+// Behind the grades: a user's own bitrate, variable and constant, and one between bounds; all of them odd.
+enum BitrateChoice : int
+{
+    OfTheGrade,
+    Variable,
+    Constant,
+    Bounded,
+    BitrateChoiceCount,
+};
+
+bool IsVideo(const IVXCodecPreset& preset)
+{
+    return IVXCodecs::MallocCodecs(preset.CodecID(), true)->GetCodecType() == VXCodecTypeVideo;
+}
+
+void ChooseBitrate(IVXCodecPreset& preset, int entry)
+{
+    const auto qualities = preset.CodecQualityPresets();
+    const auto custom =
+        std::ranges::find_if(qualities, [](const auto& quality) { return quality->IsCustom(); });
+    if ((entry != Variable && entry != Constant) || custom == qualities.end())
+        return;
+    (*custom)->SetBitrate(IsVideo(preset) ? 1'234'567 : 123'457);
+    (*custom)->SetMode(entry == Constant ? 1 : 0);
+    preset.SetIndexForQualityPresets(static_cast<int>(custom - qualities.begin()));
+}
+
+constexpr Choice kBitrate{[](const IVXCodecPreset& /*preset*/) { return int{BitrateChoiceCount}; },
+                          ChooseBitrate};
+
 constexpr Choice kVideoChoices[] = {
     {[](const IVXCodecPreset& preset) { return preset.ResolutionPresetCount(); },
      [](IVXCodecPreset& preset, int entry) { preset.SetIndexForResolutionPreset(entry); }},
@@ -50,6 +80,7 @@ constexpr Choice kVideoChoices[] = {
     {[](const IVXCodecPreset& preset) { return preset.LevelPresetCount(); },
      [](IVXCodecPreset& preset, int entry) { preset.SetIndexForLevelPresets(entry); }},
     kQuality,
+    kBitrate,
 };
 
 constexpr Choice kAudioChoices[] = {
@@ -60,13 +91,12 @@ constexpr Choice kAudioChoices[] = {
     kFormat,
     kProfile,
     kQuality,
+    kBitrate,
 };
 
 std::span<const Choice> ChoicesOf(const IVXCodecPreset& preset)
 {
-    const auto codecs = IVXCodecs::MallocCodecs(preset.CodecID(), true);
-    return codecs->GetCodecType() == VXCodecTypeVideo ? std::span<const Choice>(kVideoChoices)
-                                                      : std::span<const Choice>(kAudioChoices);
+    return IsVideo(preset) ? std::span<const Choice>(kVideoChoices) : std::span<const Choice>(kAudioChoices);
 }
 
 std::shared_ptr<IVXCodecParameter> AutoPicture()
@@ -102,6 +132,15 @@ void Choose(IVXCodecPreset& preset, const std::vector<int>& entries)
     for (const auto& choice : ChoicesOf(preset))
         choice.choose(preset, *entry++);
 }
+
+BitrateBounds BoundsOf(const IVXCodecPreset& preset, const std::vector<int>& entries)
+{
+    if (entries.back() != Bounded)
+        return {};
+    return IsVideo(preset) ? BitrateBounds{2'100'003, 700'001} : BitrateBounds{170'003, 70'001};
+}
+
+bool HasOfferedBitrate(const std::vector<int>& entries) { return entries.back() == OfTheGrade; }
 
 std::shared_ptr<const IVXFormatParameter> AutoSource()
 {

@@ -21,6 +21,8 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <map>
+#include <set>
 
 namespace Vexlor
 {
@@ -29,6 +31,10 @@ namespace
 {
 
 bool IsVideo(const IVXCodecParameter& stream) { return stream.GetCodecType() == VXCodecTypeVideo; }
+
+using Size = std::pair<int, int>;
+
+Size SizeOf(const IVXCodecParameter& stream) { return {stream.GetWidth(), stream.GetHeight()}; }
 
 /// One codec's walk.
 class Walk
@@ -53,6 +59,7 @@ private:
     void Try(const PairwiseCase& entries);
     std::shared_ptr<IVXCodecParameter> Match(const PairwiseCase& entries) const;
     bool IsLeftOut(const IVXCodecParameter& stream);
+    bool IsLeftOutIn(const Container& container, const IVXCodecParameter& stream);
     void TryIn(const Container& container, const PairwiseCase& entries);
     const EncodedStream& Encoded(const IVXCodecParameter& stream, bool globalHeader);
     EncodedStream Encode(const IVXCodecParameter& stream, bool globalHeader);
@@ -64,7 +71,11 @@ private:
     std::vector<Container> m_containers;
     std::map<std::string, EncodedStream> m_encoded; // of one case: containers that are told the same share it
     std::map<std::string, EncodedStream> m_companions; // by container
-    std::map<std::pair<int, int>, int> m_tries;        // by size
+    std::map<std::pair<std::string, Size>, int>
+        m_tries;                     // by container, where that has sizes of its own, and size
+    Size m_size;                     // of the case
+    bool m_hasOfferedBitrate = true; // of the case
+    std::set<std::string> m_reasons; // of losses so far
     TestFolder m_folder;
     WalkedCodec m_walked;
 };
@@ -74,7 +85,13 @@ EncodedStream Walk::Encode(const IVXCodecParameter& stream, bool globalHeader)
     const auto setup =
         OpenEncoder(stream, {m_walked.encoder, globalHeader, QuickOptionsOf(m_walked.encoder)});
     for (const auto& change : setup.changes)
-        m_walked.gaveWay.Add(change, StreamOutline(stream));
+    {
+        const bool isExpected = IsExpectedToGiveWay(change, m_codecID, m_hasOfferedBitrate);
+        if (isExpected)
+            m_walked.gaveWay.Add(change.substr(0, change.find(' ')), change);
+        else
+            m_walked.failures.Add("is offered, yet " + change, StreamOutline(stream));
+    }
     EncodedStream encoded;
     if (!setup.context)
         encoded.complaint = "not opened: " + setup.complaint;
@@ -134,6 +151,7 @@ void Walk::Write(const Container& container, const EncodedStream& encoded, const
     for (const auto& difference : ReadBack(path, container.name, asked))
     {
         const auto reason = ReasonOf(difference, container.name, m_codecID);
+        m_reasons.insert(reason);
         auto& findings = reason.empty() ? m_walked.failures : m_walked.notCarried;
         findings.Add(container.name + ": " + (reason.empty() ? difference.text : reason), example);
     }
@@ -141,14 +159,26 @@ void Walk::Write(const Container& container, const EncodedStream& encoded, const
 
 bool Walk::IsLeftOut(const IVXCodecParameter& stream)
 {
-    int& tries = m_tries[{stream.GetWidth(), stream.GetHeight()}];
+    int& tries = m_tries[{"", SizeOf(stream)}];
     return ++tries > AreaOf(stream).tries;
+}
+
+// All sizes become a few in a container of discs, which need not be tried as often as there are sizes.
+bool Walk::IsLeftOutIn(const Container& container, const IVXCodecParameter& stream)
+{
+    constexpr int kMost = 24;
+    if (SizeOf(stream) == m_size)
+        return false;
+    int& tries = m_tries[{container.name, SizeOf(stream)}];
+    return ++tries > std::min(kMost, AreaOf(stream).tries);
 }
 
 void Walk::TryIn(const Container& container, const PairwiseCase& entries)
 {
     Choose(*container.codec, entries);
-    const auto stream = container.Match();
+    const auto stream = container.Match(BoundsOf(*container.codec, entries));
+    if (IsLeftOutIn(container, *stream))
+        return;
     const auto& encoded = Encoded(*stream, WantsGlobalHeader(container.muxer));
     if (encoded.complaint.empty() && AreaOf(*stream).isWritten)
         Write(container, encoded, *stream);
@@ -158,10 +188,12 @@ void Walk::TryIn(const Container& container, const PairwiseCase& entries)
 std::shared_ptr<IVXCodecParameter> Walk::Match(const PairwiseCase& entries) const
 {
     Choose(*m_preset, entries);
+    const auto bounds = BoundsOf(*m_preset, entries);
     const auto source = AutoSource();
     const bool isVideo = FindCodec(m_codecID)->type == VXCodecTypeVideo;
-    return m_preset->MatchForSource(
-        isVideo ? source->GetVideoCodecParameter() : source->GetAudioCodecParameter(), -1, -1);
+    return m_preset->MatchForSource(isVideo ? source->GetVideoCodecParameter()
+                                            : source->GetAudioCodecParameter(),
+                                    bounds.max, bounds.min);
 }
 
 void Walk::Try(const PairwiseCase& entries)
@@ -172,6 +204,8 @@ void Walk::Try(const PairwiseCase& entries)
         ++m_walked.leftOut;
         return;
     }
+    m_size = SizeOf(*stream);
+    m_hasOfferedBitrate = HasOfferedBitrate(entries);
     m_encoded.clear();
     if (m_containers.empty()) // encoded all the same
         Encode(*stream, false);
@@ -186,6 +220,9 @@ void Walk::All()
     const auto cases = PairwiseCases(ChoiceCounts(*m_preset));
     for (std::size_t index = 0; index < cases.size(); index += StepOf())
         Try(cases[index]);
+    for (const auto& reason : ReasonsFor(m_codecID))
+        if (StepOf() == 1 && !m_reasons.contains(reason))
+            m_walked.failures.Add("nothing is lost any more for this reason: " + reason, m_walked.codec);
     m_walked.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 

@@ -7,7 +7,6 @@
 #include "VXMediaCodecs.h"
 #include "runtime/mediacodecs/CodecTable.h"
 #include "runtime/mediacodecs/FormatTable.h"
-#include "tests/encode/CodecChoices.h"
 
 #include <algorithm>
 #include <array>
@@ -52,8 +51,12 @@ bool Take(Container& container, int codecID)
 
 } // namespace
 
-std::shared_ptr<IVXCodecParameter> Container::Match() const
+std::shared_ptr<IVXCodecParameter> Container::Match(const BitrateBounds& bounds) const
 {
+    preset->SetMaxVideoBitrate(bounds.max);
+    preset->SetMinVideoBitrate(bounds.min);
+    preset->SetMaxAudioBitrate(bounds.max);
+    preset->SetMinAudioBitrate(bounds.min);
     const auto output = preset->MatchForSource(AutoSource());
     return IsVideo(codec->CodecID()) ? output->GetVideoCodecParameter() : output->GetAudioCodecParameter();
 }

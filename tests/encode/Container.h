@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/encode/CodecChoices.h"
+
 #include <memory>
 #include <string>
 #include <vector>
@@ -20,8 +22,8 @@ struct Container
     std::shared_ptr<IVXFormatPreset> preset;
     std::shared_ptr<IVXCodecPreset> codec; ///< of the preset's list, shared with it
 
-    /// What the preset answers for that codec's stream and AutoSource.
-    std::shared_ptr<IVXCodecParameter> Match() const;
+    /// What the preset answers for that codec's stream and AutoSource, within bounds of its bitrate.
+    std::shared_ptr<IVXCodecParameter> Match(const BitrateBounds& bounds) const;
     /// What it answers for the picture that has to stand beside that codec's sound; empty where it need not.
     std::shared_ptr<IVXCodecParameter> MatchCompanion() const;
 };

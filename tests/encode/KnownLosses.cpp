@@ -28,14 +28,25 @@ constexpr std::array<int, sizeof...(kIDs)> kCodecs{kIDs...};
 
 constexpr auto kPCM = kCodecs<VXCodecID_PCM16, VXCodecID_PCM24, VXCodecID_PCM32, VXCodecID_PCMFloat,
                               VXCodecID_PCM16BE, VXCodecID_PCM24BE>;
+constexpr auto kPCMOfMatroska =
+    kCodecs<VXCodecID_PCM16, VXCodecID_PCM24, VXCodecID_PCM32, VXCodecID_PCMFloat>;
 
 constexpr std::array kLosses{
     LossRow{"", kCodecs<VXCodecID_Opus>, "sample rate", "Opus always decodes to 48 kHz (RFC 7845 5.1)"},
     LossRow{"OGG OGV", kCodecs<VXCodecID_FLAC>, "layout",
             "FLAC has one place for back and side loudspeakers (RFC 9639 9.1.3)"},
     LossRow{"CAF AIFF", kPCM, "layout", "libavformat writes no layout of its own where a tag is near enough"},
-    LossRow{"MKV MKA MXF", kPCM, "layout", "the number of channels of PCM is stored, not their places"},
+    LossRow{"", kCodecs<VXCodecID_H264, VXCodecID_HEVC>, "narrower profile",
+            "x264 and x265 name the narrowest profile that holds the stream"},
+    LossRow{"", kCodecs<VXCodecID_GIF>, "pixel format",
+            "a palette is decoded to the colors that it stands for"},
+    LossRow{"MKV MKA MXF", kPCMOfMatroska, "layout",
+            "the number of channels of PCM is stored, not their places"},
 };
+
+// A profile of ProRes and DNxHR has a bitrate of its own, whatever the grade that is chosen beside it.
+// SVT-AV1 has 100 Mb/s at most, whatever level 6.3 allows.
+constexpr auto kOtherBitrates = kCodecs<VXCodecID_ProRes, VXCodecID_DNxHR, VXCodecID_AV1>;
 
 /// How exactly a container tells a frame rate.
 struct ClockRow
@@ -70,6 +81,24 @@ std::string ReasonOf(const Difference& difference, const std::string& container,
             std::ranges::find(row.codecs, codecID) != row.codecs.end())
             return std::string(row.reason);
     return {};
+}
+
+std::vector<std::string> ReasonsFor(int codecID)
+{
+    std::vector<std::string> reasons;
+    for (const auto& row : kLosses)
+        if (std::ranges::find(row.codecs, codecID) != row.codecs.end())
+            reasons.emplace_back(row.reason);
+    return reasons;
+}
+
+bool IsExpectedToGiveWay(const std::string& change, int codecID, bool hasOfferedBitrate)
+{
+    if (change.starts_with("profile ") || change.starts_with("level "))
+        return true;
+    const bool isOffered =
+        hasOfferedBitrate && std::ranges::find(kOtherBitrates, codecID) == kOtherBitrates.end();
+    return !isOffered && (change.starts_with("bitrate ") || change.starts_with("constant bitrate "));
 }
 
 double RateToleranceOf(const std::string& container)

@@ -35,7 +35,7 @@ struct QuickRow
 // The last three have no quick way, and hardly more to show in the tenth frame than in the third: each stands
 // for itself or, of FFV1, is coded as the one before.
 constexpr std::array kQuick{
-    QuickRow{"libx264", "preset=ultrafast"},
+    QuickRow{"libx264", "preset=ultrafast:8x8dct=1:coder=cabac:bf=1"},
     QuickRow{"libx265", "preset=ultrafast"},
     QuickRow{"libsvtav1", "preset=12:svtav1-params=lp=1"},
     QuickRow{"libvpx", "deadline=realtime:cpu-used=8:lag-in-frames=0"},
