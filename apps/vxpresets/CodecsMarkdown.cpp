@@ -25,8 +25,13 @@ using Texts = std::vector<std::string>;
 constexpr auto* kHead = R"(# Codecs and containers
 
 What the codec library offers: the containers with the codecs that each takes, the preferred one first, and for every
-codec the values that it accepts, the bitrates that suit it by grade, and the lowest level that holds the picture's size
-and rate.
+codec the values that it accepts, the bitrates that suit it by grade, and the lowest level that holds the picture at
+those bitrates: one for all four grades, or those of Low and Best.
+
+Grades are to look and sound alike in every codec. Between bounds that a preset gives, a codec's grades are thirds of
+the way from one to the other; a bound that is not given is the codec's own. That of a sound codec is its Low or Best at
+the sample rate and layout that it offers first, which is stereo at 48 kHz as a rule, whatever the sound at hand: bounds
+are asked for before there is any. A sound codec without grades has its smallest and its largest sound.
 
 `vxpresets codecs --markdown` prints this page for the FFmpeg that it runs on. The one in the repository comes from
 `scripts/update-docs` on Debian 12, whose FFmpeg is 5.1; another FFmpeg brings other encoders and muxers, and with them
@@ -48,12 +53,12 @@ constexpr std::array kPictures{Picture{640, 360, 30},   Picture{854, 480, 30},  
 constexpr std::array kLayouts{"Mono", "Stereo", "5.1"};
 constexpr int kSampleRate = 48000;
 
-/// A codec's bitrate by grade, for one picture or sound, and the lowest level that holds the picture.
+/// A codec's bitrate by grade, for one picture or sound, and the lowest levels that hold the picture at it.
 struct BitrateRow
 {
     std::string name;
     std::function<int(Grade)> bitrate;
-    std::string level = {};
+    std::string levels = {};
 };
 
 std::string Row(const Texts& cells) { return "| " + Joined(cells, " | ") + " |\n"; }
@@ -66,8 +71,19 @@ void AppendOnce(std::vector<BitrateRow>& rows, BitrateRow row)
 
 std::string LevelText(const Codec& codec, const VXLevelStream& stream)
 {
-    const int level = SmallestLevel(stream);
-    return level == IVXCodecs::VXLevelUnknown ? "none" : codec.model->LevelName(level);
+    for (const int level : codec.model->SupportedLevels({}))
+        if (LevelHolds(level, stream))
+            return codec.model->LevelName(level);
+    return "none";
+}
+
+std::string LevelTexts(const Codec& codec, VXLevelStream stream, const std::function<int(Grade)>& bitrate)
+{
+    stream.bitrate = bitrate(kGrades.front());
+    const auto lowest = LevelText(codec, stream);
+    stream.bitrate = bitrate(kGrades.back());
+    const auto highest = LevelText(codec, stream);
+    return lowest == highest ? lowest : lowest + " to " + highest;
 }
 
 BitrateRow PictureRow(const Codec& codec, const Picture& wanted)
@@ -76,10 +92,11 @@ BitrateRow PictureRow(const Codec& codec, const Picture& wanted)
     const auto [width, height] = model.BestResolutionFor(wanted.width, wanted.height, {});
     const auto rate = model.BestFrameRateForInput(IVXRational::MallocRational(wanted.frameRate, 1), {});
     const int format = model.SupportedFormats({}).front();
-    return {SizeText(width, height) + ", " + FrameRateText(*rate),
-            [&model, width = width, height = height, rate, format](Grade grade)
-            { return model.BestBitrateFor(width, height, rate, format, grade, {}); },
-            LevelText(codec, {.codecID = codec.id, .width = width, .height = height, .frameRate = rate})};
+    const auto bitrate = [&model, width = width, height = height, rate, format](Grade grade)
+    { return model.BestBitrateFor(width, height, rate, format, grade, {}); };
+    const VXLevelStream stream{.codecID = codec.id, .width = width, .height = height, .frameRate = rate};
+    return {SizeText(width, height) + ", " + FrameRateText(*rate), bitrate,
+            LevelTexts(codec, stream, bitrate)};
 }
 
 BitrateRow SoundRow(const IVXCodecs& model, std::uint64_t layout)
@@ -117,7 +134,7 @@ std::string BitrateTable(const Codec& codec)
         auto cells = TextsOf(kGrades, [&row](Grade grade) { return BitrateText(row.bitrate(grade)); });
         cells.insert(cells.begin(), row.name);
         if (hasLevels)
-            cells.push_back(row.level);
+            cells.push_back(row.levels);
         text += Row(cells);
     }
     return text;

@@ -93,7 +93,7 @@ public:
                                                     const std::string& option) const = 0;
 
     /// The (lowest, highest) bitrate that suits the picture. An audio codec, although asked with a picture,
-    /// answers with its own range.
+    /// answers with its own range: that of the sound which it offers first, as a rule stereo at 48 kHz.
     virtual std::pair<int, int> BitrateRangeFor(int width, int height,
                                                 const std::shared_ptr<const IVXRational>& frameRate,
                                                 int format, const std::string& option) const = 0;

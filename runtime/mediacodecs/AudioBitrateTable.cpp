@@ -31,17 +31,14 @@ constexpr std::array kAudio{
     AudioBitrateRow{.codecID = VXCodecID_MP2, .perChannel = {64, 96, 128, 192}},
     // Shaka 92, 192, 384 and HandBrake 96, 224, 640 in mono, stereo and 5.1; 640 is the most.
     AudioBitrateRow{.codecID = VXCodecID_AC3, .perChannel = {77, 96, 112, 128}},
-    // HandBrake takes no less than 44.8, 224 for five channels; Shaka 64 in mono, 160 in stereo (its 192
-    // in 5.1
-    // is less than that); Apple's HLS rules 384 in 5.1; Best is AC-3's 640. Frames have 128 bits a sample at
-    // most, which at 32 kHz is 4096.
+    // HandBrake takes no less than 44.8, 224 for five channels; Shaka has 64 in mono, 160 in stereo, and in
+    // 5.1 less than that, 192; Best is AC-3's 640. Frames have 128 bits a sample at most: 4096 at 32 kHz.
     AudioBitrateRow{
         .codecID = VXCodecID_EAC3, .perChannel = {54, 72, 96, 128}, .minPerChannel = 44.8, .maxTotal = 4096},
     // A DVD's two, 768 and 1536 in 5.1 (ETSI TS 102 114, annex on DVD), and two steps between.
     AudioBitrateRow{.codecID = VXCodecID_DTS, .perChannel = {153.6, 204.8, 256, 307.2}},
     // HandBrake 96 in stereo; Xiph 48 to 64 for music in mono, 128 to 256 for 5.1. libopus takes 6 to 256 a
-    // channel; a stream of one channel or two can have 510, RFC 6716 2.1.1, and sound of more has more
-    // streams.
+    // channel; a stream of one or two can have 510, RFC 6716 2.1.1, and sound of more has more streams.
     AudioBitrateRow{
         .codecID = VXCodecID_Opus, .perChannel = {32, 48, 64, 96}, .minPerChannel = 6, .maxPerChannel = 255},
     // HandBrake 80, which is quality 5 of libvorbis at 44.1 kHz; qualities 2, 7 and 9 beside it.
@@ -76,12 +73,13 @@ constexpr std::array kAudio{
     AudioBitrateRow{.codecID = VXCodecID_ADPCMMS, .kind = Blocks, .blockHeader = 7, .headerSamples = 2},
 };
 
-// What libvorbis takes, as HandBrake has it; it refuses less and more.
+// What libvorbis takes, as HandBrake has it, but for the least from 32 kHz on: channels that are not coupled
+// want 32. It refuses less and more.
 constexpr std::array kChannelBounds{
     ChannelBounds{VXCodecID_Vorbis, 0, 14, 32},
     ChannelBounds{VXCodecID_Vorbis, 16000, 22, 86},
-    ChannelBounds{VXCodecID_Vorbis, 32000, 28, 190},
-    ChannelBounds{VXCodecID_Vorbis, 44100, 28, 240},
+    ChannelBounds{VXCodecID_Vorbis, 32000, 32, 190},
+    ChannelBounds{VXCodecID_Vorbis, 44100, 32, 240},
 };
 
 constexpr std::array kSpeech{

@@ -51,8 +51,9 @@ IVXCodecs::QualityLevel VideoGrade(const CodecCapabilities& codec, const Picture
 IVXCodecs::QualityLevel AudioGrade(const CodecCapabilities& codec, const SoundStream& stream, int bitrate);
 /// The bitrates from the lowest grade to the highest.
 std::pair<int, int> VideoBitrateRange(const CodecCapabilities& codec, const PictureStream& stream);
-/// The codec's own range: its grades at the rate and layout offered first; of a codec without grades from the
-/// smallest sound that it takes to the largest.
+/// The codec's own range, whatever the sound at hand, which those who ask for it do not know: its grades at
+/// the rate and layout offered first; of a codec without grades from the smallest sound that it takes to the
+/// largest.
 std::pair<int, int> AudioBitrateRange(const CodecCapabilities& codec);
 
 } // namespace Vexlor

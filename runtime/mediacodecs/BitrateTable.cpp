@@ -272,8 +272,8 @@ constexpr ListedBitrate DV(int codecID, int format, PictureSize size, double rat
 
 constexpr std::array kListed{
     // SMPTE ST 2019-1, the compression identifiers of 720p and 1080p, in Mb/s; libavcodec's encoder opens
-    // with
-    // no others. Two for each frame rate with 8 bits, one with 10, for which libavcodec leaves out what 29.97
+    // with no others. Two for each frame rate with 8 bits, one with 10, for which libavcodec leaves out
+    // what 29.97
     // fps have (110, 220) and takes the rate of 25 in their place. The third of 1080p, 36 to 90, is left out:
     // it is less than the lower one of 720p, and DNxHR LB does the same.
     DNxHD(k422, k720p, k24, 60, 90),

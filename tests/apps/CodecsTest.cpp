@@ -184,6 +184,13 @@ TEST(CodecsMarkdown, TellsTheBitrateOfEveryGradeAndTheLevel)
     EXPECT_NE(std::string::npos, section.find(row + " 4.2 |\n")) << row << section;
 }
 
+TEST(CodecsMarkdown, LevelsFollowTheBitratesBesideThem)
+{
+    const auto section = Section(RunTool({"codecs", "--markdown"}).out, "### AV1");
+    const auto row = section.substr(section.find("| 3840 x 2160, 60 fps |"));
+    EXPECT_EQ("| 5.1 to 5.2 |", row.substr(row.find("| 5.1"), 14)) << row;
+}
+
 TEST(CodecsMarkdown, HasNoLevelsWhereTheCodecHasNone)
 {
     const auto section = Section(RunTool({"codecs", "--markdown"}).out, "### VP8");
