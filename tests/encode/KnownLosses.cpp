@@ -21,6 +21,7 @@ struct LossRow
     std::span<const int> codecs;
     std::string_view property;
     std::string_view reason;
+    std::string_view text = {}; ///< stands in what the difference tells; empty: anything
 };
 
 template <int... kIDs>
@@ -38,6 +39,10 @@ constexpr std::array kLosses{
     LossRow{"CAF AIFF", kPCM, "layout", "libavformat writes no layout of its own where a tag is near enough"},
     LossRow{"", kCodecs<VXCodecID_H264, VXCodecID_HEVC>, "narrower profile",
             "x264 and x265 name the narrowest profile that holds the stream"},
+    LossRow{"", kCodecs<VXCodecID_H264>, "pixel format",
+            "libavcodec decodes gray H.264 as 4:2:0 without color", "Gray became YUV 4:2:0"},
+    LossRow{"", kCodecs<VXCodecID_ProRes>, "pixel format", "ProRes does not tell ten bits from twelve",
+            "4:4:4 10-bit"},
     LossRow{"", kCodecs<VXCodecID_GIF>, "pixel format",
             "a palette is decoded to the colors that it stands for"},
     LossRow{"MKV MKA MXF", kPCMOfMatroska, "layout",
@@ -78,6 +83,7 @@ std::string ReasonOf(const Difference& difference, const std::string& container,
 {
     for (const auto& row : kLosses)
         if (row.property == difference.property && Names(row.containers, container) &&
+            difference.text.find(row.text) != std::string::npos &&
             std::ranges::find(row.codecs, codecID) != row.codecs.end())
             return std::string(row.reason);
     return {};
