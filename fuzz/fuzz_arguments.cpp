@@ -22,6 +22,8 @@ namespace Vexlor::Tool
 // What reaches beyond the document, to media files and artwork files, is left out.
 std::string MatchCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string MatchAllCommand(const Request&, const Catalogue&, const Style&) { return {}; }
+std::string SizeCommand(const Request&, const Catalogue&, const Style&) { return {}; }
+std::string ConvertCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string FormatsCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string CodecsCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string CheckCommand(const Request&, const Catalogue&, const Style&) { return {}; }

@@ -17,5 +17,9 @@ void AddConvertCommands(CLI::App& app, Request& request);
 std::string MatchCommand(const Request& request, const Catalogue& catalogue, const Style& style);
 /// What a media file becomes in every preset, the best fit first.
 std::string MatchAllCommand(const Request& request, const Catalogue& catalogue, const Style& style);
+/// How large a media file becomes in a format preset.
+std::string SizeCommand(const Request& request, const Catalogue& catalogue, const Style& style);
+/// Makes of a media file what a format preset says.
+std::string ConvertCommand(const Request& request, const Catalogue& catalogue, const Style& style);
 
 } // namespace Vexlor::Tool

@@ -1,5 +1,6 @@
 #include "ConvertCommands.h"
 
+#include "FfmpegText.h"
 #include "MatchText.h"
 #include "apps/host/MediaMatch.h"
 #include "apps/host/Text.h"
@@ -23,11 +24,18 @@ std::string TitleOf(const std::string& name, const IVXFormatParameter& file)
 std::string MatchCommand(const Request& request, const Catalogue& catalogue, const Style& style)
 {
     const auto& entry = FindPreset(catalogue, request.preset);
-    const auto match = MatchMedia(ReadSource(request.convert.media), *entry.preset);
+    const auto& convert = request.convert;
+    const auto match = MatchMedia(ReadSource(convert.media), *entry.preset);
+    if (convert.ffmpegOutput)
+    {
+        const auto command =
+            FfmpegCommandFor(match, convert.media, *convert.ffmpegOutput, FittingOf(convert));
+        return request.asJson ? CommandJson(command) : CommandText(command);
+    }
     if (request.asJson)
         return MatchJson(match);
     const auto title =
-        TitleOf(request.convert.media, *match.media.parameter) + " -> " + TitleOf(entry.path, *match.output);
+        TitleOf(convert.media, *match.media.parameter) + " -> " + TitleOf(entry.path, *match.output);
     return MatchText(match, title, style);
 }
 

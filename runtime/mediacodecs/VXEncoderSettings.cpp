@@ -18,6 +18,7 @@ extern "C"
 #include <array>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string_view>
 
 namespace Vexlor
@@ -27,9 +28,9 @@ namespace
 {
 
 // What the program learns from the frames and the muxer.
-constexpr std::array<std::string_view, 12> kToldByFrames{
-    "ac",           "ar",         "ch_layout",   "channel_layout", "channels",   "flags",
-    "pixel_format", "sample_fmt", "sample_rate", "time_base",      "video_size", "aspect"};
+constexpr std::array<std::string_view, 13> kToldByFrames{
+    "ac",           "ar",         "aspect",      "ch_layout", "channel_layout", "channels",  "flags",
+    "pixel_format", "sample_fmt", "sample_rate", "sar",       "time_base",      "video_size"};
 
 struct FreeText
 {
@@ -45,19 +46,26 @@ std::optional<std::string> ValueOf(AVCodecContext& context, const char* option)
     return reinterpret_cast<const char*>(text);
 }
 
-/// Options of a context that are not as the encoder itself has them.
+bool IsToldByFrames(const AVCodecContext& context, std::string_view option)
+{
+    if (option == "bits_per_raw_sample") // samples are as wide as their format unless they are told narrower
+        return context.bits_per_raw_sample == 8 * av_get_bytes_per_sample(context.sample_fmt);
+    return std::ranges::find(kToldByFrames, option) != kToldByFrames.end();
+}
+
+/// Options of a context that are not as the encoder itself has them, each by the first of its names.
 std::vector<std::pair<std::string, std::string>> ChangedOptions(AVCodecContext& context)
 {
     const EncoderContext fresh(avcodec_alloc_context3(context.codec));
     std::vector<std::pair<std::string, std::string>> changed;
+    std::set<int> told;
     const AVOption* option = nullptr;
     while (fresh && (option = av_opt_next(&context, option)))
     {
-        if (option->type == AV_OPT_TYPE_CONST ||
-            std::ranges::find(kToldByFrames, option->name) != kToldByFrames.end())
+        if (option->type == AV_OPT_TYPE_CONST || IsToldByFrames(context, option->name))
             continue;
         const auto value = ValueOf(context, option->name);
-        if (value && value != ValueOf(*fresh, option->name))
+        if (value && value != ValueOf(*fresh, option->name) && told.insert(option->offset).second)
             changed.emplace_back(option->name, *value);
     }
     return changed;

@@ -27,6 +27,17 @@ void TurnFirstTrack(std::string& bytes)
             bytes[at++] = static_cast<char>(value >> shift & 0xFF);
 }
 
+constexpr std::string_view kQuarters = "-f lavfi -i color=red:size=160x120:rate=10:duration=0.4,"
+                                       "drawbox=x=80:w=80:h=60:color=lime:t=fill,"
+                                       "drawbox=y=60:w=80:h=60:color=blue:t=fill,"
+                                       "drawbox=x=80:y=60:w=80:h=60:color=white:t=fill"
+                                       " -c:v libx264 -preset ultrafast -pix_fmt yuv420p";
+constexpr std::string_view kWideQuarters = "-f lavfi -i color=red:size=160x120:rate=10:duration=0.4,"
+                                           "drawbox=x=80:w=80:h=60:color=lime:t=fill,"
+                                           "drawbox=y=60:w=80:h=60:color=blue:t=fill,"
+                                           "drawbox=x=80:y=60:w=80:h=60:color=white:t=fill,setsar=2"
+                                           " -c:v libx264 -preset ultrafast -pix_fmt yuv420p";
+
 constexpr std::array kRecipes{
     ClipRecipe{"film.mp4", "size=1920x1080:rate=30:duration=1", "sample_rate=48000:duration=1",
                "-c:v libx264 -preset superfast -profile:v main -c:a aac -b:a 96k -ac 2"},
@@ -61,6 +72,9 @@ constexpr std::array kRecipes{
     ClipRecipe{"subtitles.mkv", "", "",
                "-f srt -i data:text/plain;base64,MQowMDowMDowMCwwMDAgLS0+IDAwOjAwOjAxLDAwMApIZWxsbwoK"},
     ClipRecipe{"picture.png", "size=64x64:rate=1:duration=1", "", "-frames:v 1"},
+    ClipRecipe{"quarters.mp4", "", "", kQuarters},
+    ClipRecipe{"quarters-turned.mp4", "", "", kQuarters, TurnFirstTrack},
+    ClipRecipe{"quarters-wide.mp4", "", "", kWideQuarters},
     ClipRecipe{"streamed.mp4", "size=320x180:rate=25:duration=1", "",
                "-c:v libx264 -preset ultrafast -movflags +faststart"},
 };

@@ -30,6 +30,9 @@ namespace Vexlor::Media
 /// | count.au       | 16-bit PCM of six channels; the container tells their number only              |
 /// | subtitles.mkv  | subtitles, nothing else                                                        |
 /// | picture.png    | one picture                                                                    |
+/// | quarters.mp4   | H.264 160x120 at 10 fps: red and green above blue and white                       |
+/// | quarters-turned.mp4 | as quarters.mp4, with a display matrix of a quarter turn                  |
+/// | quarters-wide.mp4   | as quarters.mp4, sample aspect 2:1                                        |
 /// | streamed.mp4   | as silent.mp4, but the description comes before the pictures                   |
 std::string Clip(std::string_view name);
 
