@@ -5,6 +5,7 @@
 #include "apps/vxpresets/EditCommands.h"
 #include "apps/vxpresets/CommandLine.h"
 #include "apps/vxpresets/ConvertCommands.h"
+#include "apps/vxpresets/ImportCommand.h"
 #include "apps/host/Failure.h"
 
 #include <algorithm>
@@ -33,6 +34,7 @@ std::string EditMoveCommand(const Request&, const Catalogue&, const Style&) { re
 std::string EditRemoveCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string EditRenameCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string EditSetCommand(const Request&, const Catalogue&, const Style&) { return {}; }
+std::string ImportCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string ArtworkListCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string ArtworkCheckCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string ArtworkExtractCommand(const Request&, const Catalogue&, const Style&) { return {}; }

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Writes the named seeds of the fuzzers into corpus/: small artwork blobs and files, preset documents, and command
-lines with documents, well formed and damaged. Seeds without a name are what a run of the fuzzers found worth keeping.
+"""Writes the named seeds of the fuzzers into corpus/: small artwork blobs and files, preset documents, command
+lines with documents, and presets of other programs, well formed and damaged. Seeds without a name are what a run of the fuzzers found worth keeping.
 
 The files' groups lie right behind their tables, within the head, so that the seeds stay small."""
 import json
@@ -109,8 +109,25 @@ COMMAND_LINES = {
     "broken_document": command_line("tree", text=b'{"childList":['),
     "same_path_twice": command_line("show", "a", text=document(container(name="a"), container(name="a"))),
 }
+
+SAMPLES = pathlib.Path(__file__).parent.parent / "tests" / "data" / "import"
+TARGET = b"[GStreamer Encoding Target]\nname=x\n[profile-a]\nname=a\n"
+STREAM = b"[streamprofile-b]\nparent=a\ntype=video\n"
+IMPORTS = {
+    "handbrake": (SAMPLES / "handbrake.json").read_bytes(),
+    "camera": (SAMPLES / "camera.gep").read_bytes(),
+    "list_of_presets": b'[{"PresetName":"A","FileFormat":"mkv","VideoEncoder":"x264","AudioList":[{"AudioEncoder":"copy"}]}]',
+    "folders": b'{"PresetList":[' + b'{"Folder":true,"ChildrenArray":[' * 20 + b'{"FileFormat":"mp4"}' + b"]}" * 20 + b"]}",
+    "numbers": b'[{"FileFormat":"mp4","VideoEncoder":"VP9","VideoQualitySlider":1e300,"VideoFramerate":-1,'
+               b'"PictureWidth":99999999999,"PictureHeight":1e-9,"AudioList":[{"AudioEncoder":"mp3","AudioBitrate":1e9}]}]',
+    "empty_range": TARGET + b"format=video/x-matroska\n" + STREAM +
+                   b"format=video/x-h264\nrestriction=video/x-raw,width=[9,2],height=[2,9,1]\n",
+    "quoted_caps": TARGET + b'format=video/quicktime, variant="iso"\n' + STREAM + b'format=video/x-h264,profile=(string){"hi\\"gh",main}\n',
+    "broken_caps": TARGET + b"format=video/webm, =,{[\n",
+    "no_target": b"[Other]\nkey\\s=\\n\n",
+}
 for target, seeds in (("artwork_group", GROUPS), ("artwork_file", FILES), ("document", DOCUMENTS),
-                      ("arguments", COMMAND_LINES)):
+                      ("arguments", COMMAND_LINES), ("import", IMPORTS)):
     (CORPUS / target).mkdir(parents=True, exist_ok=True)
     for name, data in seeds.items():
         (CORPUS / target / name).write_bytes(data)

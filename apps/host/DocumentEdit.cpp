@@ -58,13 +58,14 @@ std::string EmptyCategory(const std::string& name, int faceID)
     return JsonText(*node->JsonValue(), JsonStyle::Indented);
 }
 
-DocumentEdit::DocumentEdit(std::string text) { Load(std::move(text)); }
+DocumentEdit::DocumentEdit(std::string text) : m_text(std::make_unique<std::string>(std::move(text))) {}
 
-void DocumentEdit::Load(std::string text)
+// The last change of a long document is not read again.
+void DocumentEdit::Read()
 {
-    auto kept = std::make_unique<std::string>(std::move(text));
-    m_tree = std::make_unique<DocumentTree>(*kept);
-    m_text = std::move(kept);
+    if (m_names)
+        return;
+    m_tree = std::make_unique<DocumentTree>(*m_text);
     m_names = std::make_unique<DocumentNames>(*m_tree);
 }
 
@@ -72,13 +73,18 @@ void DocumentEdit::Make(const Change& change)
 {
     DocumentChanges changes(*m_tree);
     change(changes);
-    if (!changes.IsEmpty())
-        Load(changes.Text());
+    if (changes.IsEmpty())
+        return;
+    auto text = std::make_unique<std::string>(changes.Text());
+    m_names.reset();
+    m_tree.reset();
+    m_text = std::move(text);
 }
 
 EditOutcome DocumentEdit::AddCategory(const std::string& path, const PresetSettings& settings,
                                       const EditPlace& place, bool mayMakeParents)
 {
+    Read();
     EditOutcome outcome{"added", path};
     const auto text = EmptyCategory(NamesOfPath(path).back(), 0);
     AddElement(path, kCategoryList, WithCategorySettings(text, settings, outcome.settings), place,
@@ -90,6 +96,7 @@ EditOutcome DocumentEdit::AddPreset(const std::string& path, const std::string& 
                                     const PresetSettings& settings, const EditPlace& place,
                                     bool mayMakeParents)
 {
+    Read();
     EditOutcome outcome{"added", path};
     const auto text = WithName(preset, NamesOfPath(path).back());
     AddElement(path, kPresetList, WithSettings(text, settings, outcome.settings), place, mayMakeParents);
@@ -127,6 +134,7 @@ void DocumentEdit::AddElement(const std::string& path, const char* list, const s
 
 std::vector<EditOutcome> DocumentEdit::AddAll(const IVXFormatNode& node)
 {
+    Read();
     std::vector<EditOutcome> outcomes;
     Make([&](DocumentChanges& changes) { Absorb(changes, 0, node, outcomes); });
     return outcomes;
@@ -159,6 +167,7 @@ void DocumentEdit::Absorb(DocumentChanges& changes, DocumentPosition category, c
 
 EditOutcome DocumentEdit::Remove(const std::string& path, bool mayHoldMore)
 {
+    Read();
     const auto value = m_names->Find(path, DocumentThing::Either);
     if (value == 0)
         throw Failure("the root cannot be removed");
@@ -178,6 +187,7 @@ EditOutcome DocumentEdit::Remove(const std::string& path, bool mayHoldMore)
 EditOutcome DocumentEdit::Move(const std::string& path, const std::optional<std::string>& category,
                                const EditPlace& place)
 {
+    Read();
     const auto value = m_names->Find(path, DocumentThing::Either);
     if (value == 0)
         throw Failure("the root cannot be moved");
@@ -206,6 +216,7 @@ EditOutcome DocumentEdit::Move(const std::string& path, const std::optional<std:
 
 EditOutcome DocumentEdit::Rename(const std::string& path, const std::string& name)
 {
+    Read();
     RequireName(name);
     const auto value = m_names->Find(path, DocumentThing::Either);
     EditOutcome outcome{"renamed", name, m_names->PathOf(value)};
@@ -223,6 +234,7 @@ EditOutcome DocumentEdit::Rename(const std::string& path, const std::string& nam
 EditOutcome DocumentEdit::Clone(const std::string& path, const std::optional<std::string>& category,
                                 const std::optional<std::string>& name, const PresetSettings& settings)
 {
+    Read();
     const auto value = m_names->Find(path, DocumentThing::Either);
     if (value == 0)
         throw Failure("the root cannot be cloned");
@@ -246,6 +258,7 @@ EditOutcome DocumentEdit::Clone(const std::string& path, const std::optional<std
 
 EditOutcome DocumentEdit::Set(const std::string& path, const PresetSettings& settings)
 {
+    Read();
     const auto value = m_names->Find(path, DocumentThing::Either);
     EditOutcome outcome{"set", m_names->PathOf(value)};
     if (!m_names->IsPreset(value))
@@ -257,6 +270,7 @@ EditOutcome DocumentEdit::Set(const std::string& path, const PresetSettings& set
                      {
                          const auto name = tree.NameOf(member);
                          const std::string text(tree.Source(member));
+                         Read();
                          Make([&](DocumentChanges& changes) { changes.SetMember(value, name, text); });
                      });
         return outcome;
@@ -359,6 +373,7 @@ DocumentPosition DocumentEdit::OwnCategory()
                 InsertInto(changes, 0, kCategoryList,
                            {EmptyCategory(kOwnCategory, IVXArtworkImageMgr::CategoryFaceIDCustomize)}, {});
             });
+    Read();
     return *find();
 }
 

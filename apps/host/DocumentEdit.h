@@ -80,7 +80,7 @@ private:
 
     using Change = std::function<void(DocumentChanges& changes)>;
 
-    void Load(std::string text);
+    void Read();
     void Make(const Change& change);
     void AddElement(const std::string& path, const char* list, const std::string& element,
                     const EditPlace& place, bool mayMakeParents);
@@ -97,9 +97,9 @@ private:
     DocumentPosition OwnCategory();
     std::string NameOf(DocumentPosition value) const;
 
-    std::unique_ptr<std::string> m_text; // at one place, for the tree looks at it
-    std::unique_ptr<DocumentTree> m_tree;
-    std::unique_ptr<DocumentNames> m_names;
+    std::unique_ptr<std::string> m_text;    // at one place, for the tree looks at it
+    std::unique_ptr<DocumentTree> m_tree;   // empty until it is needed, and after a change
+    std::unique_ptr<DocumentNames> m_names; // the same
 };
 
 /// The text of a category without anything in it.

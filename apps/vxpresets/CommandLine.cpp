@@ -5,6 +5,7 @@
 #include "CommandOutline.h"
 #include "ConvertCommands.h"
 #include "EditCommands.h"
+#include "ImportCommand.h"
 #include "apps/host/Failure.h"
 #include "apps/host/Text.h"
 
@@ -82,6 +83,7 @@ void AddCommands(CLI::App& app, Request& request)
         ->excludes("--json");
     AddCheck(app, request);
     AddEditCommands(app, request);
+    AddImportCommand(app, request);
     AddArtworkCommands(app, request);
 }
 

@@ -3,6 +3,7 @@
 #include "ArtworkRequest.h"
 #include "ConvertRequest.h"
 #include "EditRequest.h"
+#include "ImportRequest.h"
 #include "Style.h"
 #include "apps/host/Catalogue.h"
 
@@ -30,6 +31,7 @@ struct Request
     std::optional<std::string> codec;
     ArtworkRequest artwork = {};
     EditRequest edit = {};
+    ImportRequest import = {};
     bool needsCatalogue = true; ///< the command gets an empty one otherwise
 };
 
