@@ -157,6 +157,22 @@ TEST_F(EncoderSetupTest, EncoderThatRefusesAConstantBitrateGetsAVariableOne)
     EncodePictures(*setup.context, 1);
 }
 
+// The lowest level for the picture would hold 20 Mb/s.
+TEST_F(EncoderSetupTest, BitrateIsWithinTheLevelThatIsChosen)
+{
+    const auto film = Picture(VXCodecID_H264);
+    film->SetWidth(1280);
+    film->SetHeight(720);
+    film->SetFramePerSecond(IVXRational::MallocRational(50, 1));
+    film->SetProfile(100);
+    film->SetLevel(41);
+    film->SetBitrate(22'000'000);
+    const auto setup = OpenEncoder(*film, {});
+    EXPECT_THAT(setup.changes, IsEmpty());
+    ASSERT_TRUE(setup.context) << setup.complaint;
+    EXPECT_EQ(22'000'000, setup.context->bit_rate);
+}
+
 TEST_F(EncoderSetupTest, PixelFormatThatTheEncoderLacksGivesWay)
 {
     picture->SetFormat(kPixFormatYUV444P);
