@@ -48,6 +48,15 @@ std::string JoinedPath(const std::string& category, const std::string& name)
     return category == "/" ? PathEscaped(name) : category + '/' + PathEscaped(name);
 }
 
+// As deep as what is added is nested, which its reader bounds.
+void CollectPresets(const IVXFormatNode& node, const std::string& path, std::vector<EditOutcome>& outcomes)
+{
+    for (int i = 0; i < node.FormatPresetCount(); ++i)
+        outcomes.push_back({"added", JoinedPath(path, node.GetFormatPreset(i)->Name())});
+    for (const auto& child : node.GetChildList())
+        CollectPresets(*child, JoinedPath(path, child->Name()), outcomes);
+}
+
 } // namespace
 
 std::string EmptyCategory(const std::string& name, int faceID)
@@ -159,7 +168,7 @@ void DocumentEdit::Absorb(DocumentChanges& changes, DocumentPosition category, c
         else
         {
             categories.push_back(JsonText(*child->JsonValue(), JsonStyle::Indented));
-            outcomes.push_back({"added", JoinedPath(m_names->PathOf(category), child->Name())});
+            CollectPresets(*child, JoinedPath(m_names->PathOf(category), child->Name()), outcomes);
         }
     InsertInto(changes, category, kPresetList, presets, {});
     InsertInto(changes, category, kCategoryList, categories, {});
