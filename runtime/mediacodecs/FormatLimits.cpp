@@ -1,7 +1,7 @@
 #include "FormatLimits.h"
 
 #include "BitrateModel.h"
-#include "BitrateTable.h"
+#include "BitrateSnapping.h"
 #include "FormatTable.h"
 #include "IVXCodecParameter.h"
 #include "IVXCodecs.h"
@@ -22,17 +22,6 @@ namespace Vexlor
 
 namespace
 {
-
-SoundStream SoundOf(const IVXCodecParameter& stream)
-{
-    return {stream.GetSampleRate(), stream.GetChannelLayout(), stream.GetFormat()};
-}
-
-PictureStream PictureOf(const IVXCodecParameter& stream)
-{
-    return {stream.GetWidth(), stream.GetHeight(), stream.GetFrameRate()->GetDoubleValue(),
-            stream.GetFormat()};
-}
 
 /// The label itself where it is taken or none is chosen, else the first one that is taken.
 int FitLabel(int label, int unknown, std::span<const int> taken)
@@ -122,8 +111,8 @@ std::vector<int> GradesOf(const IVXCodecParameter& stream)
     {
         const auto level = static_cast<IVXCodecs::QualityLevel>(grade);
         grades.push_back(codec->codec->type == VXCodecTypeVideo
-                             ? VideoBitrate(*codec, PictureOf(stream), level)
-                             : AudioBitrate(*codec, SoundOf(stream), level));
+                             ? VideoBitrate(*codec, PictureOf(stream, stream.GetFormat()), level)
+                             : AudioBitrate(*codec, SoundOf(stream, stream.GetFormat()), level));
     }
     return grades;
 }
@@ -151,8 +140,11 @@ int FollowedBitrate(const IVXCodecParameter& stream, int bitrate, const std::vec
     const auto grade = std::ranges::find(before, bitrate);
     if (grade != before.end())
         return after.at(static_cast<std::size_t>(grade - before.begin()));
-    const auto legal = LegalBitrates(stream.GetCodecID(), stream.GetSampleRate(), stream.GetChannelLayout());
-    return legal.empty() ? bitrate : NearestByRatio(bitrate, legal);
+    const auto& codec = *CapabilitiesOf(stream.GetCodecID());
+    const int format = stream.GetFormat();
+    return codec.codec->type == VXCodecTypeVideo
+               ? NearestBitrate(codec, PictureOf(stream, format), stream.GetProfile(), bitrate)
+               : NearestBitrate(codec, SoundOf(stream, format), bitrate);
 }
 
 void FitBitrate(IVXCodecParameter& stream, const StreamLimit& limit, const std::vector<int>& before)
