@@ -6,6 +6,8 @@
 #include "LevelTable.h"
 #include "VXLevels.h"
 
+#include <optional>
+
 namespace Vexlor
 {
 
@@ -26,20 +28,21 @@ VXLevelStream LevelStreamOf(int codecID, const PictureStream& stream)
     return seen;
 }
 
-double MostOfLevels(int codecID, const PictureStream& stream)
+std::optional<LevelLimits> LowestLevel(int codecID, const PictureStream& stream)
 {
-    const int lowest = SmallestLevel(LevelStreamOf(codecID, stream));
-    const auto own = LimitsOf(codecID, IVXCodecs::VXProfileUnknown, lowest);
+    return LimitsOf(codecID, IVXCodecs::VXProfileUnknown, SmallestLevel(LevelStreamOf(codecID, stream)));
+}
+
+/// The most of the levels that hold the same pictures as one, or of all levels.
+double MostBitrate(const VideoBitrateRow& row, const std::optional<LevelLimits>& own = {})
+{
+    if (row.maxBitrate > 0)
+        return double(row.maxBitrate);
     std::int64_t most = 0;
-    for (const auto& level : LevelsOf(codecID))
+    for (const auto& level : LevelsOf(row.codecID))
         if (!own || (level.limits.picture == own->picture && level.limits.rate == own->rate))
             most = std::max(most, level.limits.bitrate);
     return most > 0 ? double(most) : std::numeric_limits<int>::max();
-}
-
-double MostBitrate(const VideoBitrateRow& row, const PictureStream& stream)
-{
-    return row.maxBitrate > 0 ? double(row.maxBitrate) : MostOfLevels(row.codecID, stream);
 }
 
 double Nearest(double bitrate, std::span<const int> legal)
@@ -63,7 +66,7 @@ bool TakesAny(const VideoBitrateRow& row)
 
 double WithinBounds(const VideoBitrateRow& row, const PictureStream& stream, double bitrate)
 {
-    return std::clamp(bitrate, kLeastBitrate, MostBitrate(row, stream));
+    return std::clamp(bitrate, kLeastBitrate, MostBitrate(row, LowestLevel(row.codecID, stream)));
 }
 
 double WithinBounds(const AudioBitrateRow& row, const SoundStream& stream, double bitrate)
@@ -85,7 +88,7 @@ int NearestBitrate(const CodecCapabilities& codec, const PictureStream& stream, 
     if (!row || (wanted == 0 && TakesAny(*row)))
         return wanted;
     if (TakesAny(*row))
-        return ToBitrate(WithinBounds(*row, Usual(stream), wanted));
+        return ToBitrate(std::clamp(double(wanted), kLeastBitrate, MostBitrate(*row)));
     if (const int own = ProfileBitrate(row->codecID, profile, stream); own > 0)
         return own;
     return NearestOfGrades(wanted,

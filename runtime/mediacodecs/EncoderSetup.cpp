@@ -69,7 +69,6 @@ private:
     int m_profile = IVXCodecs::VXProfileUnknown;
     int m_avProfile = VX_AV_PROFILE(UNKNOWN);
     std::int64_t m_levelBuffer = 0;
-    bool m_hasLevel = false; // one that holds the stream, its bitrate included
     EncoderSetup m_setup;
 };
 
@@ -150,11 +149,8 @@ void Opening::SetSound(const IVXCodecParameter& stream)
 void Opening::SetBitrate(const IVXCodecParameter& stream)
 {
     const int wanted = stream.GetBitrate();
-    int taken = wanted;
-    if (!IsVideo())
-        taken = NearestBitrate(m_codec, SoundOf(stream, m_format), wanted);
-    else if (!m_hasLevel)
-        taken = NearestBitrate(m_codec, PictureOf(stream, m_format), m_profile, wanted);
+    int taken = IsVideo() ? NearestBitrate(m_codec, PictureOf(stream, m_format), m_profile, wanted)
+                          : NearestBitrate(m_codec, SoundOf(stream, m_format), wanted);
     if (m_row.mostBitrate > 0)
         taken = std::min(taken, m_row.mostBitrate);
     if (taken != wanted && wanted != 0) // an untold one is nobody's
@@ -220,7 +216,6 @@ void Opening::SetLabels(const IVXCodecParameter& stream)
         m_avProfile = labels.profile->avNumber;
         SetLabel(context.profile, m_row.profileOption, *labels.profile);
     }
-    m_hasLevel = labels.level != nullptr;
     if (labels.level)
     {
         SetLabel(context.level, m_row.levelOption, *labels.level);

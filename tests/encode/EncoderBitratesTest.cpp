@@ -3,6 +3,7 @@
 #include "IVXCodecParameter.h"
 #include "IVXCodecs.h"
 #include "IVXRational.h"
+#include "VXMediaCodecs.h"
 #include "runtime/mediacodecs/BitrateSnapping.h"
 #include "runtime/mediacodecs/CodecCapabilities.h"
 #include "runtime/mediacodecs/EncoderSetup.h"
@@ -135,6 +136,28 @@ TEST_P(AnyBitrate, OfAGradeIsTakenAsItIs)
 }
 
 INSTANTIATE_TEST_SUITE_P(Codecs, AnyBitrate, testing::ValuesIn(AllCodecIDs()), CodecTestName);
+
+class BitrateOfSound : public AnyBitrate
+{
+};
+
+TEST_P(BitrateOfSound, OpensInEveryLayoutAtEverySampleRate)
+{
+    const auto& codec = *CapabilitiesOf(GetParam());
+    for (const int rate : codec.sampleRates)
+        for (const auto layout : codec.layouts)
+            for (const int wanted : {1, INT_MAX})
+            {
+                stream->SetSampleRate(rate);
+                stream->SetChannelLayout(layout);
+                stream->SetBitrate(wanted);
+                EXPECT_EQ("", OpenEncoder(*stream, {}).complaint)
+                    << rate << ' ' << VXChannelLayoutName(layout) << ' ' << wanted;
+            }
+}
+
+INSTANTIATE_TEST_SUITE_P(Codecs, BitrateOfSound, testing::ValuesIn(CodecIDs(VXCodecTypeAudio)),
+                         CodecTestName);
 
 /// A bitrate that is asked for, and the one that is taken.
 struct NearestCase

@@ -173,6 +173,13 @@ TEST_F(EncoderSetupTest, BitrateIsWithinTheLevelThatIsChosen)
     EXPECT_EQ(22'000'000, setup.context->bit_rate);
 }
 
+TEST_F(EncoderSetupTest, BitrateIsBoundedByTheHighestLevelWhereNoneIsChosen)
+{
+    const auto film = Picture(VXCodecID_H264); // level 3, whose most is 10 Mb/s
+    film->SetBitrate(60'000'000);
+    EXPECT_THAT(OpenEncoder(*film, {}).changes, IsEmpty());
+}
+
 TEST_F(EncoderSetupTest, PixelFormatThatTheEncoderLacksGivesWay)
 {
     picture->SetFormat(kPixFormatYUV444P);

@@ -167,7 +167,7 @@ TEST_P(VorbisOf, StaysWithinWhatItsEncoderTakes)
 
 constexpr VorbisCase kVorbisCases[] = {
     {"At8", 8000, 14, 32},    {"At11", 11025, 14, 32},  {"At16", 16000, 22, 86}, {"At24", 24000, 22, 86},
-    {"At32", 32000, 28, 190}, {"At44", 44100, 28, 240}, {"At48", 48000, 28, 240}};
+    {"At32", 32000, 32, 190}, {"At44", 44100, 32, 240}, {"At48", 48000, 32, 240}};
 INSTANTIATE_TEST_SUITE_P(AudioBitrate, VorbisOf, testing::ValuesIn(kVorbisCases),
                          [](const auto& test) { return test.param.name; });
 
