@@ -13,7 +13,6 @@ namespace
 
 using Grade = IVXCodecs::QualityLevel;
 
-constexpr double kFullChroma = 3.0; // samples a pixel
 
 double PixelsOf(const LadderPoint& point) { return double(point.width) * point.height; }
 

@@ -17,8 +17,8 @@ struct WalkedCodec
     int files = 0;
     int leftOut = 0; ///< further combinations, of pictures larger than 1080p
     double seconds = 0;
-    Findings failures; ///< did not open, gave way to nothing that was asked for, was not encoded, not
-                       ///< written, read back as something else, or is lost no more
+    Findings failures;   ///< did not open, gave way to nothing that was asked for, was not encoded, not
+                         ///< written, read back as something else, or is lost no more
     Findings notCarried; ///< read back as something else, for a reason that is known
     Findings gaveWay;    ///< asked for, but excluded by something else that was asked for
 };
