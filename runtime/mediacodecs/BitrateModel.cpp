@@ -13,7 +13,6 @@ namespace
 
 using Grade = IVXCodecs::QualityLevel;
 
-
 double PixelsOf(const LadderPoint& point) { return double(point.width) * point.height; }
 
 double PixelsOf(const PictureStream& stream) { return double(stream.width) * stream.height; }
