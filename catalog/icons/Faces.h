@@ -8,6 +8,14 @@
 namespace Vexlor::Catalog
 {
 
+// Families of devices, in the categories' range.
+inline constexpr int CategoryFaceIDPhone = 10000100;
+inline constexpr int CategoryFaceIDTablet = 10000101;
+inline constexpr int CategoryFaceIDTelevision = 10000102;
+inline constexpr int CategoryFaceIDConsole = 10000103;
+inline constexpr int CategoryFaceIDCamera = 10000104;
+inline constexpr int CategoryFaceIDDisc = 10000105;
+
 // Formats beyond those that IVXArtworkImageMgr names, in the same two ranges.
 inline constexpr int FormatFaceIDMOV = 20000004;
 inline constexpr int FormatFaceIDMPG = 20000005;
@@ -34,6 +42,12 @@ inline constexpr std::array kFaces{
     Face{IVXArtworkImageMgr::CategoryFaceIDAudio, "CategoryFaceIDAudio", "category-audio.svg"},
     Face{IVXArtworkImageMgr::CategoryFaceIDDevice, "CategoryFaceIDDevice", "category-device.svg"},
     Face{IVXArtworkImageMgr::CategoryFaceIDWebVideo, "CategoryFaceIDWebVideo", "category-web-video.svg"},
+    Face{CategoryFaceIDPhone, "CategoryFaceIDPhone", "category-phone.svg"},
+    Face{CategoryFaceIDTablet, "CategoryFaceIDTablet", "category-tablet.svg"},
+    Face{CategoryFaceIDTelevision, "CategoryFaceIDTelevision", "category-television.svg"},
+    Face{CategoryFaceIDConsole, "CategoryFaceIDConsole", "category-console.svg"},
+    Face{CategoryFaceIDCamera, "CategoryFaceIDCamera", "category-camera.svg"},
+    Face{CategoryFaceIDDisc, "CategoryFaceIDDisc", "category-disc.svg"},
     Face{IVXArtworkImageMgr::FormatFaceIDMP4, "FormatFaceIDMP4", "format-mp4.svg"},
     Face{IVXArtworkImageMgr::FormatFaceIDAVI, "FormatFaceIDAVI", "format-avi.svg"},
     Face{IVXArtworkImageMgr::FormatFaceIDWEBM, "FormatFaceIDWEBM", "format-webm.svg"},

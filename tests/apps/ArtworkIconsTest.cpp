@@ -147,7 +147,7 @@ TEST(ArtworkIcons, AreListedWithoutAFile)
 
 TEST(ArtworkIcons, AreFreeOfFaults)
 {
-    EXPECT_EQ("built-in artwork: 21 groups, nothing wrong\n", RunTool({"artwork", "check"}).out);
+    EXPECT_EQ("built-in artwork: 27 groups, nothing wrong\n", RunTool({"artwork", "check"}).out);
 }
 
 TEST(ArtworkIcons, ArePackedTheSameEveryTime)
