@@ -29,10 +29,8 @@ bool IsYUV(const std::string& format) { return format.starts_with("yuv") || form
 
 std::string Scale(const PictureFit& fit, const VXEncoderSettings& settings)
 {
-    const auto size = "scale=" + Size(fit.width, fit.height);
-    if (!IsYUV(settings.format))
-        return size;
-    return size + ":out_range=" + (settings.isFullRange ? "pc" : "tv");
+    const auto range = settings.isFullRange ? ":out_range=pc" : ":out_range=tv";
+    return "scale=" + Size(fit.width, fit.height) + (IsYUV(settings.format) ? range : "");
 }
 
 // The program's own conversion has no palette but that of a cube.

@@ -17,8 +17,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-extern char** environ; // NOLINT(readability-redundant-declaration): not every platform's headers have it
-
 namespace Vexlor::Tool
 {
 

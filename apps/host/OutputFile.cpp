@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 
 Failure FailureOf(const std::string& path, int error)
 {
-    return Failure(path + ": " + std::generic_category().message(error));
+    return Failure{path + ": " + std::generic_category().message(error)};
 }
 
 /// The file that a link leads to, so that the link stays.
@@ -50,7 +50,7 @@ std::string MakeBeside(const fs::path& path)
     {
         const auto name = '.' + path.filename().string() + '.' + std::to_string(::getpid()) + '-' +
                           std::to_string(i) + ".part";
-        const auto temporary = (path.parent_path() / name).string();
+        auto temporary = (path.parent_path() / name).string();
         const int file = ::open(temporary.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0666);
         if (file >= 0)
         {

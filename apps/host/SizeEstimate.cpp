@@ -117,13 +117,19 @@ SizeRange RangeOf(const IVXCodecParameter& stream, double seconds)
             perSecond * (seconds * spread.most + spread.start)};
 }
 
+double PicturesOf(const IVXCodecParameter& video, double seconds)
+{
+    const double rate = video.GetFrameRate()->GetDoubleValue();
+    return std::isfinite(rate) && rate > 0 ? rate * seconds : 0;
+}
+
 double ContainerSize(const IVXFormatParameter& output, double seconds, double streams)
 {
     const auto* found = std::ranges::find(kContainers, output.FormatName(), &ContainerRow::name);
     const auto& row = found == kContainers.end() ? kPlain : *found;
     double size = row.fixed + row.second * seconds + row.share * streams;
     if (const auto video = output.GetVideoCodecParameter())
-        size += row.picture * seconds * std::max(video->GetFrameRate()->GetDoubleValue(), 0.0);
+        size += row.picture * PicturesOf(*video, seconds);
     if (const auto audio = output.GetAudioCodecParameter())
         size += row.packet * seconds * audio->GetSampleRate() / kSamplesOfPacket;
     return size;

@@ -9,9 +9,11 @@
 #include "IVXFormatPreset.h"
 #include "IVXRational.h"
 #include "VXMediaCodecs.h"
+#include "runtime/mediacodecs/VXEncoderSettings.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <utility>
 
 namespace Vexlor::Tool
@@ -55,6 +57,30 @@ BitrateLimits PictureLimits(const IVXCodecParameter& video, const IVXFormatPrese
     return Within({least, most}, preset.MinVideoBitrate(), preset.MaxVideoBitrate());
 }
 
+/// The bitrate that the encoder takes in place of the stream's.
+int TakenBitrate(const IVXCodecParameter& stream)
+{
+    for (const auto& [option, value] : EncoderSettingsFor(stream).options)
+        if (option == "b")
+            return std::atoi(value.c_str());
+    return stream.GetBitrate();
+}
+
+/// Sets a bitrate that the encoder takes as it is, not above the stream's: some know but a few, and take the
+/// nearest.
+void TakeWhatIsTaken(IVXCodecParameter& stream)
+{
+    constexpr int kSteps = 20;
+    const int most = stream.GetBitrate();
+    int taken = TakenBitrate(stream);
+    for (int step = 1; step <= kSteps && taken > most; ++step)
+    {
+        stream.SetBitrate(most - most / kSteps * step / 2);
+        taken = TakenBitrate(stream);
+    }
+    stream.SetBitrate(taken > most ? most : taken);
+}
+
 /// An output whose bitrates are looked for. It is a copy of what was matched.
 class Search
 {
@@ -74,6 +100,7 @@ private:
     bool Solve(IVXCodecParameter& stream, BitrateLimits limits);
     bool SolveSound() { return Solve(*m_audio, SoundLimits(*m_audio, m_preset)); }
     bool SolvePicture();
+    bool SolveWithSide(const std::pair<int, int>& size, int side);
     bool SolveSmaller();
     bool SolveAny();
 
@@ -102,6 +129,7 @@ bool Search::Solve(IVXCodecParameter& stream, BitrateLimits limits)
             above = middle - 1;
     }
     stream.SetBitrate(fitting);
+    TakeWhatIsTaken(stream);
     return Fits();
 }
 
@@ -119,29 +147,28 @@ bool Search::SolvePicture()
     return Solve(*m_video, limits);
 }
 
+/// Solves with a picture whose shorter side is that; false where that is not smaller, or not allowed.
+bool Search::SolveWithSide(const std::pair<int, int>& size, int side)
+{
+    const double share = double(side) / std::min(size.first, size.second);
+    if (share >= 1)
+        return false;
+    const auto [width, height] = m_video->GetCodecs(true)->BestResolutionFor(
+        static_cast<int>(size.first * share), static_cast<int>(size.second * share), {});
+    if (width >= size.first || width < m_preset.MinWidth() || height < m_preset.MinHeight())
+        return false;
+    m_video->SetWidth(width);
+    m_video->SetHeight(height);
+    m_isSmaller = true;
+    return SolvePicture();
+}
+
 /// Tries usual sizes below the picture's, its shape kept.
 bool Search::SolveSmaller()
 {
     constexpr std::array kSides{1080, 720, 576, 480, 360, 240, 144};
-    const auto codecs = m_video->GetCodecs(true);
     const std::pair size(m_video->GetWidth(), m_video->GetHeight());
-    const double side = std::min(size.first, size.second);
-    for (const int smaller : kSides)
-    {
-        if (smaller >= side)
-            continue;
-        const auto [width, height] =
-            codecs->BestResolutionFor(static_cast<int>(size.first * smaller / side),
-                                      static_cast<int>(size.second * smaller / side), {});
-        if (width >= size.first || width < m_preset.MinWidth() || height < m_preset.MinHeight())
-            continue;
-        m_video->SetWidth(width);
-        m_video->SetHeight(height);
-        m_isSmaller = true;
-        if (SolvePicture())
-            return true;
-    }
-    return false;
+    return std::ranges::any_of(kSides, [&](int side) { return SolveWithSide(size, side); });
 }
 
 bool Search::SolveAny()
@@ -157,8 +184,13 @@ std::string Refusal(const SizePlan& plan, double wanted)
            SizeOfBytes(plan.estimate.Total().most);
 }
 
+bool IsKnown(const std::shared_ptr<IVXCodecParameter>& stream) { return !stream || stream->GetCodecs(true); }
+
 SizePlan Search::Plan()
 {
+    if (!IsKnown(m_video) || !IsKnown(m_audio))
+        return {.reason = "a codec of the preset is not known, so its bitrates are not",
+                .estimate = Estimate()};
     const int videoBitrate = m_video ? m_video->GetBitrate() : 0;
     SizePlan plan;
     plan.isPossible = SolveAny();

@@ -18,13 +18,13 @@ struct MediaMatch;
 struct SizePlan
 {
     bool isPossible = false;
-    std::string reason; ///< why it is not possible, or what else is to be known; may be empty
+    std::string reason = {}; ///< why it is not possible; empty where it is
     // What to set; 0 for what stays, or is not there.
     int videoBitrate = 0;
     int audioBitrate = 0;
     int width = 0; ///< of a smaller picture, without which it is not possible
     int height = 0;
-    SizeEstimate estimate; ///< with all that set; where it is not possible, of the smallest there is
+    SizeEstimate estimate = {}; ///< with all that set; where it is not possible, of the smallest there is
 };
 
 /// Solves an output's bitrates so that the file is not larger than wanted, whatever the encoders make of it.
