@@ -18,6 +18,7 @@ namespace
 
 constexpr std::uint32_t kQualities =
     6; // Auto, four grades, Custom; a codec without a number of its own has none
+constexpr int kCustom = kQualities - 1;
 
 std::string CodecText(int codecID)
 {
@@ -105,6 +106,12 @@ void DocumentCodecs::CheckIndices(DocumentPosition preset, const CodecRules& rul
         CheckIndex(m_tree, preset, list.index, m_tree.CountIn(preset, list.entries), m_findings);
     const bool isAuto = IntegerIn(m_tree, preset, "codecID") == VXCodecID_None;
     CheckIndex(m_tree, preset, "indexForQualityPresets", isAuto ? 0 : kQualities, m_findings);
+    if (!isAuto && IntegerIn(m_tree, preset, "indexForQualityPresets") == kCustom)
+        m_findings.Warn(
+            "value", *m_tree.Find(preset, "indexForQualityPresets"),
+            [] {
+                return DocumentWording{"is Custom, whose bitrate no document holds", "0 to 4, and bounds"};
+            });
     if (isAuto || rules.IsKnown())
         CheckIndex(m_tree, preset, "indexForSampleFmts", rules.Formats(), m_findings);
 }
@@ -112,9 +119,17 @@ void DocumentCodecs::CheckIndices(DocumentPosition preset, const CodecRules& rul
 void DocumentCodecs::CheckAspect(DocumentPosition preset)
 {
     const auto aspect = m_tree.Find(preset, "aspectPreset");
-    if (!aspect || IntegerIn(m_tree, *aspect, "type") != IVXSampleAspectPreset::AspectCustom)
+    if (!aspect)
         return;
-    if (IntegerIn(m_tree, *aspect, "num") < 1 || IntegerIn(m_tree, *aspect, "den") < 1)
+    const bool isCustom = IntegerIn(m_tree, *aspect, "type") == IVXSampleAspectPreset::AspectCustom;
+    const bool isRatio = IntegerIn(m_tree, *aspect, "num") > 0 && IntegerIn(m_tree, *aspect, "den") > 0;
+    if (isRatio && !m_tree.Find(*aspect, "type"))
+        m_findings.Warn(
+            "value", *aspect,
+            [] {
+                return DocumentWording{"a ratio without a type is square", "type 13 beside num and den"};
+            });
+    if (isCustom && !isRatio)
         m_findings.Error("value", *aspect,
                          [] {
                              return DocumentWording{"type 13 without a ratio", "num and den above 0"};
@@ -128,7 +143,7 @@ void DocumentCodecs::CheckSize(DocumentPosition entry, CodecRules& rules)
     const auto text = [&] { return std::to_string(width) + " x " + std::to_string(height); };
     if (width > 0 && height > 0)
         Refuse(entry, rules, rules.InPlaceOfSize(width, height), text);
-    else if (width > 0 || height > 0)
+    else if (width != 0 || height != 0)
         m_findings.Warn("value", entry,
                         [&] {
                             return DocumentWording{text() + " is Auto", "both sides above 0, or both 0"};
@@ -142,6 +157,12 @@ void DocumentCodecs::CheckRate(DocumentPosition entry, CodecRules& rules)
     if (num != 0 && den != 0)
         Refuse(entry, rules, rules.InPlaceOfRate(num, den),
                [&] { return std::to_string(num) + '/' + std::to_string(den) + " frames per second"; });
+    else if (num != 0)
+        m_findings.Warn(
+            "value", entry,
+            [num] {
+                return DocumentWording{std::to_string(num) + "/0 is Auto", "num and den above 0, or num 0"};
+            });
 }
 
 void DocumentCodecs::CheckSamplerate(DocumentPosition entry, CodecRules& rules)
@@ -150,6 +171,12 @@ void DocumentCodecs::CheckSamplerate(DocumentPosition entry, CodecRules& rules)
     if (samplerate > 0)
         Refuse(entry, rules, rules.InPlaceOfSamplerate(samplerate),
                [&] { return std::to_string(samplerate) + " Hz"; });
+    else if (samplerate < 0)
+        m_findings.Warn(
+            "value", entry,
+            [samplerate] {
+                return DocumentWording{std::to_string(samplerate) + " Hz is Auto", "a rate above 0, or 0"};
+            });
 }
 
 void DocumentCodecs::CheckLayout(DocumentPosition entry, CodecRules& rules)

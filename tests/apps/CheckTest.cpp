@@ -188,6 +188,24 @@ std::vector<FindingCase> OfCodecs()
          "3:60: warning: P/videoCodecPresets[0]/resolutionPresets[0]: 1920 x 0 is Auto; expected both sides "
          "above 0, "
          "or both 0"},
+        {"NegativeSize", VideoWith(R"("resolutionPresets": [{"width": -2, "height": -2}])"),
+         "3:60: warning: P/videoCodecPresets[0]/resolutionPresets[0]: -2 x -2 is Auto; expected both sides "
+         "above 0, "
+         "or both 0"},
+        {"HalfAFrameRate", VideoWith(R"("frameratePresets": [{"num": 30}])"),
+         "3:59: warning: P/videoCodecPresets[0]/frameratePresets[0]: 30/0 is Auto; expected num and den "
+         "above 0, or num 0"},
+        {"NegativeSampleRate", AudioWith(R"("sampleratePresets": [{"samplerate": -48000}])"),
+         "3:63: warning: P/audioCodecPresets[0]/sampleratePresets[0]: -48000 Hz is Auto; expected a rate "
+         "above 0, or 0"},
+        {"AspectWithoutType", VideoWith(R"("aspectPreset": {"num": 16, "den": 15})"),
+         "3:54: warning: P/videoCodecPresets[0]/aspectPreset: a ratio without a type is square; expected "
+         "type 13 beside "
+         "num and den"},
+        {"CustomQuality", VideoWith(R"("indexForQualityPresets": 5)"),
+         "3:64: warning: P/videoCodecPresets[0]/indexForQualityPresets: is Custom, whose bitrate no document "
+         "holds; "
+         "expected 0 to 4, and bounds"},
         {"OddSize", VideoWith(R"("resolutionPresets": [{}, {"width": 101, "height": 99}])"),
          "3:64: error: P/videoCodecPresets[0]/resolutionPresets[1]: H.264 does not take 101 x 99; expected "
          "such as "
@@ -316,7 +334,7 @@ TEST(Check, QualityIndexBelongsToSixEntriesOrNone)
               "expected "
               "-1 to 5\n 1 error, 0 warnings\n",
               ReportOf(VideoWith(R"("indexForQualityPresets": 6)")));
-    EXPECT_EQ(" 1 preset, nothing wrong\n", ReportOf(VideoWith(R"("indexForQualityPresets": 5)")));
+    EXPECT_EQ(" 1 preset, nothing wrong\n", ReportOf(VideoWith(R"("indexForQualityPresets": 4)")));
     EXPECT_EQ("3:50: error: P/videoCodecPresets[0]/indexForQualityPresets: is 1, but the list is empty; "
               "expected 0 or "
               "-1\n 1 error, 0 warnings\n",

@@ -76,6 +76,15 @@ bool IsShown(const std::string& expected, const std::string& text)
            text.ends_with(tail);
 }
 
+void MakeClip(const std::string& folder)
+{
+    const auto made =
+        RunLine("ffmpeg -v error -f lavfi -i testsrc2=size=1280x720:rate=30 -f lavfi -i sine -t 1 "
+                "-c:v libx264 -pix_fmt yuv420p -c:a aac holiday.mov",
+                folder);
+    ASSERT_EQ("", made.out);
+}
+
 class Document : public testing::TestWithParam<std::string>
 {
 };
@@ -84,11 +93,8 @@ TEST_P(Document, DoesWhatItShows)
 {
     const TestFolder folder;
     const auto path = folder.Path().string();
-    const auto clip = RunLine(
-        "ffmpeg -v error -f lavfi -i testsrc2=size=1920x1080:rate=30 -f lavfi -i sine -t 1 -c:v libx264 "
-        "-pix_fmt yuv420p -c:a aac holiday.mov",
-        path);
-    ASSERT_EQ("", clip.out);
+    if (ContentOf((kSource / GetParam()).string()).find("vxpresets match holiday.mov") != std::string::npos)
+        MakeClip(path);
     for (const auto& block : BlocksOf(GetParam()))
     {
         for (const auto& command : block.hidden)
