@@ -5,13 +5,13 @@
 #include "OutputFile.h"
 #include "Text.h"
 
-#include "runtime/mediacodecs/VXMediaFile.h"
-
 #include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <string_view>
+#include <system_error>
 
 namespace Vexlor::Tool
 {
@@ -70,13 +70,15 @@ bool Attend(FfmpegProcess& process, double duration, const ConversionWatch& watc
     return true;
 }
 
-/// The output, once it is seen to be one.
+/// The output's size. It is not read back, for there are files that FFmpeg writes and does not read: animated
+/// WebP.
 std::int64_t SizeOf(const std::string& path, const std::string& name)
 {
-    const auto file = ReadMediaFile(path);
-    if (!file.parameter)
-        throw Failure(name + ": ffmpeg wrote a file that cannot be read");
-    return file.size;
+    std::error_code error;
+    const auto size = std::filesystem::file_size(path, error);
+    if (error || size == 0)
+        throw Failure(name + ": ffmpeg wrote nothing");
+    return static_cast<std::int64_t>(size);
 }
 
 } // namespace

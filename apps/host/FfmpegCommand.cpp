@@ -44,7 +44,7 @@ public:
     {
         auto settings = EncoderSettingsFor(stream);
         if (!settings.complaint.empty())
-            throw Failure("vxpresets: " + settings.complaint);
+            throw Failure(m_command.output + ": " + settings.complaint);
         m_command.changes.insert(m_command.changes.end(), settings.changes.begin(), settings.changes.end());
         m_command.streams.insert(m_command.streams.end(), {"-map", "0:" + std::to_string(number)});
         Add("c", settings.encoder);
@@ -77,7 +77,7 @@ FfmpegCommand FfmpegCommandFor(const MediaMatch& match, const std::string& sourc
     const auto container = match.output->FormatName();
     const auto muxer = MuxerFor(container);
     if (muxer.empty())
-        throw Failure("vxpresets: the container " + Quoted(container) + " cannot be written here");
+        throw Failure(output + ": the container " + Quoted(container) + " cannot be written here");
     const auto from = match.SourceStreams();
     const auto to = match.OutputStreams();
     if (!to.video.parameter && !to.audio.parameter)

@@ -32,12 +32,14 @@ void AddMatch(CLI::App& app, Request& request)
                     ->add_flag("--all", request.convert.allPresets,
                                "Print what it becomes in every preset, the best fit first")
                     ->excludes(preset);
-    match
-        ->add_option("--ffmpeg", request.convert.ffmpegOutput,
-                     "Print the command line of the ffmpeg program that makes the file OUT")
-        ->type_name("OUT")
-        ->excludes(all);
+    auto* ffmpeg = match
+                       ->add_option("--ffmpeg", request.convert.ffmpegOutput,
+                                    "Print the command line of the ffmpeg program that makes the file OUT")
+                       ->type_name("OUT")
+                       ->excludes(all);
     AddFitting(*match, request);
+    for (const char* name : {"--stretch", "--crop"})
+        match->get_option(name)->needs(ffmpeg);
     match->callback(
         [&request]
         {

@@ -234,6 +234,15 @@ TEST(Convert, ShowsABarOnATerminal)
     EXPECT_THAT(run.out, HasSubstr(" 100 %"));
 }
 
+TEST(Convert, KeepsWhatTheProgramItselfDoesNotRead)
+{
+    const Media::ScratchFolder folder;
+    const auto run = RunTool({"convert", Media::Clip("quarters.mp4"), folder.Path("out.webp"), "--preset",
+                              "Video/Animations/WEBP"});
+    EXPECT_EQ(0, run.exitCode) << run.err;
+    EXPECT_EQ("RIFF", Media::BytesOf(folder.Path("out.webp")).substr(0, 4));
+}
+
 TEST(Convert, TellsProgramsWhatItMade)
 {
     const Conversions conversions;
@@ -371,6 +380,12 @@ TEST(CommandLineForFfmpeg, DoesWhatConvertDoes)
     ASSERT_EQ(0, RunShell(quiet)) << command.out;
     fs::rename(conversions.Path("an output.mp4"), conversions.Path("output.mp4"));
     EXPECT_EQ("320x120", FirstPicture(conversions.Path("output.mp4")).Size());
+}
+
+TEST(CommandLineForFfmpeg, IsWhatAFittingIsFor)
+{
+    EXPECT_EQ(2, RunTool({"match", "holiday.mov", "--preset", "MP4", "--crop"}).exitCode);
+    EXPECT_EQ(2, RunTool({"convert", "a.mov", "b.mp4", "--preset", "MP4", "--crop", "--stretch"}).exitCode);
 }
 
 TEST(CommandLineForFfmpeg, IsJsonForPrograms)
