@@ -52,7 +52,7 @@ private:
     std::string Indentation(std::size_t offset) const;
     bool StartsLine(std::size_t offset) const;
     std::string InnerBlanks(DocumentPosition container) const;
-    std::string OuterBlanks(DocumentPosition container) const;
+    std::string OuterBlanks(DocumentPosition value) const;
 
     const DocumentTree& m_tree;
     std::string m_lineEnd; // of the document; empty where it is on one line

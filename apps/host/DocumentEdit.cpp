@@ -129,9 +129,11 @@ void DocumentEdit::AddElement(const std::string& path, const char* list, const s
     // From the inside out: what is added stands in what is made for it.
     auto text = element;
     const char* innerList = list;
-    for (auto missing = parent.missing.rbegin(); missing != parent.missing.rend(); ++missing)
+    auto missing = parent.missing;
+    std::ranges::reverse(missing);
+    for (const auto& outer : missing)
     {
-        const auto category = EmptyCategory(*missing, 0);
+        const auto category = EmptyCategory(outer, 0);
         const DocumentTree tree(category);
         DocumentChanges changes(tree);
         changes.Insert(*tree.Find(0, innerList), 0, {text});
@@ -202,7 +204,7 @@ EditOutcome DocumentEdit::Move(const std::string& path, const std::optional<std:
         throw Failure("the root cannot be moved");
     const auto from = CategoryOf(value);
     const auto target = category ? m_names->Find(*category, DocumentThing::Category) : from;
-    if (IsInside(target, value))
+    if (Holds(value, target))
         throw Failure(Quoted(path) + " cannot be moved into itself");
     const auto* list = ListOf(m_names->IsPreset(value));
     const auto name = NameOf(value);
@@ -349,9 +351,9 @@ std::string DocumentEdit::FreeName(DocumentPosition category, const char* list, 
     return free;
 }
 
-bool DocumentEdit::IsInside(DocumentPosition value, DocumentPosition container) const
+bool DocumentEdit::Holds(DocumentPosition value, DocumentPosition inner) const
 {
-    return value >= container && value < (*m_tree)[container].next;
+    return inner >= value && inner < (*m_tree)[value].next;
 }
 
 // An element's list stands in it.

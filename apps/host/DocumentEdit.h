@@ -92,7 +92,7 @@ private:
     std::string FreeName(DocumentPosition category, const char* list, const std::string& name) const;
     void Absorb(DocumentChanges& changes, DocumentPosition category, const IVXFormatNode& node,
                 std::vector<EditOutcome>& outcomes) const;
-    bool IsInside(DocumentPosition value, DocumentPosition container) const;
+    bool Holds(DocumentPosition value, DocumentPosition inner) const;
     DocumentPosition CategoryOf(DocumentPosition value) const;
     DocumentPosition OwnCategory();
     std::string NameOf(DocumentPosition value) const;

@@ -27,6 +27,7 @@ int FaceOf(const std::string& text)
     if (const auto number = IntegerOf(text))
         return *number;
     std::vector<Candidate> names;
+    names.reserve(Catalog::kFaces.size());
     for (const auto& face : Catalog::kFaces)
         names.push_back({FaceText(face.id), {std::string(face.name)}});
     return Catalog::kFaces[FindByName(names, text, "face identifier", "vxpresets")].id;

@@ -4,7 +4,6 @@
 #include "Text.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace Vexlor::Tool
 {
@@ -81,10 +80,9 @@ private:
 
 const KeyFileEntry* KeyFileGroup::Find(std::string_view key) const
 {
-    for (const auto& entry : entries | std::views::reverse)
-        if (entry.key == key)
-            return &entry;
-    return nullptr;
+    const auto found = std::find_if(entries.rbegin(), entries.rend(),
+                                    [key](const KeyFileEntry& entry) { return entry.key == key; });
+    return found == entries.rend() ? nullptr : &*found;
 }
 
 std::string KeyFileGroup::ValueOf(std::string_view key) const

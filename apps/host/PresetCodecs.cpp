@@ -147,7 +147,7 @@ std::string SetCodecs(IVXFormatPreset& preset, StreamKind kind, const std::strin
     CodecList list(preset, kind);
     const auto folded = Squeezed(text);
     const auto names = folded == "all" ? AllOf(list) : folded == "none" ? std::string() : text;
-    const auto codecs = names.empty() && folded != "" ? Codecs() : Named(list, names);
+    const auto codecs = names.empty() && !folded.empty() ? Codecs() : Named(list, names);
     list.Clear();
     std::vector<std::string> shown;
     for (const auto& codec : codecs)

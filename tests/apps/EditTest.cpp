@@ -275,6 +275,23 @@ TEST_F(Edit, AddOfACategoryWithItsParents)
     EXPECT_EQ(10000003, root->FindChild("Discs")->FindChild("Old")->FindChild("VCD")->FaceID());
 }
 
+TEST_F(Edit, AddWantsToKnowWhat)
+{
+    for (const auto& words : {Words{"add", "P"}, Words{"add", "P", "--category", "--container", "MP4"}})
+    {
+        const auto run = Run(words);
+        EXPECT_EQ(2, run.exitCode);
+        EXPECT_EQ("vxpresets: one of --category, --container and --from is required\n", run.err);
+    }
+    EXPECT_EQ(kDocument, Content());
+}
+
+TEST_F(Edit, OnlyOnePlaceIsTaken)
+{
+    EXPECT_EQ(2, Run({"move", "A", "--before", "B", "--first"}).exitCode);
+    EXPECT_EQ(2, Run({"move", "A", "--before", "B", "--after", "C/D"}).exitCode);
+}
+
 TEST_F(Edit, AddMakesTheDocument)
 {
     m_path = m_folder / "new.json";
