@@ -48,13 +48,17 @@ std::string ReadToEnd(std::FILE* file, const std::string& path)
 
 } // namespace
 
-std::string ReadDocumentText(const std::string& path)
+std::string ReadWholeFile(const std::string& path)
 {
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
     const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "rb"));
     if (!file)
         Fail(path);
-    auto text = ReadToEnd(file.get(), path);
+    return ReadToEnd(file.get(), path);
+}
+
+std::string ReadDocumentText(const std::string& path)
+{
+    auto text = ReadWholeFile(path);
     if (text.starts_with(kByteOrderMark))
         text.erase(0, kByteOrderMark.size());
     return text;

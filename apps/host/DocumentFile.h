@@ -16,6 +16,12 @@ struct SyntaxFault
     std::string reason;
 };
 
+/// What the text of a file may begin with, and is no part of it.
+inline constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+/// All bytes of the file of that path. Throws Failure.
+std::string ReadWholeFile(const std::string& path);
+
 /// The text of the document of that path, without a byte order mark. Throws Failure.
 std::string ReadDocumentText(const std::string& path);
 

@@ -31,23 +31,19 @@ bool Exists(const std::string& path)
     return fs::exists(path, ignored);
 }
 
-std::string ReadObject(const std::string& path, bool mayMake)
+void RequireObject(const std::string& path, const std::string& text)
 {
-    if (mayMake && !Exists(path))
-        return "{\n}";
-    auto text = ReadDocumentText(path);
     std::string error;
     if (!ParseJson(text, &error))
         throw Failure(path + ':' + error);
     if (text.find_first_not_of(" \t\r\n") != text.find('{'))
         throw Failure(path + ": is not a JSON object");
-    return text;
 }
 
 void KeepBackup(const std::string& path)
 {
     const auto backup = path + ".bak";
-    Write(backup, ReadDocumentText(path));
+    Write(backup, ReadWholeFile(path));
     std::error_code ignored;
     fs::permissions(backup, fs::status(path, ignored).permissions(), ignored);
 }
@@ -58,17 +54,23 @@ void ChangeDocument(const std::string& path, const DocumentSaving& saving,
                     const std::function<std::string(const std::string& text)>& change)
 {
     const FolderLock lock(path);
-    const auto before = ReadObject(path, saving.mayMake);
+    auto before = saving.mayMake && !Exists(path) ? std::string("{\n}") : ReadWholeFile(path);
+    const bool isMarked = before.starts_with(kByteOrderMark);
+    before.erase(0, isMarked ? kByteOrderMark.size() : 0);
+    RequireObject(path, before);
     try
     {
-        const auto after = change(before);
+        auto after = change(before);
         std::string error;
         if (!ParseJson(after, &error))
             throw Failure("what it becomes cannot be read: " + error);
         if (saving.keepsBackup && Exists(path))
             KeepBackup(path);
-        if (after != before || !Exists(path))
-            Write(path, after);
+        if (after == before && Exists(path))
+            return;
+        if (isMarked)
+            after.insert(0, kByteOrderMark);
+        Write(path, after);
     }
     catch (const Failure& failure)
     {

@@ -339,6 +339,15 @@ TEST_F(Edit, LineEndsOfTheDocumentAreTaken)
               Content());
 }
 
+TEST_F(Edit, AByteOrderMarkStays)
+{
+    const std::string mark = "\xEF\xBB\xBF";
+    WithContent(m_path, mark + R"({"name": "a"})");
+    Said({"rename", "/", "b", "--backup"});
+    EXPECT_EQ(mark + R"({"name": "b"})", Content());
+    EXPECT_EQ(mark + R"({"name": "a"})", ContentOf(m_path + ".bak"));
+}
+
 TEST_F(Edit, BackupKeepsTheOldFile)
 {
     std::filesystem::permissions(m_path, std::filesystem::perms(0640));
