@@ -142,7 +142,7 @@ std::string MediaInput::ComplaintAboutClaims(const AVInputFormat& format) const
     const auto claims = ReadMovieClaims(*m_file.IO(), m_file.Size());
     if (claims.isCompressed)
         return "has a compressed description, which is not read";
-    if (claims.entries > m_file.Size() + kFreeEntries)
+    if (claims.entries - kFreeEntries > m_file.Size())
         return "is damaged (it tells of " + std::to_string(claims.entries) + " samples in " +
                std::to_string(m_file.Size()) + " bytes)";
     return {};

@@ -21,6 +21,8 @@ constexpr std::int64_t kLongHeader = 16;
 constexpr unsigned kToTheEnd = 0;
 constexpr unsigned kIsLong = 1;
 constexpr std::int64_t kPacketSamples = 1024; // of plain sound, which libavformat takes together
+// More entries than any file has bytes; what one table tells of is less than a hundredth of it.
+constexpr std::int64_t kMostEntries = std::int64_t{1} << 62;
 
 constexpr auto Type(char a, char b, char c, char d) { return static_cast<unsigned>(MKBETAG(a, b, c, d)); }
 
@@ -77,6 +79,7 @@ private:
     void Count(const Box& box);
     unsigned Number(const Box& box, std::int64_t offset);
     unsigned MostSamplesOfAChunk(const Box& box);
+    void Claim(std::int64_t entries);
     void EndTrack();
 
     AVIOContext& m_file;
@@ -126,9 +129,14 @@ unsigned MovieWalk::MostSamplesOfAChunk(const Box& box)
     return most;
 }
 
+void MovieWalk::Claim(std::int64_t entries)
+{
+    m_claims.entries = std::min(kMostEntries, m_claims.entries + entries);
+}
+
 void MovieWalk::EndTrack()
 {
-    m_claims.entries += m_chunks * (m_samplesOfAChunk / kPacketSamples);
+    Claim(m_chunks * (m_samplesOfAChunk / kPacketSamples));
     m_chunks = 0;
     m_samplesOfAChunk = 0;
 }
@@ -139,9 +147,9 @@ void MovieWalk::Count(const Box& box)
     if (box.type == kCompressed)
         m_claims.isCompressed = true;
     else if (box.type == kSizes && Number(box, 4) != 0)
-        m_claims.entries += Number(box, 8);
+        Claim(Number(box, 8));
     else if (box.type == kRun && (Number(box, 0) & kEachHasItsOwn) == 0)
-        m_claims.entries += Number(box, 4);
+        Claim(Number(box, 4));
     else if (box.type == kChunksOfSamples)
         m_samplesOfAChunk = std::max<std::int64_t>(m_samplesOfAChunk, MostSamplesOfAChunk(box));
     else if (Has(kChunkOffsets, box.type))
@@ -151,7 +159,7 @@ void MovieWalk::Count(const Box& box)
 MovieClaims MovieWalk::All(std::int64_t size)
 {
     std::vector<std::int64_t> ends{size};
-    for (std::int64_t place = 0; !ends.empty() && m_file.error == 0;)
+    for (std::int64_t place = 0; !ends.empty() && m_file.error == 0 && m_claims.entries < kMostEntries;)
     {
         const auto box = BoxAt(place, ends.back());
         if (box.end == 0) // what is around it goes on behind itself

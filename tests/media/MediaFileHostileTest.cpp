@@ -43,12 +43,13 @@ std::string Table(const std::string& type, std::initializer_list<std::uint32_t> 
     return Box(type, content);
 }
 
-// A file whose only track has these tables.
-std::string Movie(const std::string& tables, const std::string& movie = "moov")
+// A file of so many tracks, each of which has these tables.
+std::string Movie(const std::string& tables, const std::string& movie = "moov", int tracks = 1)
 {
-    const auto header = Box("mvhd", std::string(100, '\0'));
-    const auto track = Box("trak", Box("mdia", Box("minf", Box("stbl", tables))));
-    return Box("ftyp", "isom" + Number(512) + "isom") + Box(movie, header + track);
+    auto content = Box("mvhd", std::string(100, '\0'));
+    for (int track = 0; track < tracks; ++track)
+        content += Box("trak", Box("mdia", Box("minf", Box("stbl", tables))));
+    return Box("ftyp", "isom" + Number(512) + "isom") + Box(movie, content);
 }
 
 std::string ErrorOf(const std::string& bytes, const VXMediaFileLimits& limits = {})
@@ -80,6 +81,13 @@ TEST(MediaFileHostile, ChunksOfMoreSamplesThanBytes)
 {
     const auto tables = Table("stsc", {0, 1, 1, 0x7FFFFFFF, 1}) + Table("stco", {0, 64});
     EXPECT_THAT(ErrorOf(Movie(tables)), HasSubstr("tells of 134217664 samples"));
+}
+
+TEST(MediaFileHostile, TracksOfMoreSamplesThanCanBeCounted)
+{
+    constexpr std::uint32_t kMost = 0xFFFFFFFF;
+    const auto tables = Table("stsc", {0, 1, 1, kMost, 1}) + Table("stco", {0, kMost});
+    EXPECT_THAT(ErrorOf(Movie(tables, "moov", 600)), HasSubstr("tells of 4611686018427387904 samples"));
 }
 
 TEST(MediaFileHostile, FragmentOfMoreSamplesThanBytes)
