@@ -19,6 +19,14 @@ namespace
 
 constexpr int kBufferBytes = 1 << 16;
 
+// Thirty years stand for ever; a negative time and one that is not a number are none.
+std::chrono::milliseconds Milliseconds(double seconds)
+{
+    constexpr double kForEver = 1e9;
+    const double bounded = seconds > 0 ? std::min(seconds, kForEver) : 0;
+    return std::chrono::milliseconds(static_cast<std::int64_t>(bounded * 1000));
+}
+
 // The path's bytes are UTF-8 on every platform.
 std::filesystem::path FilePath(const std::string& path) { return {std::u8string(path.begin(), path.end())}; }
 
@@ -42,9 +50,7 @@ std::string ComplaintAboutKind(std::filesystem::file_type type, const std::error
 } // namespace
 
 BoundedFile::BoundedFile(const std::string& path, std::int64_t bytes, double seconds)
-    : m_budget(bytes),
-      m_deadline(Clock::now() + std::chrono::milliseconds(static_cast<std::int64_t>(seconds * 1000))),
-      m_complaint(Open(path))
+    : m_budget(bytes), m_deadline(Clock::now() + Milliseconds(seconds)), m_complaint(Open(path))
 {
 }
 

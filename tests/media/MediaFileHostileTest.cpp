@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <cstdint>
+#include <limits>
 
 namespace Vexlor
 {
@@ -112,6 +113,20 @@ TEST(MediaFileHostile, TimeIsOver)
 {
     EXPECT_THAT(ErrorOf(Media::BytesOf(Media::Clip("streamed.mp4")), {.seconds = 0}),
                 EndsWith("takes too long to read (more than 0 seconds)"));
+}
+
+TEST(MediaFileHostile, TimeWithoutEndIsAsLongAsTimeCanBe)
+{
+    const auto clip = Media::BytesOf(Media::Clip("streamed.mp4"));
+    for (const double seconds : {1e18, std::numeric_limits<double>::infinity()})
+        EXPECT_EQ("", ErrorOf(clip, {.seconds = seconds})) << seconds;
+}
+
+TEST(MediaFileHostile, TimeThatIsNoneIsOverAtOnce)
+{
+    const auto clip = Media::BytesOf(Media::Clip("streamed.mp4"));
+    for (const double seconds : {-1.0, -1e300, std::numeric_limits<double>::quiet_NaN()})
+        EXPECT_THAT(ErrorOf(clip, {.seconds = seconds}), HasSubstr("takes too long to read")) << seconds;
 }
 
 TEST(MediaFileHostile, MoreBytesThanTheLimit)
