@@ -22,7 +22,7 @@ public:
     virtual bool IsValid() const = 0;
     /// Numerator divided by denominator; infinite for n/0, not a number for 0/0.
     virtual double GetDoubleValue() const = 0;
-    /// Display text of a frame rate: "29.97 fps"; empty when it is not valid.
+    /// Display text of a frame rate: "29.97 fps"; empty for one that is not valid or not above 0.
     virtual std::string FormatAsFramerate() const = 0;
     /// The numerator.
     virtual int Num() const = 0;

@@ -39,10 +39,10 @@ double VXRational::GetDoubleValue() const
 
 std::string VXRational::FormatAsFramerate() const
 {
-    if (!IsValid())
+    const auto rate = GetDoubleValue();
+    if (!IsValid() || rate <= 0)
         return {};
     // Two decimals tell all coded rates apart but 23.976, which nobody writes as 23.98.
-    const auto rate = GetDoubleValue();
     return FormatDecimal(rate, rate > 23.97 && rate < 23.98 ? 3 : 2) + " fps";
 }
 
