@@ -23,6 +23,7 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
     "qt6-base-dev, libsimdjson-dev, libavformat-dev, libavcodec-dev, libavutil-dev")
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME vxpresets)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION video)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS ffmpeg) # which "vxpresets convert" runs
 set(CPACK_COMPONENT_LIBRARIES_DESCRIPTION "The libraries that programs run with.")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, the CMake package and pkg-config files.")
 set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS libraries)

@@ -137,7 +137,7 @@ std::string SizeCommand(const Request& request, const Catalogue& catalogue, cons
         convert.media + " -> " + entry.path, EstimateSize(*match.output, match.media.duration), wanted, {}};
     if (wanted)
         answer.plan = PlanSize(match, *entry.preset, *wanted);
-    const auto text = request.asJson ? AnswerJson(answer) : AnswerText(answer, style);
+    auto text = request.asJson ? AnswerJson(answer) : AnswerText(answer, style);
     if (wanted && !answer.plan.isPossible)
         throw BadAnswer(text);
     return text;
