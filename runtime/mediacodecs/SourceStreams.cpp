@@ -2,6 +2,7 @@
 
 #include "CodecTable.h"
 #include "FFmpegCompat.h"
+#include "H264Level.h"
 #include "LevelTable.h"
 #include "PixelFormats.h"
 #include "ProfileTable.h"
@@ -95,7 +96,7 @@ std::shared_ptr<VXCodecParameter> Source(const AVStream& stream, int bitrate)
     auto source = std::make_shared<VXCodecParameter>(codecID);
     source->SetCodecTag(codec.codec_tag);
     source->SetProfile(ProfileNumberOf(codecID, codec.profile));
-    source->SetLevel(LevelNumberOf(codecID, codec.level));
+    source->SetLevel(codecID == VXCodecID_H264 ? H264LevelOf(codec) : LevelNumberOf(codecID, codec.level));
     source->SetBitrate(bitrate);
     return source;
 }

@@ -5,6 +5,7 @@
 #include "IVXFormatParameter.h"
 #include "IVXRational.h"
 #include "VXMediaCodecs.h"
+#include "tests/media/Ffmpeg.h"
 #include "tests/media/MediaMaker.h"
 
 #include <gmock/gmock.h>
@@ -115,6 +116,45 @@ TEST(MediaFile, TellsPixelFormatProfileAndLevel)
     EXPECT_EQ("Main", video->GetCodecs(false)->ProfileName(video->GetProfile()));
     EXPECT_EQ("4", video->GetCodecs(false)->LevelName(video->GetLevel()));
 }
+
+struct LowLevelCase
+{
+    const char* name;
+    const char* profile;
+    const char* level;
+    const char* container;
+};
+
+class LowLevel : public testing::TestWithParam<LowLevelCase>
+{
+};
+
+TEST_P(LowLevel, IsToldAsItWasWritten)
+{
+    const auto& test = GetParam();
+    const Media::ScratchFolder scratch;
+    const auto path = scratch.Path(std::string("small.") + test.container);
+    Media::RunFfmpeg("-f lavfi -i testsrc=size=176x144:rate=15:duration=1 -c:v libx264 -pix_fmt yuv420p "
+                     "-b:v 60k -profile:v " +
+                         std::string(test.profile) + " -level " + test.level,
+                     path);
+    const auto file = ReadMediaFile(path);
+    ASSERT_EQ("", file.error);
+    const auto video = file.parameter->GetVideoCodecParameter();
+    EXPECT_EQ(test.level, video->GetCodecs(false)->LevelName(video->GetLevel()));
+}
+
+constexpr std::array kLowLevels{
+    LowLevelCase{"Baseline1b", "baseline", "1b", "mp4"},
+    LowLevelCase{"Main1b", "main", "1b", "mkv"},
+    LowLevelCase{"Main1bBehindStartCodes", "main", "1b", "ts"},
+    LowLevelCase{"High1b", "high", "1b", "mp4"},
+    LowLevelCase{"Baseline11", "baseline", "1.1", "mp4"},
+    LowLevelCase{"Main11BehindStartCodes", "main", "1.1", "ts"},
+    LowLevelCase{"High11", "high", "1.1", "mp4"},
+};
+INSTANTIATE_TEST_SUITE_P(H264, LowLevel, testing::ValuesIn(kLowLevels),
+                         [](const auto& test) { return test.param.name; });
 
 TEST(MediaFile, TellsTenBitFormatAndProfile)
 {
