@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace Vexlor
 {
@@ -12,17 +13,22 @@ namespace Vexlor
 namespace
 {
 
-constexpr int kConstant = 1; // of IVXCodecParameter::GetBitrateMode
-
-BitrateControl BoundsOf(const IVXCodecParameter& stream, int bitrate)
+int MostOf(const IVXCodecParameter& stream, const LevelBounds& level)
 {
-    if (stream.GetBitrateMode() == kConstant)
+    constexpr std::int64_t kMost = std::numeric_limits<int>::max();
+    return stream.GetMaxBitrate() > 0 ? stream.GetMaxBitrate()
+                                      : static_cast<int>(std::clamp<std::int64_t>(level.bitrate, 0, kMost));
+}
+
+BitrateControl BoundsOf(const IVXCodecParameter& stream, int bitrate, const LevelBounds& level)
+{
+    if (stream.GetBitrateMode() == kConstantBitrate)
         return {bitrate, bitrate, 0, true};
-    if (stream.GetMaxBitrate() <= 0)
+    const int most = MostOf(stream, level);
+    if (most == 0)
         return {};
     // Bounds that leave the bitrate out follow it.
-    return {std::max(stream.GetMaxBitrate(), bitrate), std::clamp(stream.GetMinBitrate(), 0, bitrate), 0,
-            false};
+    return {std::max(most, bitrate), std::clamp(stream.GetMinBitrate(), 0, bitrate), 0, false};
 }
 
 std::int64_t LargestFrame(const IVXCodecParameter& stream, int bitrate)
@@ -34,13 +40,13 @@ std::int64_t LargestFrame(const IVXCodecParameter& stream, int bitrate)
 
 } // namespace
 
-BitrateControl ControlOf(const IVXCodecParameter& stream, int bitrate, std::int64_t levelBuffer)
+BitrateControl ControlOf(const IVXCodecParameter& stream, int bitrate, const LevelBounds& level)
 {
-    auto control = BoundsOf(stream, std::max(bitrate, 0));
+    auto control = BoundsOf(stream, std::max(bitrate, 0), level);
     if (control.most == 0)
         return control;
     const std::int64_t second = control.most;
-    const auto own = levelBuffer > 0 ? levelBuffer : second;
+    const auto own = level.buffer > 0 ? level.buffer : second;
     control.buffer =
         std::max(control.isConstant ? std::min(second, own) : own, LargestFrame(stream, bitrate));
     return control;

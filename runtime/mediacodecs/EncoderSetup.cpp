@@ -68,7 +68,7 @@ private:
     int m_format = VXPixFormat_None;
     int m_profile = IVXCodecs::VXProfileUnknown;
     int m_avProfile = VX_AV_PROFILE(UNKNOWN);
-    std::int64_t m_levelBuffer = 0;
+    LevelBounds m_level;
     EncoderSetup m_setup;
 };
 
@@ -162,7 +162,7 @@ void Opening::SetBitrate(const IVXCodecParameter& stream)
 void Opening::SetBounds(const IVXCodecParameter& stream)
 {
     auto& context = *m_setup.context;
-    const auto control = ControlOf(stream, static_cast<int>(context.bit_rate), m_levelBuffer);
+    const auto control = ControlOf(stream, static_cast<int>(context.bit_rate), m_level);
     if (control.isConstant && !m_row.constant.empty())
         m_options.Parse(m_row.constant);
     if (m_row.isUnbounded && control.isConstant)
@@ -208,7 +208,9 @@ void Opening::SetLabels(const IVXCodecParameter& stream)
 {
     auto& context = *m_setup.context;
     auto labels = FittingLabels(m_codec, stream, m_format);
-    m_levelBuffer = labels.buffer;
+    m_level.buffer = labels.bounds.buffer;
+    if (!m_row.isUnbounded)
+        m_level.bitrate = labels.bounds.bitrate;
     std::ranges::move(labels.changes, std::back_inserter(m_setup.changes));
     if (labels.profile)
     {

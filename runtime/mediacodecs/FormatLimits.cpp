@@ -1,11 +1,13 @@
 #include "FormatLimits.h"
 
+#include "BitrateControl.h"
 #include "BitrateModel.h"
 #include "BitrateSnapping.h"
 #include "FormatTable.h"
 #include "IVXCodecParameter.h"
 #include "IVXCodecs.h"
 #include "IVXRational.h"
+#include "LevelTable.h"
 #include "Lookup.h"
 #include "Snapping.h"
 #include "VXMediaCodecs.h"
@@ -147,6 +149,25 @@ int FollowedBitrate(const IVXCodecParameter& stream, int bitrate, const std::vec
                : NearestBitrate(codec, SoundOf(stream, format), bitrate);
 }
 
+// No more than the level that is chosen has, or the bound would make it give way.
+int MostWithinLevel(const IVXCodecParameter& stream, int most)
+{
+    const auto level = LimitsOf(stream.GetCodecID(), stream.GetProfile(), stream.GetLevel());
+    if (!level || LevelsCountAverage(stream.GetCodecID()))
+        return most;
+    return static_cast<int>(
+        std::clamp<std::int64_t>(level->bitrate, std::min(stream.GetBitrate(), most), most));
+}
+
+// Players count the highest bitrate, not the average; a constant one is its own highest.
+void BoundPicture(IVXCodecParameter& stream, int most)
+{
+    const auto* codec = CapabilitiesOf(stream.GetCodecID());
+    const bool isPicture = codec && codec->codec->type == VXCodecTypeVideo;
+    if (isPicture && stream.GetMaxBitrate() <= 0 && stream.GetBitrateMode() != kConstantBitrate)
+        stream.SetMaxBitrate(MostWithinLevel(stream, most));
+}
+
 void FitBitrate(IVXCodecParameter& stream, const StreamLimit& limit, const std::vector<int>& before)
 {
     const auto most = limit.mostBitrate > 0 ? limit.mostBitrate : std::numeric_limits<int>::max();
@@ -155,6 +176,8 @@ void FitBitrate(IVXCodecParameter& stream, const StreamLimit& limit, const std::
     stream.SetBitrate(std::min(stream.GetBitrate(), most));
     stream.SetMaxBitrate(std::min(stream.GetMaxBitrate(), most));
     stream.SetMinBitrate(std::min(stream.GetMinBitrate(), most));
+    if (limit.mostBitrate > 0)
+        BoundPicture(stream, limit.mostBitrate);
 }
 
 void Fit(IVXCodecParameter& stream, const StreamLimit& limit)

@@ -134,11 +134,13 @@ int ProfileOfBitrate(const CodecCapabilities& codec, const IVXCodecParameter& st
 }
 
 // An encoder that is given no level chooses the lowest.
-std::int64_t BufferOf(const VXLevelStream& stream, const LevelRow* level)
+LevelBounds BoundsOf(const VXLevelStream& stream, const LevelRow* level)
 {
     const auto limits =
         LimitsOf(stream.codecID, stream.profile, level ? level->number : SmallestLevel(stream));
-    return limits ? limits->buffer : 0;
+    if (!limits)
+        return {};
+    return {level && !LevelsCountAverage(stream.codecID) ? limits->bitrate : 0, limits->buffer};
 }
 
 } // namespace
@@ -154,7 +156,7 @@ StreamLabels FittingLabels(const CodecCapabilities& codec, const IVXCodecParamet
         labels.changes.clear(); // nobody asked for the one that gave way
     const auto seen = LevelStream(stream, labels.profile);
     SetLevel(labels, stream.GetLevel(), seen);
-    labels.buffer = BufferOf(seen, labels.level);
+    labels.bounds = BoundsOf(seen, labels.level);
     return labels;
 }
 

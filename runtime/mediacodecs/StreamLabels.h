@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cstdint>
+#include "BitrateControl.h"
+
 #include <string>
 #include <vector>
 
@@ -17,7 +18,7 @@ struct StreamLabels
 {
     const ProfileRow* profile = nullptr; ///< null: the encoder chooses
     const LevelRow* level = nullptr;     ///< as above
-    std::int64_t buffer = 0; ///< bits that a decoder of that level holds, or of the lowest; 0: not told
+    LevelBounds bounds; ///< the level's; where it is open, the buffer alone, of the lowest that there is
     std::vector<std::string> changes; ///< what gave way, a sentence each
 };
 

@@ -10,6 +10,7 @@
 #include "runtime/mediacodecs/CodecCapabilities.h"
 #include "runtime/mediacodecs/EncoderSetup.h"
 #include "runtime/mediacodecs/FFmpegQuiet.h"
+#include "runtime/mediacodecs/FormatLimits.h"
 
 #include <gtest/gtest.h>
 
@@ -20,6 +21,7 @@ extern "C"
 
 #include <algorithm>
 #include <functional>
+#include <numeric>
 #include <random>
 
 namespace Vexlor
@@ -102,6 +104,59 @@ INSTANTIATE_TEST_SUITE_P(Codecs, BitrateOfAGrade,
                              return std::string(std::get<0>(test.param).name) + "AtGrade" +
                                     std::to_string(std::get<1>(test.param));
                          });
+
+/// Coarse grain, another in each picture.
+void FillWithGrain(AVFrame& frame, std::minstd_rand& random)
+{
+    for (const auto* plane : frame.buf)
+        if (plane)
+            std::ranges::generate(plane->data, plane->data + plane->size,
+                                  [&] { return static_cast<std::uint8_t>(96 + random() % 64); });
+}
+
+/// Bits of what an encoder has ready, frame by frame.
+void AppendBits(std::vector<std::int64_t>& bits, AVCodecContext& encoder)
+{
+    const Packet packet(av_packet_alloc());
+    while (avcodec_receive_packet(&encoder, packet.get()) == 0)
+    {
+        bits.push_back(std::int64_t{8} * packet->size);
+        av_packet_unref(packet.get());
+    }
+}
+
+/// Bits of a second of still pictures and a second of grain, frame by frame.
+std::vector<std::int64_t> BitsOfStillsAndGrain(AVCodecContext& encoder)
+{
+    std::minstd_rand random; // the same grain at each run
+    std::vector<std::int64_t> bits;
+    for (int i = 0; i < 50; ++i)
+    {
+        const auto frame = PictureFrame(encoder, i < 25 ? 0 : i);
+        frame->pts = i;
+        if (i >= 25)
+            FillWithGrain(*frame, random);
+        avcodec_send_frame(&encoder, frame.get());
+        AppendBits(bits, encoder);
+    }
+    avcodec_send_frame(&encoder, nullptr);
+    AppendBits(bits, encoder);
+    return bits;
+}
+
+TEST(EncodedBitrate, OfASecondOnDVDIsWithinWhatItsPlayersTake)
+{
+    const FFmpegQuiet quiet;
+    const auto stream = Picture(VXCodecID_MPEG2);
+    stream->SetBitrate(8'000'000);
+    FitIntoContainer(*stream, "VOB");
+    const auto setup = OpenEncoder(*stream, {.options = "bf=0"});
+    ASSERT_TRUE(setup.context) << setup.complaint;
+    const auto bits = BitsOfStillsAndGrain(*setup.context);
+    ASSERT_EQ(50U, bits.size());
+    EXPECT_LE(std::accumulate(bits.end() - 25, bits.end(), std::int64_t{0}),
+              9'800'000 + setup.context->rc_buffer_size);
+}
 
 TEST(EncodedBitrate, OfAnimatedWebPRisesWithTheGrade)
 {

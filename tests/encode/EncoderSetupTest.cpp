@@ -145,6 +145,32 @@ TEST_F(EncoderSetupTest, VariableBitrateWithoutBoundsHasNoBuffer)
     EXPECT_EQ(0, setup.context->rc_buffer_size);
 }
 
+TEST_F(EncoderSetupTest, ALevelThatIsChosenIsABound)
+{
+    picture->SetProfile(4);
+    picture->SetLevel(8); // Main
+    const auto setup = OpenEncoder(*picture, {});
+    EXPECT_EQ(15'000'000, setup.context->rc_max_rate);
+    EXPECT_EQ(0, setup.context->rc_min_rate);
+    EXPECT_EQ(1'835'008, setup.context->rc_buffer_size);
+}
+
+TEST_F(EncoderSetupTest, ALevelOfAveragesIsNoBound)
+{
+    const auto film = Picture(VXCodecID_VP9);
+    film->SetLevel(30);
+    EXPECT_EQ(0, OpenEncoder(*film, {}).context->rc_max_rate);
+}
+
+TEST_F(EncoderSetupTest, ALevelIsNoBoundThatAnEncoderIsSaidToRefuse)
+{
+    const auto modern = Picture(VXCodecID_AV1);
+    modern->SetLevel(8); // 4.0
+    const auto setup = OpenEncoder(*modern, {});
+    EXPECT_THAT(setup.changes, IsEmpty());
+    EncodePictures(*setup.context, 1);
+}
+
 TEST_F(EncoderSetupTest, EncoderThatRefusesAConstantBitrateGetsAVariableOne)
 {
     const auto modern = Picture(VXCodecID_AV1);

@@ -226,6 +226,44 @@ TEST(FormatLimits, PicturesOnDiscsHaveTheMostBitrateThatPlayersTake)
     EXPECT_EQ(9'800'000, picture->GetMaxBitrate());
 }
 
+std::shared_ptr<IVXCodecParameter> Disc(const char* container, int codecID, int bitrate, int level = -99)
+{
+    auto picture = PictureIn({"", "MKV", codecID, {720, 576}, {25, 1}, ""});
+    picture->SetBitrate(bitrate);
+    picture->SetLevel(level);
+    FitIntoContainer(*picture, container);
+    return picture;
+}
+
+// Or an average within the limit would have seconds far beyond it.
+TEST(FormatLimits, PicturesOnDiscsAreBoundedAtThatWhereTheyAreUnbounded)
+{
+    EXPECT_EQ(9'800'000, Disc("VOB", VXCodecID_MPEG2, 8'000'000)->GetMaxBitrate());
+    EXPECT_EQ(1'856'000, Disc("VOB", VXCodecID_MPEG1, 1'150'000)->GetMaxBitrate());
+    EXPECT_EQ(40'000'000, Disc("M2TS", VXCodecID_H264, 8'000'000)->GetMaxBitrate());
+    EXPECT_EQ(0, Disc("TS", VXCodecID_H264, 8'000'000)->GetMaxBitrate());
+}
+
+TEST(FormatLimits, PicturesOnDiscsAreBoundedAtTheLevelThatIsChosen)
+{
+    const auto picture = Disc("M2TS", VXCodecID_H264, 8'000'000, 30);
+    EXPECT_EQ(10'000'000, picture->GetMaxBitrate());
+    EXPECT_EQ(30, picture->GetLevel());
+    EXPECT_EQ(9'800'000, Disc("VOB", VXCodecID_MPEG2, 8'000'000, 8)->GetMaxBitrate());
+}
+
+TEST(FormatLimits, SoundAndConstantBitratesNeedNoBound)
+{
+    const auto picture = PictureIn({"", "MKV", VXCodecID_MPEG2, {720, 576}, {25, 1}, ""});
+    picture->SetBitrate(4'000'000);
+    picture->SetBitrateMode(1);
+    FitIntoContainer(*picture, "VOB");
+    EXPECT_EQ(0, picture->GetMaxBitrate());
+    const auto sound = Sound(VXCodecID_AC3, 48000, kStereo);
+    FitIntoContainer(*sound, "VOB");
+    EXPECT_EQ(0, sound->GetMaxBitrate());
+}
+
 TEST(FormatLimits, PicturesOnDVDHaveHalfChroma)
 {
     const auto picture = PictureIn({"", "MPG", VXCodecID_MPEG2, {720, 576}, {25, 1}, ""});
