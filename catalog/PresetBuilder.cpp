@@ -5,7 +5,6 @@
 #include "IVXCodecs.h"
 #include "IVXFormatPreset.h"
 #include "IVXFrameratePreset.h"
-#include "IVXJsonValue.h"
 #include "IVXLevelPreset.h"
 #include "IVXProfilePreset.h"
 #include "IVXRational.h"
@@ -152,6 +151,8 @@ void Apply(const Picture& picture, IVXCodecPreset& codec)
     ChooseLevel(codec, picture.level);
     ChooseFormat(codec, picture.format);
     codec.AspectPreset()->SetAspectType(picture.aspect);
+    if (picture.aspect == IVXSampleAspectPreset::AspectCustom)
+        codec.AspectPreset()->SetRatio(picture.samples.width, picture.samples.height);
 }
 
 void Apply(const Sound& sound, IVXCodecPreset& codec)
@@ -159,16 +160,6 @@ void Apply(const Sound& sound, IVXCodecPreset& codec)
     ChooseSampleRate(codec, sound.rate);
     ChooseLayout(codec, sound.layout);
     ChooseFormat(codec, sound.format);
-}
-
-// Only a document can tell a ratio of one's own.
-std::shared_ptr<IVXCodecPreset> WithSamples(const IVXCodecPreset& codec, const Size& ratio)
-{
-    const auto aspect = IVXSampleAspectPreset::MallocSampleAspectPreset(
-        IVXRational::MallocRational(ratio.width, ratio.height));
-    const auto json = codec.JsonValue();
-    json->SetValueObject("aspectPreset", aspect->JsonValue());
-    return IVXCodecPreset::MallocCodecPreset(json);
 }
 
 /// The two lists of codec presets under one set of names.
@@ -214,15 +205,8 @@ std::shared_ptr<IVXCodecPreset> ChooseCodec(IVXFormatPreset& preset, int codecID
 
 void ChooseVideo(IVXFormatPreset& preset, const Picture& picture, Offer offer)
 {
-    const auto codec = ChooseCodec<VideoSide>(preset, picture.codec, offer);
-    if (!codec)
-        return;
-    Apply(picture, *codec);
-    if (picture.aspect != IVXSampleAspectPreset::AspectCustom)
-        return;
-    const auto position = preset.IndexForVideoCodecPresets();
-    preset.InsertVideoCodecPreset(WithSamples(*codec, picture.samples), position);
-    preset.RemoveVideoCodecPreset(position + 1);
+    if (const auto codec = ChooseCodec<VideoSide>(preset, picture.codec, offer))
+        Apply(picture, *codec);
 }
 
 void ChooseAudio(IVXFormatPreset& preset, const Sound& sound, Offer offer)
