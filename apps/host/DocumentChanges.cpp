@@ -133,7 +133,7 @@ std::string DocumentChanges::Lifted(DocumentPosition value) const
     if (!IsOnLines(indent))
         return text;
     for (auto at = text.find(indent); at != std::string::npos; at = text.find(indent, at + 1))
-        text.replace(at, indent.size(), "\n");
+        text.replace(at, indent.size(), 1, '\n');
     return text;
 }
 

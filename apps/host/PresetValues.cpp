@@ -162,8 +162,8 @@ void SetAspect(Preset& preset, const std::string& value, PresetSetting& setting)
         std::ranges::find(kAspects, Squeezed(value), [](int type) { return Squeezed(AspectText(type)); });
     const auto colon = value.find(':');
     const auto num = IntegerOf(std::string_view(value).substr(0, colon));
-    const auto den =
-        colon == std::string::npos ? std::nullopt : IntegerOf(std::string_view(value).substr(colon + 1));
+    const auto den = IntegerOf(colon == std::string::npos ? std::string_view()
+                                                          : std::string_view(value).substr(colon + 1));
     if (named != kAspects.end())
         aspect->SetAspectType(static_cast<Type>(*named));
     else if (num && den && *num > 0 && *den > 0)
