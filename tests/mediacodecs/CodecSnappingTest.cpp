@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -39,6 +40,11 @@ protected:
         return size.width >= min.width && size.width <= max.width && size.height >= min.height &&
                size.height <= max.height && (area == 0 || std::int64_t{size.width} * size.height <= area) &&
                size.width % Codec().block.width == 0 && size.height % Codec().block.height == 0;
+    }
+
+    static bool IsListed(AVRational rate)
+    {
+        return std::ranges::any_of(Limits().rates, [rate](auto each) { return av_cmp_q(each, rate) == 0; });
     }
 
     static bool Holds(AVRational rate)
@@ -100,12 +106,14 @@ TEST_P(EveryVideoCodec, HasAUsableSizeAndRateForNone)
     EXPECT_TRUE(Holds(SnapFrameRate({0, 0}, Limits())));
 }
 
-TEST_P(EveryVideoCodec, KeepsTheFractionsOfTelevisionExact)
+TEST_P(EveryVideoCodec, KeepsTheFractionsOfTelevisionExactWhereItHasThem)
 {
     for (const auto rate : {AVRational{24000, 1001}, {30000, 1001}})
     {
         const auto best = SnapFrameRate(rate, Limits());
-        EXPECT_TRUE(av_cmp_q(best, rate) == 0 || !Limits().rates.empty()) << best.num << '/' << best.den;
+        const bool isOffered = Limits().rates.empty() || IsListed(rate);
+        EXPECT_EQ(isOffered, av_cmp_q(best, rate) == 0) << best.num << '/' << best.den;
+        EXPECT_TRUE(Limits().rates.empty() || IsListed(best)) << best.num << '/' << best.den;
     }
 }
 
