@@ -146,10 +146,13 @@ constexpr auto kHostilePictures = std::to_array<HostilePicture>({
     {"UnknownFormat", {1920, 1080, 30, 12345}},
     {"ALine", {INT_MAX, 1, 30, k420}},
 });
+
 TEST(VideoBitrate, StaysWithinTheLowestLevelForThePicture)
 {
-    // Level 1b for 176 x 144 at 15 fps, and MPEG-2 of Low for 352 x 288.
+    // Level 1b for 176 x 144 at 15 fps, MPEG-2 of Low for 352 x 288, and VP9 of 4.1 for 1080p at 60 fps.
     EXPECT_EQ(128'000, Video(VXCodecID_H264, {176, 144, 15, k420}, Grade::QualityLevelBest));
+    EXPECT_EQ(4'000'000,
+              Video(VXCodecID_MPEG2, {352, 288, 30, kPixFormatYUV444P12}, Grade::QualityLevelBest));
     EXPECT_EQ(30'000'000,
               Video(VXCodecID_VP9, {1920, 1080, 60, kPixFormatYUV444P12}, Grade::QualityLevelBest));
 }
@@ -188,6 +191,47 @@ TEST(VideoBitrate, OfProResInAFormatThatItLacksIsThatOfTheOneOfferedFirst)
     EXPECT_EQ(102'000'000,
               Video(VXCodecID_ProRes, {1920, 1080, 30000 / 1001.0, k420}, Grade::QualityLevelNormal));
 }
+
+/// Figures as they are published, for the four grades.
+struct PublishedFigures
+{
+    const char* name;
+    int codecID;
+    PictureStream stream;
+    std::array<double, kGrades> megabits;
+};
+
+class FiguresOfProfiles : public testing::TestWithParam<PublishedFigures>
+{
+};
+
+TEST_P(FiguresOfProfiles, AreThoseOfTheGrades)
+{
+    const auto& test = GetParam();
+    for (const auto level : kAllGrades)
+        EXPECT_NEAR(test.megabits.at(static_cast<std::size_t>(level)),
+                    Video(test.codecID, test.stream, level) / 1e6, 1e-6)
+            << "grade " << level;
+}
+
+constexpr double kNTSCRate = 30000 / 1001.0;
+// Those of ProRes at 2160p, 720p and 486 lines stand in its white paper, those of DNxHD in SMPTE ST 2019-1.
+constexpr auto kPublishedFigures = std::to_array<PublishedFigures>({
+    {"ProRes486", VXCodecID_ProRes, {720, 486, kNTSCRate, kPixFormatYUV422P10}, {12, 29, 42, 63}},
+    {"ProRes720", VXCodecID_ProRes, {1280, 720, kNTSCRate, kPixFormatYUV422P10}, {23, 51, 73, 110}},
+    {"ProRes1080", VXCodecID_ProRes, {1920, 1080, kNTSCRate, kPixFormatYUV422P10}, {45, 102, 147, 220}},
+    {"ProRes2160", VXCodecID_ProRes, {3840, 2160, kNTSCRate, kPixFormatYUV422P10}, {182, 410, 589, 884}},
+    {"ProRes4444", VXCodecID_ProRes, {1920, 1080, kNTSCRate, kPixFormatYUV444P10}, {330, 330, 330, 500}},
+    {"DNxHR1080", VXCodecID_DNxHR, {1920, 1080, kNTSCRate, kPixFormatYUV422P}, {45, 145, 220, 220}},
+    {"DNxHD720At24", VXCodecID_DNxHD, {1280, 720, 24, kPixFormatYUV422P}, {60, 60, 90, 90}},
+    {"DNxHD720At60", VXCodecID_DNxHD, {1280, 720, 60, kPixFormatYUV422P}, {145, 145, 220, 220}},
+    {"DNxHD1080At24", VXCodecID_DNxHD, {1920, 1080, 24, kPixFormatYUV422P}, {115, 115, 175, 175}},
+    {"DNxHD1080At25", VXCodecID_DNxHD, {1920, 1080, 25, kPixFormatYUV422P}, {120, 120, 185, 185}},
+    {"DNxHD1080At2997", VXCodecID_DNxHD, {1920, 1080, kNTSCRate, kPixFormatYUV422P}, {145, 145, 220, 220}},
+    {"DNxHD1080TenBit", VXCodecID_DNxHD, {1920, 1080, 25, kPixFormatYUV422P10}, {185, 185, 185, 185}},
+});
+INSTANTIATE_TEST_SUITE_P(VideoBitrate, FiguresOfProfiles, testing::ValuesIn(kPublishedFigures),
+                         [](const auto& test) { return test.param.name; });
 
 TEST(VideoBitrate, OfDNxHRWithMoreThan8BitsIsThatOfHQX)
 {
@@ -292,7 +336,19 @@ TEST_P(EveryVideoModel, RecognisesTheGradeOfItsOwnBitrates)
         }
 }
 
-TEST_P(EveryVideoModel, PassesThroughThePointsOfItsLadders)
+/// The codecs whose grades are ladders of their own; others have profiles, lists or no grades.
+class EveryLadder : public EveryVideoModel
+{
+};
+
+std::vector<int> CodecsWithLadders()
+{
+    auto ids = CodecIDs(VXCodecTypeVideo);
+    std::erase_if(ids, [](int id) { return FindVideoBitrate(id)->grades.front().points.empty(); });
+    return ids;
+}
+
+TEST_P(EveryLadder, PassesThroughItsPoints)
 {
     const auto& row = *FindVideoBitrate(GetParam());
     for (const auto level : kAllGrades)
@@ -308,7 +364,7 @@ TEST_P(EveryVideoModel, PassesThroughThePointsOfItsLadders)
     }
 }
 
-TEST_P(EveryVideoModel, TellsTheGradesApartThatHaveOtherFigures)
+TEST_P(EveryLadder, TellsTheGradesApartThatHaveOtherFigures)
 {
     const auto& ladders = FindVideoBitrate(GetParam())->grades;
     const auto isSame = [](const GradeLadder& left, const GradeLadder& right)
@@ -325,6 +381,8 @@ TEST_P(EveryVideoModel, TellsTheGradesApartThatHaveOtherFigures)
             }
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Codecs, EveryLadder, testing::ValuesIn(CodecsWithLadders()), CodecTestName);
 
 TEST_P(EveryVideoModel, GradeNeverFallsWhenTheBitrateGrows)
 {
