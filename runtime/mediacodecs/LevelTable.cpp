@@ -293,6 +293,13 @@ int FactorOf(int codecID, int profile)
     return row == kBitrateFactors.end() ? 1000 : row->factor;
 }
 
+/// The profile itself, or the plainest where that has limits of its own: Simple of MPEG-4.
+int KnownProfile(int codecID, int profile)
+{
+    constexpr int kSimple = 0;
+    return codecID == VXCodecID_MPEG4 && profile == IVXCodecs::VXProfileUnknown ? kSimple : profile;
+}
+
 bool HasOwnLimits(int codecID, int profile)
 {
     return std::ranges::any_of(kProfileLimits, [&](const auto& each)
@@ -326,6 +333,7 @@ int LevelNumberOf(int codecID, int avLevel)
 std::optional<LevelLimits> LimitsOf(int codecID, int profile, int level)
 {
     const int standard = StandardOf(codecID);
+    profile = KnownProfile(standard, profile);
     if (HasOwnLimits(standard, profile))
         return OwnLimits(standard, profile, level);
     const auto* row = FindRow(LevelsOf(standard), &LevelRow::number, level);

@@ -19,12 +19,24 @@ namespace Vexlor
 namespace
 {
 
-// libavcodec's MPEG-2 encoder refuses a level that comes without a profile.
+// libavcodec's MPEG-2 encoder refuses a level that comes without a profile; its MPEG-4 encoder takes it for
+// one of Simple.
 int ProfileNeededBy(const IVXCodecParameter& stream)
 {
     constexpr int kMain = 4;
-    const bool hasLevel = stream.GetLevel() != IVXCodecs::VXLevelUnknown;
-    return stream.GetCodecID() == VXCodecID_MPEG2 && hasLevel ? kMain : IVXCodecs::VXProfileUnknown;
+    constexpr int kSimple = 0;
+    if (stream.GetLevel() == IVXCodecs::VXLevelUnknown)
+        return IVXCodecs::VXProfileUnknown;
+    switch (stream.GetCodecID())
+    {
+    case VXCodecID_MPEG2:
+        return kMain;
+    case VXCodecID_MPEG4:
+    case VXCodecID_DIVX:
+        return kSimple;
+    default:
+        return IVXCodecs::VXProfileUnknown;
+    }
 }
 
 template <class Row>

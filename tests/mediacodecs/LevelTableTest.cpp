@@ -50,6 +50,15 @@ TEST(LevelTable, ACodecWithoutLevelsHasNone)
     EXPECT_FALSE(LimitsOf(VXCodecID_H264, 100, 39));
 }
 
+TEST(LevelTable, MPEG4OfNoProfileIsSimple)
+{
+    for (const int codecID : {VXCodecID_MPEG4, VXCodecID_DIVX})
+    {
+        EXPECT_EQ(384'000, LimitsOf(codecID, IVXCodecs::VXProfileUnknown, 3)->bitrate);
+        EXPECT_FALSE(LimitsOf(codecID, IVXCodecs::VXProfileUnknown, 7)); // 3b of Advanced Simple
+    }
+}
+
 TEST(LevelTable, LimitsOfOneCodecGrowWithItsLevels)
 {
     for (const auto& codec : CodecTable())
