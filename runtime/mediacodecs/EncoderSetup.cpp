@@ -194,14 +194,18 @@ void Opening::SetLabel(int& number, std::string_view option, const Label& label)
         m_options.Add(option, label.option);
 }
 
-// 4:2:2 counts its levels anew behind the escape bit: ISO/IEC 13818-2 table 8-5.
-int LevelInProfile(const StreamLabels& labels, int level)
+// 4:2:2 counts its levels anew behind the escape bit: ISO/IEC 13818-2 table 8-5. Level 0 of Simple came after
+// its other levels, when 0 had been reserved: ISO/IEC 14496-2 table G.1.
+int LevelInProfile(int codecID, const StreamLabels& labels, int level)
 {
-    if (!labels.profile || labels.profile->avNumber != VX_AV_PROFILE(MPEG2_422) ||
-        labels.profile->number != 128)
-        return level;
     constexpr int kMain = 8;
-    return labels.level->number == kMain ? 5 : 2;
+    constexpr int k422 = 128;
+    constexpr int kSimple = 0;
+    const int profile = labels.profile ? labels.profile->number : IVXCodecs::VXProfileUnknown;
+    if (codecID == VXCodecID_MPEG2 && profile == k422)
+        return labels.level->number == kMain ? 5 : 2;
+    const bool isMPEG4 = codecID == VXCodecID_MPEG4 || codecID == VXCodecID_DIVX;
+    return isMPEG4 && profile == kSimple && level == 0 ? 8 : level;
 }
 
 void Opening::SetLabels(const IVXCodecParameter& stream)
@@ -221,7 +225,7 @@ void Opening::SetLabels(const IVXCodecParameter& stream)
     if (labels.level)
     {
         SetLabel(context.level, m_row.levelOption, *labels.level);
-        context.level = LevelInProfile(labels, context.level);
+        context.level = LevelInProfile(m_codec.codec->id, labels, context.level);
     }
 }
 

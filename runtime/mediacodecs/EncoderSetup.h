@@ -43,9 +43,9 @@ struct EncoderSetup
 /// beyond them excludes itself, the label gives way: a sample format that the encoder lacks to one that it
 /// has, a profile that cannot hold the format to the first that can, a level that cannot hold the stream to
 /// the lowest that can, a bitrate that the codec cannot have to the nearest that it can. A constant bitrate
-/// has its bounds at itself; bounds, and those of a level that is
-/// chosen where no others are told, are kept over the buffer of the level. Frames are to be made as the
-/// context says. The time base is one frame, or one sample.
+/// has its bounds at itself; bounds, and those of a level that is chosen where none are told, are kept over
+/// the buffer of the level. Frames are to be made as the context says. The time base is one frame, or one
+/// sample.
 ///
 /// SVT-AV1 tells stderr what it does unless the environment has SVT_LOG=1, and waits for ever when it is
 /// closed in the middle of a stream: it has to see a frame and the end.

@@ -258,6 +258,26 @@ TEST_F(EncoderSetupTest, LevelsOf422AreCountedAnew)
     EXPECT_EQ(5, OpenEncoder(*picture, {}).context->level);
 }
 
+int LevelOfSmallMPEG4(int profile, int level)
+{
+    const auto film = Picture(VXCodecID_MPEG4);
+    film->SetWidth(176);
+    film->SetHeight(144);
+    film->SetFramePerSecond(IVXRational::MallocRational(15, 1));
+    film->SetBitrate(60'000);
+    film->SetProfile(profile);
+    film->SetLevel(level);
+    return OpenEncoder(*film, {}).context->level;
+}
+
+TEST_F(EncoderSetupTest, LevelZeroOfMPEG4SimpleHasANumberOfItsOwn)
+{
+    EXPECT_EQ(8, LevelOfSmallMPEG4(0, 0));
+    EXPECT_EQ(8, LevelOfSmallMPEG4(-99, 0));
+    EXPECT_EQ(0, LevelOfSmallMPEG4(15, 0)); // Advanced Simple
+    EXPECT_EQ(1, LevelOfSmallMPEG4(0, 1));
+}
+
 } // namespace
 
 } // namespace Vexlor
