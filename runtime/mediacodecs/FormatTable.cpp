@@ -153,6 +153,11 @@ constexpr std::array kBluRay525{PictureSize{1920, 1080}, PictureSize{720, 480}};
 constexpr std::array kSystemsOfBluRay{
     PictureSystem{kRatesOfFilm, kHighDefinition}, PictureSystem{kRatesOfMotion, kHighDefinition},
     PictureSystem{kRates25, kBluRay625}, PictureSystem{kRates2997, kBluRay525}};
+// No level of MPEG-2 holds 1080 lines fifty times a second.
+constexpr std::array kSystemsOfMPEG2OnBluRay{
+    PictureSystem{kRatesOfFilm, kHighDefinition},
+    PictureSystem{kRatesOfMotion, std::span(kHighDefinition).last(1)}, PictureSystem{kRates25, kBluRay625},
+    PictureSystem{kRates2997, kBluRay525}};
 constexpr std::array kRatesOfUltraHD{AVRational{60, 1}, AVRational{60000, 1001}, AVRational{50, 1},
                                      AVRational{25, 1}, AVRational{24, 1},       AVRational{24000, 1001}};
 constexpr std::array kUltraHD{PictureSize{3840, 2160}, PictureSize{1920, 1080}};
@@ -169,7 +174,7 @@ constexpr std::array kM2TSLimits{StreamLimit{.codecs = kCodecs<kH264>,
                                              .mostBitrate = 40'000'000},
                                  StreamLimit{.codecs = kCodecs<kMPEG2>,
                                              .frameRates = kRatesOfBluRay,
-                                             .systems = kSystemsOfBluRay,
+                                             .systems = kSystemsOfMPEG2OnBluRay,
                                              .formats = kOnly420,
                                              .profiles = kMainProfile,
                                              .levels = kMainProfileAtHighLevel,

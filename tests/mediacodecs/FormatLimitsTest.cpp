@@ -7,10 +7,12 @@
 #include "runtime/mediacodecs/ChannelLayouts.h"
 #include "runtime/mediacodecs/CodecCapabilities.h"
 #include "runtime/mediacodecs/FormatTable.h"
+#include "runtime/mediacodecs/LevelTable.h"
 #include "runtime/mediacodecs/PixelFormats.h"
 #include "runtime/mediacodecs/SampleFormats.h"
 #include "runtime/mediacodecs/Snapping.h"
 #include "runtime/mediacodecs/VXFormatParameter.h"
+#include "runtime/mediacodecs/VXLevels.h"
 
 #include <gtest/gtest.h>
 
@@ -183,6 +185,8 @@ constexpr PictureCase kPictures[] = {
     {"FilmOnBluRay", "M2TS", VXCodecID_H264, {1920, 800}, {24, 1}, "1920x1080 at 24/1, 1:1"},
     {"SmallOnBluRay", "M2TS", VXCodecID_H264, {640, 480}, {25, 1}, "720x576 at 25/1, 16:15"},
     {"Motion", "M2TS", VXCodecID_H264, {1280, 720}, {60, 1}, "1280x720 at 60000/1001, 1:1"},
+    {"MotionInMPEG2", "M2TS", VXCodecID_MPEG2, {1920, 1080}, {60, 1}, "1280x720 at 60000/1001, 1:1"},
+    {"FilmInMPEG2", "M2TS", VXCodecID_MPEG2, {1920, 1080}, {24, 1}, "1920x1080 at 24/1, 1:1"},
     {"UltraHD", "M2TS", VXCodecID_HEVC, {3840, 2160}, {30, 1}, "3840x2160 at 60/1, 1:1"},
     {"TransportStreamOfAnything", "TS", VXCodecID_H264, {640, 480}, {15, 1}, "640x480 at 15/1, 1:1"},
 };
@@ -358,6 +362,27 @@ TEST(FormatLimits, EveryRateOfALimitHasSizesWhereAnyHas)
                                                         { return av_cmp_q(rate, each) == 0; });
                                                 }))
                     << format.name << ' ' << rate.num << '/' << rate.den;
+}
+
+bool HasALevel(int codecID, PictureSize size, AVRational rate)
+{
+    VXLevelStream stream;
+    stream.codecID = codecID;
+    stream.width = size.width;
+    stream.height = size.height;
+    stream.frameRate = IVXRational::MallocRational(rate.num, rate.den);
+    return LevelsOf(codecID).empty() || SmallestLevel(stream) != IVXCodecs::VXLevelUnknown;
+}
+
+TEST(FormatLimits, ALevelHoldsEverySizeAtEveryRate)
+{
+    for (const auto& format : FormatTable())
+        for (const auto& limit : format.limits)
+            for (const auto& system : limit.systems)
+                for (const auto rate : system.rates)
+                    for (const auto size : system.sizes)
+                        EXPECT_TRUE(HasALevel(limit.codecs.front(), size, rate))
+                            << format.name << ' ' << size.width << " at " << rate.num << '/' << rate.den;
 }
 
 TEST(FormatLimits, TagsAreKnownToTheMuxer)
