@@ -126,6 +126,20 @@ std::vector<int> ChoiceCounts(const IVXCodecPreset& preset)
     return counts;
 }
 
+std::vector<std::vector<int>> LabelCases(const IVXCodecPreset& preset)
+{
+    constexpr int kAuto = 0;
+    constexpr int kLow = 1;
+    std::vector<std::vector<int>> cases;
+    if (!IsVideo(preset))
+        return cases;
+    const auto counts = ChoiceCounts(preset);
+    for (int profile = 0; profile < counts[3]; ++profile)
+        for (int level = 0; level < counts[4]; ++level)
+            cases.push_back({counts[0] - 1, counts[1] - 1, kAuto, profile, level, kLow, OfTheGrade});
+    return cases;
+}
+
 void Choose(IVXCodecPreset& preset, const std::vector<int>& entries)
 {
     auto entry = entries.begin();

@@ -14,6 +14,9 @@ class IVXFormatParameter;
 /// rate, layout, sample format, profile, quality. The last one is how the bitrate comes about: by the
 /// quality, as a user's own number, variable or constant, or between bounds.
 std::vector<int> ChoiceCounts(const IVXCodecPreset& preset);
+/// Of pictures each profile with each level, beside the last size, the last frame rate and the lowest grade:
+/// little enough for the lowest level, which pairs of choices leave without a picture that it holds.
+std::vector<std::vector<int>> LabelCases(const IVXCodecPreset& preset);
 /// Makes one entry of each list the current one.
 void Choose(IVXCodecPreset& preset, const std::vector<int>& entries);
 /// Bits a second between which a preset is matched; -1 for no bound.

@@ -12,6 +12,7 @@
 #include "tests/encode/Container.h"
 #include "tests/encode/Encoding.h"
 #include "tests/encode/Muxing.h"
+#include "tests/encode/OfferedLabels.h"
 #include "tests/encode/Pairwise.h"
 #include "tests/encode/ReadBack.h"
 #include "tests/encode/StreamOutline.h"
@@ -21,6 +22,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <iterator>
 #include <map>
 #include <set>
 
@@ -57,6 +59,7 @@ public:
 
 private:
     void Try(const PairwiseCase& entries);
+    void TellWhatIsInVain(const std::vector<PairwiseCase>& cases);
     std::shared_ptr<IVXCodecParameter> Match(const PairwiseCase& entries) const;
     bool IsLeftOut(const IVXCodecParameter& stream);
     bool IsLeftOutIn(const Container& container, const IVXCodecParameter& stream);
@@ -214,15 +217,27 @@ void Walk::Try(const PairwiseCase& entries)
     ++m_walked.combinations;
 }
 
-void Walk::All()
+// Labels are looked for in all cases, whatever the step, since that needs no encoder.
+void Walk::TellWhatIsInVain(const std::vector<PairwiseCase>& cases)
 {
-    const auto start = std::chrono::steady_clock::now();
-    const auto cases = PairwiseCases(ChoiceCounts(*m_preset));
-    for (std::size_t index = 0; index < cases.size(); index += StepOf())
-        Try(cases[index]);
+    OfferedLabels labels(*m_preset);
+    for (const auto& entries : cases)
+        labels.TakeOffKept(*Match(entries));
+    for (const auto& label : labels.Left())
+        m_walked.failures.Add("is offered, yet never kept: " + label, m_walked.codec);
     for (const auto& reason : ReasonsFor(m_codecID))
         if (StepOf() == 1 && !m_reasons.contains(reason))
             m_walked.failures.Add("nothing is lost any more for this reason: " + reason, m_walked.codec);
+}
+
+void Walk::All()
+{
+    const auto start = std::chrono::steady_clock::now();
+    auto cases = PairwiseCases(ChoiceCounts(*m_preset));
+    std::ranges::move(LabelCases(*m_preset), std::back_inserter(cases));
+    for (std::size_t index = 0; index < cases.size(); index += StepOf())
+        Try(cases[index]);
+    TellWhatIsInVain(cases);
     m_walked.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
