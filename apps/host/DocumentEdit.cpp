@@ -43,20 +43,6 @@ void RequireName(const std::string& name)
 
 const char* ListOf(bool isPreset) { return isPreset ? kPresetList : kCategoryList; }
 
-std::string JoinedPath(const std::string& category, const std::string& name)
-{
-    return category == "/" ? PathEscaped(name) : category + '/' + PathEscaped(name);
-}
-
-// As deep as what is added is nested, which its reader bounds.
-void CollectPresets(const IVXFormatNode& node, const std::string& path, std::vector<EditOutcome>& outcomes)
-{
-    for (int i = 0; i < node.FormatPresetCount(); ++i)
-        outcomes.push_back({"added", JoinedPath(path, node.GetFormatPreset(i)->Name())});
-    for (const auto& child : node.GetChildList())
-        CollectPresets(*child, JoinedPath(path, child->Name()), outcomes);
-}
-
 } // namespace
 
 std::string EmptyCategory(const std::string& name, int faceID)
@@ -143,39 +129,6 @@ void DocumentEdit::AddElement(const std::string& path, const char* list, const s
     Make([&](DocumentChanges& changes) { InsertInto(changes, parent.category, kCategoryList, {text}, {}); });
 }
 
-std::vector<EditOutcome> DocumentEdit::AddAll(const IVXFormatNode& node)
-{
-    Read();
-    std::vector<EditOutcome> outcomes;
-    Make([&](DocumentChanges& changes) { Absorb(changes, 0, node, outcomes); });
-    return outcomes;
-}
-
-// As deep as the categories that are there already.
-void DocumentEdit::Absorb(DocumentChanges& changes, DocumentPosition category, const IVXFormatNode& node,
-                          std::vector<EditOutcome>& outcomes) const
-{
-    std::vector<std::string> presets;
-    for (int i = 0; i < node.FormatPresetCount(); ++i)
-    {
-        const auto preset = node.GetFormatPreset(i);
-        const auto name = FreeName(category, kPresetList, preset->Name());
-        presets.push_back(WithName(JsonText(*preset->JsonValue(), JsonStyle::Indented), name));
-        outcomes.push_back({"added", JoinedPath(m_names->PathOf(category), name)});
-    }
-    std::vector<std::string> categories;
-    for (const auto& child : node.GetChildList())
-        if (const auto same = m_names->FindChild(category, child->Name()))
-            Absorb(changes, *same, *child, outcomes);
-        else
-        {
-            categories.push_back(JsonText(*child->JsonValue(), JsonStyle::Indented));
-            CollectPresets(*child, JoinedPath(m_names->PathOf(category), child->Name()), outcomes);
-        }
-    InsertInto(changes, category, kPresetList, presets, {});
-    InsertInto(changes, category, kCategoryList, categories, {});
-}
-
 EditOutcome DocumentEdit::Remove(const std::string& path, bool mayHoldMore)
 {
     Read();
@@ -210,7 +163,7 @@ EditOutcome DocumentEdit::Move(const std::string& path, const std::optional<std:
     const auto name = NameOf(value);
     if (target != from)
         RequireFree(target, list, name);
-    EditOutcome outcome{"moved", JoinedPath(m_names->PathOf(target), name), m_names->PathOf(value)};
+    EditOutcome outcome{"moved", PathBelow(m_names->PathOf(target), name), m_names->PathOf(value)};
     const auto ordinal = (*m_tree)[value].ordinal;
     const auto to = OrdinalOf(target, list, place);
     if (target == from && (to == ordinal || to == ordinal + 1))
@@ -236,7 +189,7 @@ EditOutcome DocumentEdit::Rename(const std::string& path, const std::string& nam
         const auto category = CategoryOf(value);
         if (NameOf(value) != name)
             RequireFree(category, ListOf(m_names->IsPreset(value)), name);
-        outcome.path = JoinedPath(m_names->PathOf(category), name);
+        outcome.path = PathBelow(m_names->PathOf(category), name);
     }
     Make([&](DocumentChanges& changes) { changes.SetMember(value, "name", JsonQuoted(name)); });
     return outcome;
@@ -262,7 +215,7 @@ EditOutcome DocumentEdit::Clone(const std::string& path, const std::optional<std
         RequireFree(target, ListOf(isPreset), *name);
     const auto newName = name ? *name : FreeName(target, ListOf(isPreset), oldName);
     text = WithName(text, newName);
-    outcome.path = JoinedPath(m_names->PathOf(target), newName);
+    outcome.path = PathBelow(m_names->PathOf(target), newName);
     Make([&](DocumentChanges& changes) { InsertInto(changes, target, ListOf(isPreset), {text}, {}); });
     return outcome;
 }
@@ -303,7 +256,7 @@ DocumentEdit::Parent DocumentEdit::FindParent(const std::vector<std::string>& na
             parent.missing.push_back(name);
     if (!parent.missing.empty() && !mayMakeParents)
         throw Failure("no category " +
-                      Quoted(JoinedPath(m_names->PathOf(parent.category), parent.missing.front())));
+                      Quoted(PathBelow(m_names->PathOf(parent.category), parent.missing.front())));
     return parent;
 }
 
@@ -340,7 +293,7 @@ std::uint32_t DocumentEdit::OrdinalOf(DocumentPosition category, const char* lis
 void DocumentEdit::RequireFree(DocumentPosition category, const char* list, const std::string& name) const
 {
     if (m_names->IsTaken(category, list, name))
-        throw Failure(Quoted(JoinedPath(m_names->PathOf(category), name)) + " is there already");
+        throw Failure(Quoted(PathBelow(m_names->PathOf(category), name)) + " is there already");
 }
 
 std::string DocumentEdit::FreeName(DocumentPosition category, const char* list, const std::string& name) const

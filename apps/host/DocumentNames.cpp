@@ -123,6 +123,11 @@ DocumentPosition DocumentNames::AtPointer(const std::string& pointer) const
     throw Failure("nothing stands at " + Quoted(pointer));
 }
 
+std::string PathBelow(const std::string& category, const std::string& name)
+{
+    return category == kRoot ? PathEscaped(name) : category + '/' + PathEscaped(name);
+}
+
 std::vector<std::string> NamesOfPath(const std::string& path)
 {
     std::vector<std::string> names(1);

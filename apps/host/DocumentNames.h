@@ -58,6 +58,9 @@ private:
     std::vector<Entry> m_entries;
 };
 
+/// The path of what has that name and stands in the category of that path.
+std::string PathBelow(const std::string& category, const std::string& name);
+
 /// The names of a path, without the marks of slashes inside of them.
 std::vector<std::string> NamesOfPath(const std::string& path);
 
