@@ -2,6 +2,7 @@
 
 #include "BitrateMath.h"
 #include "ChannelLayouts.h"
+#include "EncoderTable.h"
 #include "IVXRational.h"
 #include "LevelTable.h"
 #include "VXLevels.h"
@@ -33,16 +34,30 @@ std::optional<LevelLimits> LowestLevel(int codecID, const PictureStream& stream)
     return LimitsOf(codecID, IVXCodecs::VXProfileUnknown, SmallestLevel(LevelStreamOf(codecID, stream)));
 }
 
-/// The most of the levels that hold the same pictures as one, or of all levels.
-double MostBitrate(const VideoBitrateRow& row, const std::optional<LevelLimits>& own = {})
+/// The most of the levels that hold the same pictures as one, or of all levels, as far as they are made.
+double MostOfLevels(const VideoBitrateRow& row, const std::optional<LevelLimits>& own)
 {
     if (row.maxBitrate > 0)
         return double(row.maxBitrate);
     std::int64_t most = 0;
     for (const auto& level : LevelsOf(row.codecID))
-        if (!own || (level.limits.picture == own->picture && level.limits.rate == own->rate))
+        if (!level.onlyRead &&
+            (!own || (level.limits.picture == own->picture && level.limits.rate == own->rate)))
             most = std::max(most, level.limits.bitrate);
     return most > 0 ? double(most) : std::numeric_limits<int>::max();
+}
+
+/// The most of the encoder that is taken where none is named.
+double MostOfEncoder(int codecID)
+{
+    const auto& encoders = CapabilitiesOf(codecID)->encoders;
+    const int most = encoders.empty() ? 0 : FindEncoder(encoders.front()).mostBitrate;
+    return most > 0 ? most : std::numeric_limits<int>::max();
+}
+
+double MostBitrate(const VideoBitrateRow& row, const std::optional<LevelLimits>& own = {})
+{
+    return std::min(MostOfLevels(row, own), MostOfEncoder(row.codecID));
 }
 
 double Nearest(double bitrate, std::span<const int> legal)

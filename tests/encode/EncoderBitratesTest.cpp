@@ -7,7 +7,6 @@
 #include "runtime/mediacodecs/BitrateSnapping.h"
 #include "runtime/mediacodecs/CodecCapabilities.h"
 #include "runtime/mediacodecs/EncoderSetup.h"
-#include "runtime/mediacodecs/EncoderTable.h"
 #include "runtime/mediacodecs/FFmpegQuiet.h"
 #include "runtime/mediacodecs/Snapping.h"
 #include "tests/encode/Encoding.h"
@@ -83,10 +82,8 @@ protected:
         const auto& codec = *CapabilitiesOf(GetParam());
         if (codec.codec->type == VXCodecTypeAudio)
             return NearestBitrate(codec, SoundOf(*stream, stream->GetFormat()), wanted);
-        const int nearest = NearestBitrate(codec, PictureOf(*stream, stream->GetFormat()),
-                                           IVXCodecs::VXProfileUnknown, wanted);
-        const int most = FindEncoder(codec.encoders.front()).mostBitrate;
-        return most > 0 ? std::min(nearest, most) : nearest;
+        return NearestBitrate(codec, PictureOf(*stream, stream->GetFormat()), IVXCodecs::VXProfileUnknown,
+                              wanted);
     }
     const FFmpegQuiet quiet;
     std::shared_ptr<IVXCodecParameter> stream = StreamOf(GetParam());
@@ -202,6 +199,22 @@ constexpr NearestCase kNearest[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Codecs, NearestBitrateTo, testing::ValuesIn(kNearest),
                          [](const auto& test) { return test.param.name; });
+
+// No encoder makes the High tier, and SVT-AV1 takes 100 Mb/s at most.
+TEST(EncoderBitrates, TheGradesOfTheLargestAV1AreTaken)
+{
+    const auto& codec = *CapabilitiesOf(VXCodecID_AV1);
+    const auto best = [&](PictureSize size, int frameRate)
+    {
+        return VideoBitrate(codec, {size.width, size.height, double(frameRate), VXPixFormat_YUV420P},
+                            IVXCodecs::QualityLevelBest);
+    };
+    EXPECT_EQ(30'000'000, best({3840, 2160}, 30));
+    EXPECT_EQ(60'000'000, best({7680, 4320}, 30));
+    EXPECT_EQ(100'000'000, best({7680, 4320}, 60));
+    const bool isSVT = !codec.encoders.empty() && codec.encoders.front() == "libsvtav1";
+    EXPECT_LE(best({7680, 4320}, 120), isSVT ? 100'000'000 : 160'000'000);
+}
 
 TEST(EncoderBitrates, AProfileThatIsAskedForHasItsOwn)
 {

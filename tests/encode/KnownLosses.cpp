@@ -50,8 +50,7 @@ constexpr std::array kLosses{
 };
 
 // A profile of ProRes and DNxHR has a bitrate of its own, whatever the grade that is chosen beside it.
-// SVT-AV1 has 100 Mb/s at most, whatever level 6.3 allows.
-constexpr auto kOtherBitrates = kCodecs<VXCodecID_ProRes, VXCodecID_DNxHR, VXCodecID_AV1>;
+constexpr auto kOtherBitrates = kCodecs<VXCodecID_ProRes, VXCodecID_DNxHR>;
 
 /// How exactly a container tells a frame rate.
 struct ClockRow
