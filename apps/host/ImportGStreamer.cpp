@@ -99,6 +99,7 @@ private:
     void ReadStream(const KeyFileGroup& stream, bool isVideo);
     void ReadFields(const KeyFileGroup& stream, const StreamCaps& caps, std::string_view key, bool isVideo);
     void ReadSizes(const ImportSource& source, const StreamCaps& caps);
+    void ReadLeastSize(const ImportSource& source, const std::string& size);
     bool ReadField(const ImportSource& source, const CapsField& field, bool isVideo);
     void SetOne(const ImportSource& source, const Field& field, const CapsValue& value);
     void FindTheRest(const KeyFileGroup& group, const std::set<std::string_view>& read);
@@ -244,9 +245,15 @@ void ProfileReader::ReadSizes(const ImportSource& source, const StreamCaps& caps
     if (isRange && (IsEmpty(*width) || IsEmpty(*height)))
         return m_target.LeaveOut(member, "the range is empty");
     m_target.Set(member, isRange ? "max-size" : "resolution", Highest(*width) + 'x' + Highest(*height));
-    const auto least = isRange ? SizeOf(Lowest(*width) + 'x' + Lowest(*height)) : std::nullopt;
+    if (isRange)
+        ReadLeastSize(member, Lowest(*width) + 'x' + Lowest(*height));
+}
+
+void ProfileReader::ReadLeastSize(const ImportSource& source, const std::string& size)
+{
+    const auto least = SizeOf(size);
     if (least && (least->first > 1 || least->second > 1))
-        m_target.Set(member, "min-size", Lowest(*width) + 'x' + Lowest(*height));
+        m_target.Set(source, "min-size", size);
 }
 
 bool ProfileReader::ReadField(const ImportSource& source, const CapsField& field, bool isVideo)
