@@ -16,12 +16,12 @@ using enum VideoBitrateKind;
 // ---- H.264 ------------------------------------------------------------------------------------------------
 
 // Normal. Apple, HLS authoring rules for Apple devices, revision of 2025-06-26, H.264 at up to 30
-// fps, the lower figure where a size has two. From 1440p on its HEVC figures (8100, 11600) by 1/0.6, the
-// factor of HEVC in Jellyfin's encoder settings.
+// fps, the lower figure where a size has two. Above 1080p its HEVC figures: at 1440p (8100) by 1/0.75, as its
+// two stand at 1080p, at 2160p (11600) by 1/0.6, the factor of HEVC in Jellyfin's encoder settings.
 constexpr std::array kH264Normal{
     LadderPoint{416, 234, 145},     LadderPoint{640, 360, 365},     LadderPoint{768, 432, 730},
     LadderPoint{960, 540, 2000},    LadderPoint{1280, 720, 3000},   LadderPoint{1920, 1080, 6000},
-    LadderPoint{2560, 1440, 13500}, LadderPoint{3840, 2160, 19333},
+    LadderPoint{2560, 1440, 10800}, LadderPoint{3840, 2160, 19333},
 };
 
 // Low. Two thirds of Normal, Apple's own step where it has two figures for one size: 730 and 1100, 3000 and
@@ -69,21 +69,22 @@ constexpr Grades kHEVC{GradeLadder{kHEVCNormal, kLow}, {kHEVCNormal}, {kHEVCHigh
 // ---- VP9 and AV1 ------------------------------------------------------------------------------------------
 
 // A grade is to look the same in every codec, so H.264's ladders by 0.6, the factor of VP9 in Jellyfin's
-// encoder settings, are the base. Google, VP9 recommended settings (developers.google.com/media/vp9/settings,
-// read in 2026), average bitrate for VOD at 24 to 30 fps, has a third of Apple's
-// H.264 at 720p and 1080p, three quarters of it at 360p and more than it at 240p and 480p: it aims lower
-// where most is watched. Its figures are therefore found at other grades by the size, and a point near one
-// leans its way, by no more than brings it within 15 %: Low has 720p (1024), 1080p (1800) and 1440p (6000);
-// Normal 360p (276), 480p of low quality (512) and 2160p (12000); High 240p (150) and 480p of medium quality
-// (750).
+// encoder settings, are the base. Google, VP9 recommended settings
+// (developers.google.com/media/vp9/settings, read in 2026), average bitrate for VOD at 24 to 30 fps, has a
+// third of Apple's H.264 at 720p and 1080p, three quarters of it at 360p and more than it at 240p and 480p:
+// it aims lower where most is watched. Its figures are therefore found at other grades by the size, and a
+// point near one leans its way, by no more than brings it within 15 %: Low has 720p (1024) and 1080p
+// (1800); Normal 360p (276), 480p of low quality (512), 1440p (6000) and 2160p (12000); High 240p (150) and
+// 480p of medium quality (750). At 1440p a pixel of Low costs as much as at 1080p, not more as it would by
+// H.264's ladder (4320).
 constexpr std::array kVP9Low{
     LadderPoint{640, 360, 146},    LadderPoint{640, 480, 252},    LadderPoint{960, 540, 800},
-    LadderPoint{1280, 720, 1170},  LadderPoint{1920, 1080, 2060}, LadderPoint{2560, 1440, 5400},
+    LadderPoint{1280, 720, 1170},  LadderPoint{1920, 1080, 2060}, LadderPoint{2560, 1440, 3650},
     LadderPoint{3840, 2160, 7733},
 };
 constexpr std::array kVP9Normal{
     LadderPoint{640, 360, 240},     LadderPoint{640, 480, 440},    LadderPoint{960, 540, 1200},
-    LadderPoint{1280, 720, 1800},   LadderPoint{1920, 1080, 3600}, LadderPoint{2560, 1440, 8100},
+    LadderPoint{1280, 720, 1800},   LadderPoint{1920, 1080, 3600}, LadderPoint{2560, 1440, 6480},
     LadderPoint{3840, 2160, 11600},
 };
 // Without Apple's figure for 432p, which is less than Google's here.

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <functional>
+#include <span>
+#include <string_view>
 #include <tuple>
 
 namespace Vexlor
@@ -38,6 +40,40 @@ TEST(BitrateTable, LaddersRiseWithThePicture)
                                                    [](const auto& point)
                                                    { return point.width * point.height; }));
             }
+}
+
+/// YouTube's own figures, which go up to 4320p, cost more a pixel at 1440p and at 2160p than below.
+bool IsOfYouTube(std::span<const LadderPoint> points) { return points.back().height == 4320; }
+
+void ExpectNoDearerPixels(std::span<const LadderPoint> points, std::string_view codec)
+{
+    constexpr double kRounding = 1.02; // published figures are whole hundreds
+    const auto cost = [](const LadderPoint& point) { return point.kbps / (point.width * point.height); };
+    for (std::size_t i = 1; i < points.size(); ++i)
+        if (points[i - 1].height >= 720)
+        {
+            EXPECT_LE(cost(points[i]), cost(points[i - 1]) * kRounding) << codec << ' ' << points[i].height;
+        }
+}
+
+TEST(BitrateTable, APixelCostsNoMoreInALargerPicture)
+{
+    for (const auto& codec : CodecTable())
+        if (const auto* row = FindVideoBitrate(codec.id))
+            for (const auto& ladder : row->grades)
+                if (!ladder.points.empty() && !IsOfYouTube(ladder.points))
+                    ExpectNoDearerPixels(ladder.points, codec.name);
+}
+
+TEST(BitrateTable, NormalIsNotNearHighAt1440p)
+{
+    const auto at1440p = [](std::span<const LadderPoint> points)
+    { return std::ranges::find(points, 1440, &LadderPoint::height)->kbps; };
+    for (const int codecID : {VXCodecID_H264, VXCodecID_VP9})
+    {
+        const auto& grades = FindVideoBitrate(codecID)->grades;
+        EXPECT_GE(at1440p(grades.at(2).points), 1.25 * at1440p(grades.at(1).points)) << codecID;
+    }
 }
 
 TEST(BitrateTable, CodecsWithLaddersHaveOneForEveryGrade)
