@@ -1,12 +1,12 @@
 #include "fuzz/ChoiceReader.h"
 #include "fuzz/Require.h"
 
+#include "apps/host/Failure.h"
 #include "apps/vxpresets/ArtworkCommands.h"
-#include "apps/vxpresets/EditCommands.h"
 #include "apps/vxpresets/CommandLine.h"
 #include "apps/vxpresets/ConvertCommands.h"
+#include "apps/vxpresets/EditCommands.h"
 #include "apps/vxpresets/ImportCommand.h"
-#include "apps/host/Failure.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,11 +1,11 @@
 #include "fuzz/Require.h"
 
-#include "apps/host/DocumentFindings.h"
-#include "apps/host/DocumentMeaning.h"
-#include "apps/host/DocumentShape.h"
 #include "apps/host/Failure.h"
-#include "apps/host/Import.h"
-#include "apps/host/Qualities.h"
+#include "apps/host/document/DocumentFindings.h"
+#include "apps/host/document/DocumentMeaning.h"
+#include "apps/host/document/DocumentShape.h"
+#include "apps/host/document/Qualities.h"
+#include "apps/host/import/Import.h"
 
 #include "IVXFormatNode.h"
 #include "IVXJsonValue.h"

@@ -8,7 +8,6 @@
 
 #include "IVXError.h"
 
-
 namespace Vexlor::Tool
 {
 

@@ -2,8 +2,8 @@
 
 #include "Failure.h"
 #include "NameSearch.h"
-#include "Qualities.h"
 #include "Text.h"
+#include "apps/host/document/Qualities.h"
 #include "catalog/DefaultTree.h"
 
 #include "IVXFormatNode.h"

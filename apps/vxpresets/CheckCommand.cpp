@@ -1,14 +1,14 @@
 #include "Commands.h"
 
 #include "ArtworkChoice.h"
-#include "apps/host/DocumentFile.h"
-#include "apps/host/DocumentFindings.h"
-#include "apps/host/DocumentMeaning.h"
-#include "apps/host/DocumentPlaces.h"
-#include "apps/host/DocumentShape.h"
 #include "apps/host/Failure.h"
 #include "apps/host/Json.h"
 #include "apps/host/Text.h"
+#include "apps/host/document/DocumentFile.h"
+#include "apps/host/document/DocumentFindings.h"
+#include "apps/host/document/DocumentMeaning.h"
+#include "apps/host/document/DocumentPlaces.h"
+#include "apps/host/document/DocumentShape.h"
 
 #include <set>
 

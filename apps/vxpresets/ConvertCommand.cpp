@@ -4,13 +4,13 @@
 #include "Interruption.h"
 #include "MatchText.h"
 #include "ProgressText.h"
-#include "apps/host/Conversion.h"
 #include "apps/host/Failure.h"
 #include "apps/host/Json.h"
-#include "apps/host/MediaMatch.h"
-#include "apps/host/OutputFile.h"
-#include "apps/host/SizeEstimate.h"
 #include "apps/host/Text.h"
+#include "apps/host/convert/Conversion.h"
+#include "apps/host/convert/OutputFile.h"
+#include "apps/host/match/MediaMatch.h"
+#include "apps/host/match/SizeEstimate.h"
 
 #include <cstdio>
 

@@ -1,7 +1,7 @@
 #include "EditCommands.h"
 
-#include "apps/host/PresetValues.h"
 #include "apps/host/Text.h"
+#include "apps/host/document/PresetValues.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,10 +1,10 @@
 #include "EditCommands.h"
 
-#include "apps/host/DocumentSave.h"
 #include "apps/host/Failure.h"
 #include "apps/host/Json.h"
-#include "apps/host/PresetCodecs.h"
 #include "apps/host/Text.h"
+#include "apps/host/document/DocumentSave.h"
+#include "apps/host/document/PresetCodecs.h"
 #include "runtime/foundation/VXJson.h"
 
 #include "IVXFormatPreset.h"

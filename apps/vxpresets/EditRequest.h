@@ -1,6 +1,6 @@
 #pragma once
 
-#include "apps/host/DocumentEdit.h"
+#include "apps/host/document/DocumentEdit.h"
 
 #include <optional>
 #include <string>

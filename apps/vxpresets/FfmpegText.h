@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ConvertRequest.h"
-#include "apps/host/FfmpegCommand.h"
+#include "apps/host/convert/FfmpegCommand.h"
 
 #include <string>
 

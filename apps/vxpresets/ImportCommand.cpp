@@ -1,11 +1,11 @@
 #include "ImportCommand.h"
 
-#include "apps/host/DocumentEdit.h"
-#include "apps/host/DocumentSave.h"
 #include "apps/host/Failure.h"
-#include "apps/host/Import.h"
 #include "apps/host/Json.h"
 #include "apps/host/Text.h"
+#include "apps/host/document/DocumentEdit.h"
+#include "apps/host/document/DocumentSave.h"
+#include "apps/host/import/Import.h"
 #include "runtime/foundation/VXAtomicFile.h"
 #include "runtime/foundation/VXJson.h"
 

@@ -1,10 +1,10 @@
 #include "ConvertCommands.h"
 
 #include "Table.h"
-#include "apps/host/CatalogueMatch.h"
 #include "apps/host/Json.h"
-#include "apps/host/MediaMatch.h"
 #include "apps/host/Text.h"
+#include "apps/host/match/CatalogueMatch.h"
+#include "apps/host/match/MediaMatch.h"
 
 #include "IVXFormatParameter.h"
 #include "runtime/foundation/VXLogSink.h"

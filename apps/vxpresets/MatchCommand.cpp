@@ -2,8 +2,8 @@
 
 #include "FfmpegText.h"
 #include "MatchText.h"
-#include "apps/host/MediaMatch.h"
 #include "apps/host/Text.h"
+#include "apps/host/match/MediaMatch.h"
 
 #include "IVXFormatParameter.h"
 

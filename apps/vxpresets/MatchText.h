@@ -1,8 +1,8 @@
 #pragma once
 
 #include "Style.h"
-#include "apps/host/MatchWarnings.h"
-#include "apps/host/MediaMatch.h"
+#include "apps/host/match/MatchWarnings.h"
+#include "apps/host/match/MediaMatch.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "ProgressText.h"
 
-#include "apps/host/SizeEstimate.h"
+#include "apps/host/match/SizeEstimate.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Style.h"
-#include "apps/host/Conversion.h"
+#include "apps/host/convert/Conversion.h"
 
 #include <string>
 

@@ -3,10 +3,10 @@
 #include "Table.h"
 #include "apps/host/Failure.h"
 #include "apps/host/Json.h"
-#include "apps/host/MediaMatch.h"
-#include "apps/host/SizePlan.h"
 #include "apps/host/Text.h"
 #include "apps/host/Units.h"
+#include "apps/host/match/MediaMatch.h"
+#include "apps/host/match/SizePlan.h"
 
 #include "IVXFormatParameter.h"
 #include "IVXFormatPreset.h"

@@ -1,4 +1,4 @@
-#include "apps/host/CatalogueMatch.h"
+#include "apps/host/match/CatalogueMatch.h"
 
 #include "apps/host/Text.h"
 #include "tests/apps/Sources.h"

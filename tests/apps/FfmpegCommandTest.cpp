@@ -1,8 +1,8 @@
-#include "apps/host/FfmpegCommand.h"
+#include "apps/host/convert/FfmpegCommand.h"
 
 #include "apps/host/Failure.h"
-#include "apps/host/MediaMatch.h"
 #include "apps/host/Text.h"
+#include "apps/host/match/MediaMatch.h"
 #include "tests/apps/Sources.h"
 
 #include "IVXCodecPreset.h"

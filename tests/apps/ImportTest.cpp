@@ -2,7 +2,7 @@
 #include "tests/foundation/TestFolder.h"
 
 #include "apps/host/Failure.h"
-#include "apps/host/Import.h"
+#include "apps/host/import/Import.h"
 
 #include "IVXCodecPreset.h"
 #include "IVXCodecQualityPreset.h"

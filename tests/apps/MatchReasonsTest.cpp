@@ -1,4 +1,4 @@
-#include "apps/host/MatchReasons.h"
+#include "apps/host/match/MatchReasons.h"
 
 #include "apps/host/Catalogue.h"
 #include "runtime/foundation/VXLogSink.h"

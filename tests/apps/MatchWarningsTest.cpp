@@ -1,6 +1,6 @@
-#include "apps/host/MatchWarnings.h"
+#include "apps/host/match/MatchWarnings.h"
 
-#include "apps/host/MediaMatch.h"
+#include "apps/host/match/MediaMatch.h"
 #include "tests/apps/Sources.h"
 
 #include "IVXCodecPreset.h"

@@ -1,8 +1,8 @@
-#include "apps/host/SizeEstimate.h"
-#include "apps/host/SizePlan.h"
+#include "apps/host/match/SizeEstimate.h"
+#include "apps/host/match/SizePlan.h"
 
 #include "apps/host/Failure.h"
-#include "apps/host/MediaMatch.h"
+#include "apps/host/match/MediaMatch.h"
 #include "tests/apps/Sources.h"
 
 #include "IVXCodecPreset.h"
