@@ -48,4 +48,13 @@ std::uint32_t WritableTag(const AVOutputFormat& muxer, const AVCodecParameters& 
     return 0;
 }
 
+std::vector<std::pair<std::string, std::string>> MuxerOptions(std::string_view muxer)
+{
+    // As strict as it is by default, QuickTime's writes H.264 of 4:2:2 and ten bits as AVC-Intra, whatever it
+    // is, and what is none cannot be decoded.
+    if (muxer == "mov")
+        return {{"strict", "unofficial"}};
+    return {};
+}
+
 } // namespace Vexlor

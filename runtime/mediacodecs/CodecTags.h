@@ -1,6 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 struct AVCodecParameters;
 struct AVOutputFormat;
@@ -14,5 +18,8 @@ namespace Vexlor
 /// same. Where none is asked for, or neither is known, the encoder's own, since some tell their profile by
 /// it; else 0, the muxer's own choice.
 std::uint32_t WritableTag(const AVOutputFormat& muxer, const AVCodecParameters& encoded, std::uint32_t tag);
+
+/// Options that a muxer of that name is told so that it writes the tags that streams have.
+std::vector<std::pair<std::string, std::string>> MuxerOptions(std::string_view muxer);
 
 } // namespace Vexlor

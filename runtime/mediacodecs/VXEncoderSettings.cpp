@@ -148,4 +148,9 @@ std::string MuxerTagFor(const std::string& formatName, const IVXCodecParameter& 
     return tag == 0 ? std::string() : TagText(tag);
 }
 
+std::vector<std::pair<std::string, std::string>> MuxerOptionsFor(const std::string& formatName)
+{
+    return MuxerOptions(MuxerFor(formatName));
+}
+
 } // namespace Vexlor

@@ -40,4 +40,8 @@ VX_MEDIACODECS_API std::string MuxerFor(const std::string& formatName);
 /// muxer chooses.
 VX_MEDIACODECS_API std::string MuxerTagFor(const std::string& formatName, const IVXCodecParameter& stream);
 
+/// Options that this muxer is told with their values, as those of an encoder; often none.
+VX_MEDIACODECS_API std::vector<std::pair<std::string, std::string>>
+MuxerOptionsFor(const std::string& formatName);
+
 } // namespace Vexlor

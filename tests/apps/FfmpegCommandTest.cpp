@@ -111,6 +111,12 @@ TEST(FfmpegCommand, TagsAsTheContainersPlayersWant)
                 Not(HasSubstr("-tag")));
 }
 
+TEST(FfmpegCommand, LetsQuickTimeTagWhatIsNoIntraCodecAsItIs)
+{
+    EXPECT_THAT(CommandFor(*PresetOf("MOV", VXCodecID_H264, 0), FileOf(VideoSource{})),
+                HasSubstr(" -strict unofficial -f mov "));
+}
+
 TEST(FfmpegCommand, GivesAnimationsAPaletteOfTheirOwn)
 {
     EXPECT_THAT(

@@ -103,7 +103,9 @@ bool IsExpectedToGiveWay(const std::string& change, int codecID, bool hasOffered
         return true;
     const bool isOffered =
         hasOfferedBitrate && std::ranges::find(kOtherBitrates, codecID) == kOtherBitrates.end();
-    return !isOffered && (change.starts_with("bitrate ") || change.starts_with("constant bitrate "));
+    constexpr std::array kOfBitrates{"bitrate ", "constant bitrate ", "bounds of the bitrate "};
+    return !isOffered &&
+           std::ranges::any_of(kOfBitrates, [&](const char* start) { return change.starts_with(start); });
 }
 
 double RateToleranceOf(const std::string& container)

@@ -7,6 +7,7 @@
 extern "C"
 {
 #include <libavformat/avformat.h>
+#include <libavutil/opt.h>
 }
 
 namespace Vexlor
@@ -37,6 +38,8 @@ int OpenOutput(Output& output, const std::string& muxer, const std::string& path
         return code;
     output.reset(context);
     context->max_delay = kMuxDelay;
+    for (const auto& [name, value] : MuxerOptions(muxer))
+        av_opt_set(context, name.c_str(), value.c_str(), AV_OPT_SEARCH_CHILDREN);
     return avio_open(&context->pb, path.c_str(), AVIO_FLAG_WRITE);
 }
 

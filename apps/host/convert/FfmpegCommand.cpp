@@ -95,6 +95,8 @@ FfmpegCommand FfmpegCommandFor(const MediaMatch& match, const std::string& sourc
         const auto settings = options.AddEncoder(*audio, match.media.audioStream);
         options.Add("filter", SoundFilters(*from.audio.parameter, *audio, settings));
     }
+    for (const auto& [name, value] : MuxerOptionsFor(container))
+        command.streams.insert(command.streams.end(), {'-' + name, value});
     command.streams.insert(command.streams.end(), {"-f", muxer});
     return command;
 }
