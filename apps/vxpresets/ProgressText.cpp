@@ -45,8 +45,8 @@ std::string ProgressText(const ConversionProgress& progress)
         text += speed.data();
     }
     if (progress.Left() >= 0)
-        text += ", " + DurationText(progress.Left()) + " left";
-    return text + ", " + SizeOfBytes(double(progress.bytes));
+        text.append(", ").append(DurationText(progress.Left())).append(" left");
+    return text.append(", ").append(SizeOfBytes(double(progress.bytes)));
 }
 
 std::string ProgressBar(const ConversionProgress& progress, const Style& style)
