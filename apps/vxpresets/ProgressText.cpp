@@ -67,7 +67,7 @@ void ProgressLines::Show(const ConversionProgress& progress)
 {
     if (m_style.hasLines)
     {
-        const auto line = "\r" + ProgressBar(progress, m_style) + "\x1b[K";
+        const auto line = std::string("\r").append(ProgressBar(progress, m_style)).append("\x1b[K");
         if (line != m_last)
             Write(line);
         m_last = line;
