@@ -10,7 +10,8 @@ namespace Vexlor::Tool
 namespace
 {
 
-constexpr std::array kSignals{SIGINT, SIGTERM, SIGHUP};
+// A pipe that nobody reads any more ends a conversion as the user would.
+constexpr std::array kSignals{SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGPIPE};
 
 volatile std::sig_atomic_t s_hasCome = 0;
 std::array<struct sigaction, kSignals.size()> s_before{};
@@ -26,7 +27,11 @@ Interruption::Interruption()
     action.sa_handler = Note;
     sigemptyset(&action.sa_mask);
     for (std::size_t i = 0; i < kSignals.size(); ++i)
+    {
         sigaction(kSignals.at(i), &action, &s_before.at(i));
+        if (s_before.at(i).sa_handler == SIG_IGN) // as nohup has it
+            sigaction(kSignals.at(i), &s_before.at(i), nullptr);
+    }
 }
 
 Interruption::~Interruption()

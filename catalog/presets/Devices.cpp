@@ -30,8 +30,8 @@ constexpr std::array kPhones{
            kAppleSound},
     // support.apple.com/HT207022: HEVC since iPhone 7; 40 Mb/s is level 5.1, main tier (H.265 table A.9).
     Preset{"iPhone 4K", "iPhone 8 and newer", kMP4, kHEVC.Within(3840, 2160).UpTo(40'000), kAppleSound},
-    // support.apple.com/kb/SP587: H.264 Main at level 3.1, 720p at 30 frames; 14 Mb/s is the level's own
-    // bound.
+    // support.apple.com/kb/SP587: H.264 Main at level 3.1, 720p at 30 frames; 10 Mb/s of
+    // the level's 14: our choice.
     Preset{"iPhone 4", "iPhone 4 and 4S, and iPod touch of those years", kM4V,
            kH264.Within(1280, 720).Rate(30'000, 1'001).Profile("Main", "3.1").UpTo(10'000), kAppleSound},
     // support.apple.com/kb/SP572: H.264 Baseline to level 3.0, 2.5 Mb/s, 640 x 480 at 30 frames.

@@ -132,11 +132,11 @@ constexpr std::array kBroadcast{
 // Sizes and rates: our choice; every size beyond these makes files that no page can carry.
 constexpr std::array kAnimations{
     Preset{"GIF", "A short loop that everything shows, 256 colours; keep it to seconds", kGIFFile,
-           kGIF.Within(480, 480).Rate(10).UpTo(9'216)},
+           kGIF.Within(480, 270).Rate(10).UpTo(9'216)},
     Preset{"Small GIF", "A short loop for messages and forums", kGIFFile,
-           kGIF.Within(320, 320).Rate(10).UpTo(4'096)},
+           kGIF.Within(320, 180).Rate(10).UpTo(4'096)},
     Preset{"WEBP", "A short loop for web pages, all colours, a third of the size of a GIF", kWEBPFile,
-           kWebP.Within(640, 640).Rate(20).UpTo(8'000)},
+           kWebP.Within(640, 360).Rate(20).UpTo(8'000)},
 };
 
 constexpr std::array kGroups{

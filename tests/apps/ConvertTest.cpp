@@ -367,6 +367,18 @@ TEST(Convert, LeavesNothingBehindWhenItIsInterrupted)
     EXPECT_FALSE(IsWrittenTo(conversions.Path("")));
 }
 
+TEST(Convert, LeavesNothingBehindWhenNobodyReads)
+{
+    const Conversions conversions;
+    Media::RunFfmpeg("-f lavfi -i testsrc2=size=160x90:rate=25:duration=10 -c:v mpeg4",
+                     conversions.Path("in.mp4"));
+    const auto tool = std::string(VX_TOOL) + " convert " + conversions.Path("in.mp4") + ' ' +
+                      conversions.Path("out.webm") + " --preset Slow --document " + conversions.Document();
+    RunShell("timeout 60 " + tool + " 2>" + conversions.Path("log") + " | head -n 1 >/dev/null");
+    EXPECT_EQ("in.mp4 log", conversions.Left());
+    EXPECT_FALSE(IsWrittenTo(conversions.Path("")));
+}
+
 TEST(CommandLineForFfmpeg, DoesWhatConvertDoes)
 {
     const Conversions conversions;

@@ -357,6 +357,15 @@ TEST_F(Edit, BackupKeepsTheOldFile)
     EXPECT_EQ(std::filesystem::perms(0640), std::filesystem::status(m_path).permissions());
 }
 
+TEST_F(Edit, BackupStaysWhereNothingChanges)
+{
+    Said({"rename", "A", "Z", "--backup"});
+    Said({"set", "Z", "description=x", "--backup"});
+    const auto backup = ContentOf(m_path + ".bak");
+    Said({"set", "Z", "description=x", "--backup"});
+    EXPECT_EQ(backup, ContentOf(m_path + ".bak"));
+}
+
 TEST_F(Edit, BackupThatCannotBeWrittenCostsNothing)
 {
     std::filesystem::create_directory(m_path + ".bak");

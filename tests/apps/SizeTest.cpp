@@ -143,6 +143,17 @@ TEST(SizePlan, IsNotMadeForACodecThatIsNotKnown)
     EXPECT_THAT(plan.reason, testing::HasSubstr("is not known"));
 }
 
+TEST(SizePlan, SolvesNoBitrateWhereTheContentDecides)
+{
+    for (const auto* container : {"GIF", "WEBP"})
+    {
+        const auto plan = PlanOf(container, Film(), "1MB");
+        EXPECT_FALSE(plan.isPossible) << container;
+        EXPECT_EQ(0, plan.videoBitrate) << container;
+        EXPECT_THAT(plan.reason, testing::HasSubstr("whatever the bitrate"));
+    }
+}
+
 TEST(SizePlan, StaysWithinThePresetsBounds)
 {
     const auto preset = PresetOf("MP4");

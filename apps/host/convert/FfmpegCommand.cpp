@@ -82,6 +82,8 @@ FfmpegCommand FfmpegCommandFor(const MediaMatch& match, const std::string& sourc
     const auto to = match.OutputStreams();
     if (!to.video.parameter && !to.audio.parameter)
         throw Failure(source + ": nothing of it is left in that preset");
+    if (!to.video.parameter && NeedsPicture(container))
+        throw Failure(source + ": has no picture, which " + container + " needs");
     FfmpegCommand command{{"-i", FileName(source)}, {}, FileName(output), {}};
     if (const auto& video = to.video.parameter)
     {

@@ -64,10 +64,10 @@ void ChangeDocument(const std::string& path, const DocumentSaving& saving,
         std::string error;
         if (!ParseJson(after, &error))
             throw Failure("what it becomes cannot be read: " + error);
+        if (after == before && Exists(path))
+            return; // nor is a backup of what was before replaced
         if (saving.keepsBackup && Exists(path))
             KeepBackup(path);
-        if (after == before && Exists(path))
-            return;
         if (isMarked)
             after.insert(0, kByteOrderMark);
         Write(path, after);

@@ -9,8 +9,25 @@
 namespace Vexlor::Tool
 {
 
-ImportedPreset::ImportedPreset(std::vector<ImportFinding>& findings, std::string path)
-    : m_findings(findings), m_path(std::move(path))
+namespace
+{
+
+// Each finding has it, and folders of a hostile file have names as long as the file.
+std::string Shortened(const std::string& path)
+{
+    constexpr std::size_t kMost = 400;
+    if (path.size() <= kMost)
+        return path;
+    std::size_t end = kMost;
+    while (end > 0 && (static_cast<unsigned char>(path[end]) & 0xC0U) == 0x80U)
+        --end;
+    return path.substr(0, end) + "…";
+}
+
+} // namespace
+
+ImportedPreset::ImportedPreset(std::vector<ImportFinding>& findings, const std::string& path)
+    : m_findings(findings), m_path(Shortened(path))
 {
 }
 

@@ -28,7 +28,7 @@ class ImportedPreset
 {
 public:
     /// An unnamed preset of no container yet. Findings are told with that path.
-    ImportedPreset(std::vector<ImportFinding>& findings, std::string path);
+    ImportedPreset(std::vector<ImportFinding>& findings, const std::string& path);
 
     /// Makes it one of that container, which it is asked for first. Answers false, and finds it, where that
     /// container cannot be written here.

@@ -1,5 +1,6 @@
 #include "CatalogueMatch.h"
 
+#include "MediaMatch.h"
 #include "apps/host/Stream.h"
 #include "apps/host/Text.h"
 #include "apps/host/Units.h"
@@ -149,6 +150,8 @@ std::vector<std::string> Obstacles(const IVXFormatPreset& preset, const Streams&
         obstacles.push_back("the container " + Quoted(preset.FormatName()) + " cannot be written here");
     if (!output.video.parameter && !output.audio.parameter)
         obstacles.emplace_back("nothing of the source is left");
+    else if (!output.video.parameter && NeedsPicture(preset.FormatName()))
+        obstacles.push_back(preset.FormatName() + " needs a picture");
     for (const auto* stream : {&output.video, &output.audio})
     {
         const auto codecs = stream->parameter ? stream->parameter->GetCodecs(true) : nullptr;

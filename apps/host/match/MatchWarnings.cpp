@@ -56,7 +56,7 @@ std::string LossText(double loss)
     return percent < 1 ? "" : " (" + std::to_string(percent) + " % less)";
 }
 
-std::string RemedyText(const VXLevelRemedy& remedy, const IVXCodecs& codecs)
+std::string RemedyText(const VXLevelRemedy& remedy, const VXLevelStream& asked, const IVXCodecs& codecs)
 {
     const auto& stream = remedy.stream;
     switch (remedy.kind)
@@ -66,7 +66,9 @@ std::string RemedyText(const VXLevelRemedy& remedy, const IVXCodecs& codecs)
     case VXLevelRemedyKind::LowerFrameRate:
         return "lower the frame rate to " + FrameRateText(*stream.frameRate) + LossText(remedy.loss);
     case VXLevelRemedyKind::LowerSize:
-        return "lower the size to " + SizeText(stream.width, stream.height) + LossText(remedy.loss);
+        return "lower the size to " + SizeText(stream.width, stream.height) +
+               (stream.bitrate < asked.bitrate ? " and the bitrate to " + BitrateOf(stream) : std::string()) +
+               LossText(remedy.loss);
     default:
         return "raise the level to " + codecs.LevelName(remedy.level);
     }
@@ -86,7 +88,7 @@ void WarnOfLevel(Warnings& warnings, const Stream& output)
                              SizeText(stream.width, stream.height) + " at " +
                              FrameRateText(*stream.frameRate) + " and " + BitrateOf(stream)};
     for (const auto& remedy : LevelRemedies(video.GetLevel(), stream))
-        warning.remedies.push_back({remedy, RemedyText(remedy, *codecs)});
+        warning.remedies.push_back({remedy, RemedyText(remedy, stream, *codecs)});
     warnings.push_back(std::move(warning));
 }
 

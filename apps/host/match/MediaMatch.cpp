@@ -32,4 +32,6 @@ MediaMatch MatchMedia(VXMediaFile media, const IVXFormatPreset& preset)
     return {std::move(media), std::move(output), std::move(reasons)};
 }
 
+bool NeedsPicture(const std::string& container) { return container == "DV" || container == "MXF"; }
+
 } // namespace Vexlor::Tool

@@ -26,4 +26,7 @@ VXMediaFile ReadSource(const std::string& path);
 /// Matches a source that was read.
 MediaMatch MatchMedia(VXMediaFile media, const IVXFormatPreset& preset);
 
+/// Whether a container of that name is not written for sound alone, which it cuts to the frames of a picture.
+bool NeedsPicture(const std::string& container);
+
 } // namespace Vexlor::Tool

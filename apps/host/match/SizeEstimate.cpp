@@ -80,6 +80,7 @@ constexpr Spread kConstant{0.95, 1.03, 0.1};
 constexpr Spread kVariableSound{0.75, 1.06, 0.1};
 constexpr Spread kVariablePicture{0.6, 1.1, 1};
 constexpr Spread kLossless{0.05, 1.4};
+constexpr Spread kOfProfile{0.1, 1.15}; // simple pictures take a fraction
 
 constexpr std::array kStored{VXCodecID_PCM16,   VXCodecID_PCM24,   VXCodecID_PCM32, VXCodecID_PCMFloat,
                              VXCodecID_PCM16BE, VXCodecID_PCM24BE, VXCodecID_ALaw,  VXCodecID_MuLaw,
@@ -89,6 +90,8 @@ constexpr std::array kAlwaysConstant{VXCodecID_MP3,   VXCodecID_MP2,   VXCodecID
                                      VXCodecID_AMRWB, VXCodecID_DNxHD, VXCodecID_DNxHR};
 constexpr std::array kOfContent{VXCodecID_FFV1, VXCodecID_FLAC, VXCodecID_ALAC, VXCodecID_WavPack,
                                 VXCodecID_TTA,  VXCodecID_GIF,  VXCodecID_WebP};
+
+constexpr std::array kProfiled{VXCodecID_ProRes};
 
 template <typename List>
 bool Holds(const List& list, int codecID)
@@ -104,6 +107,8 @@ Spread SpreadOf(const IVXCodecParameter& stream)
         return kExact;
     if (Holds(kOfContent, codec))
         return kLossless;
+    if (Holds(kProfiled, codec))
+        return kOfProfile;
     if (Holds(kAlwaysConstant, codec) || stream.GetBitrateMode() == kConstantMode)
         return kConstant;
     return stream.GetCodecType() == VXCodecTypeVideo ? kVariablePicture : kVariableSound;
@@ -136,6 +141,13 @@ double ContainerSize(const IVXFormatParameter& output, double seconds, double st
 }
 
 } // namespace
+
+bool FollowsBitrate(const IVXCodecParameter& stream)
+{
+    const int codec = stream.GetCodecID();
+    return !Holds(kStored, codec) && !Holds(kOfContent, codec) && !Holds(kProfiled, codec) &&
+           codec != VXCodecID_DNxHR;
+}
 
 SizeRange SizeEstimate::Total() const
 {

@@ -141,7 +141,7 @@ bool Search::SolvePicture()
         m_audio->SetBitrate(m_audioBitrate);
     if (Solve(*m_video, limits))
         return true;
-    if (!m_audio)
+    if (!m_audio || !FollowsBitrate(*m_audio))
         return false;
     m_audio->SetBitrate(std::min(m_audioBitrate, SoundLimits(*m_audio, m_preset).least));
     return Solve(*m_video, limits);
@@ -191,8 +191,12 @@ SizePlan Search::Plan()
     if (!IsKnown(m_video) || !IsKnown(m_audio))
         return {.reason = "a codec of the preset is not known, so its bitrates are not",
                 .estimate = Estimate()};
-    const int videoBitrate = m_video ? m_video->GetBitrate() : 0;
     SizePlan plan;
+    if (const auto& leading = m_video ? m_video : m_audio; leading && !FollowsBitrate(*leading))
+        return {.isPossible = Fits(),
+                .reason = Fits() ? "" : "its codec takes what the content needs, whatever the bitrate",
+                .estimate = Estimate()};
+    const int videoBitrate = m_video ? m_video->GetBitrate() : 0;
     plan.isPossible = SolveAny();
     plan.estimate = Estimate();
     if (!plan.isPossible)
