@@ -172,7 +172,11 @@ void Opening::SetBounds(const IVXCodecParameter& stream)
     if (m_row.isUnbounded || control.most == 0)
         return;
     context.rc_max_rate = control.most;
-    context.rc_min_rate = control.least;
+    context.rc_min_rate = m_row.hasNoFilling ? 0 : control.least;
+    if (control.least > 0 && m_row.hasNoFilling)
+        m_setup.changes.push_back((control.isConstant ? std::string("constant bitrate is")
+                                                      : std::string("bounds of the bitrate are")) +
+                                  " not filled up where pictures take less");
     context.rc_buffer_size =
         static_cast<int>(std::min<std::int64_t>(control.buffer, std::numeric_limits<int>::max()));
 }

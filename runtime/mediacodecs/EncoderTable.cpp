@@ -29,6 +29,7 @@ constexpr std::array kEncoders{
                .levelOption = "svtav1-params",
                .isUnbounded = true,
                .mostBitrate = 100'000'000},
+    EncoderRow{.encoder = "h261", .hasNoFilling = true}, // "stuffing too large", of still pictures
     EncoderRow{.encoder = "libopus", .constant = "vbr=off"},
     EncoderRow{.encoder = "prores_ks", .profileOption = "profile"},
     EncoderRow{.encoder = "dnxhd", .profileOption = "profile"},

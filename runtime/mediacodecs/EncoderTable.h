@@ -16,6 +16,7 @@ struct EncoderRow
     std::string_view always = {};      ///< options that are set whatever the stream is: "name=value"
     std::string_view constant = {};    ///< options for a constant bitrate, beside its bounds
     bool isUnbounded = false;          ///< refuses a constant bitrate and bounds
+    bool hasNoFilling = false;         ///< fails where pictures take less than the lowest bitrate
     int mostBitrate = 0;               ///< bits a second; 0: any
     bool fullRange = false;            ///< takes limited range only as an unofficial extension
     std::array<int, 4> qualities = {}; ///< its "quality" by grade, where it knows no bitrate; 0: it knows

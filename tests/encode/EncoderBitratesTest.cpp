@@ -100,6 +100,20 @@ TEST_P(AnyBitrate, OpensAtTheNearestThatTheCodecHas)
     }
 }
 
+TEST(ConstantBitrate, OfH261IsNotFilledUpWherePicturesTakeLess)
+{
+    const FFmpegQuiet quiet;
+    const auto stream = StreamOf(VXCodecID_H261);
+    stream->SetFramePerSecond(IVXRational::MallocRational(8, 1));
+    stream->SetBitrateMode(kConstant);
+    stream->SetBitrate(1'234'567);
+    const auto setup = OpenEncoder(*stream, {});
+    ASSERT_TRUE(setup.context) << setup.complaint;
+    EXPECT_EQ("", EncodePictures(*setup.context, 10).complaint);
+    EXPECT_EQ(std::vector<std::string>{"constant bitrate is not filled up where pictures take less"},
+              setup.changes);
+}
+
 TEST_P(AnyBitrate, OpensAsAConstantOneAndBetweenBounds)
 {
     for (const int mode : {kVariable, kConstant})
