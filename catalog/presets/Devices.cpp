@@ -11,7 +11,8 @@ namespace
 using Aspect = IVXSampleAspectPreset;
 
 // A level is fixed only beside a frame rate, for a fast source would break it; elsewhere the encoder states
-// the lowest that holds the stream. "Our choice" is a bound that no maker published.
+// the lowest that holds the stream. "Our choice" is a bound that no maker published, as is every bitrate
+// whose source below tells of codecs, levels and sizes alone.
 
 constexpr Sound kAppleSound =
     kAAC.Stereo(k48k).Between(96, 160); // every Apple page below: AAC-LC, 160 kb/s, 48 kHz
