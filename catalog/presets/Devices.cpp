@@ -105,12 +105,12 @@ constexpr std::array kTelevisions{
            kAppleSound},
     Preset{"Apple TV 4K", "Apple TV of 2017 and newer", kMP4, kHEVC.Within(3840, 2160).UpTo(40'000),
            kAppleSound},
-    // developer.roku.com/docs/specs/media/streaming-specifications: codecs, sizes. Bitrates: our choice.
+    // developer.roku.com, what streams may be: codecs, sizes. Bitrates: our choice.
     Preset{"Roku HD", "Roku players and sticks for full HD", kMP4,
            kH264.Within(1920, 1080).Profile("High").UpTo(10'000), kAAC.Stereo(k48k).Between(128, 256)},
     Preset{"Roku 4K", "Roku players, sticks and televisions for 4K", kMP4,
            kHEVC.Within(3840, 2160).UpTo(30'000), kAAC.Stereo(k48k).Between(128, 256)},
-    // developer.amazon.com/docs/fire-tv/device-specifications: codecs, sizes. Bitrates: our choice.
+    // developer.amazon.com, Fire TV devices: codecs, sizes. Bitrates: our choice.
     Preset{"Fire TV HD", "Fire TV sticks for full HD", kMP4,
            kH264.Within(1920, 1080).Profile("High").UpTo(15'000), kAAC.Stereo(k48k).Between(128, 256)},
     Preset{"Fire TV 4K", "Fire TV sticks, boxes and televisions for 4K", kMP4,
@@ -149,7 +149,7 @@ constexpr std::array kConsoles{
 };
 
 constexpr std::array kCameras{
-    // avchd-info.org, format specifications: H.264 High, 24 Mb/s in all, AC-3 64 to 640 kb/s at 48 kHz.
+    // avchd-info.org, the format: H.264 High, 24 Mb/s in all, AC-3 64 to 640 kb/s at 48 kHz.
     Preset{"AVCHD 1080p", "To put back on an AVCHD camcorder or disc: full HD, 23.976 frames", kM2TS,
            kH264.At(1920, 1080).Rate(24'000, 1'001).Profile("High", "4.1").Between(9'000, 22'000),
            kAC3.Stereo(k48k).Between(192, 384)},

@@ -54,7 +54,7 @@ constexpr std::array kInMP4{
 };
 
 // Members of the families by what they are made for: the makers' own words, apple.com/final-cut-pro/docs
-// (ProRes white paper) and avid.com (DNxHR codec bandwidth specifications).
+// (ProRes white paper) and avid.com (bandwidths of the DNxHR codecs).
 constexpr std::array kInMOV{
     Preset{"MOV HEVC", "For Apple's devices since 2017, at half the size of H.264", kMOV, kHEVC, kAAC},
     Preset{"MOV ProRes Proxy", "To cut on a laptop before the real pictures are put in", kMOV,

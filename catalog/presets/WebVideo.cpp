@@ -77,7 +77,7 @@ constexpr std::array kMessaging{
            kOpus.Mono(k48k).Exactly(24)},
 };
 
-// developer.apple.com, HLS authoring specification for Apple devices: the rungs of 16:9 and their average
+// developer.apple.com, HLS authoring for Apple devices: the rungs of 16:9 and their average
 // rates.
 constexpr Sound kLowRung = kAAC.Stereo(k48k).Exactly(64);
 constexpr Sound kRung = kAAC.Stereo(k48k).Exactly(128);
