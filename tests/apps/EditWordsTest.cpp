@@ -1,9 +1,5 @@
 #include "tests/apps/EditedDocument.h"
 
-#include "IVXFormatNode.h"
-#include "IVXJsonValue.h"
-#include "runtime/foundation/VXJson.h"
-
 #include <gmock/gmock.h>
 
 namespace Vexlor::Apps
