@@ -1,0 +1,1 @@
+// Nothing but the precompiled headers that this file is compiled with: those of all tests.
