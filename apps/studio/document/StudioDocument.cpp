@@ -1,17 +1,93 @@
 #include "StudioDocument.h"
 
 #include "PresetEdit.h"
-#include "catalog/DefaultTree.h"
+#include "RecentPresets.h"
 
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
 
+#include <QFileInfo>
+
+#include <utility>
+
 namespace Vexlor::Studio
 {
 
-StudioDocument::StudioDocument(QObject* parent) : QObject(parent), m_root(Catalog::DefaultTree()) {}
+namespace
+{
 
-StudioDocument::~StudioDocument() = default;
+void Collect(const PlannedNode& plan, std::unordered_set<const void*>& presets)
+{
+    for (const auto& preset : plan.presets)
+        presets.insert(preset.preset.get());
+    for (const auto& child : plan.children)
+        Collect(child, presets);
+}
+
+std::unordered_set<const void*> PresetsOf(const DocumentBasis& basis)
+{
+    std::unordered_set<const void*> presets;
+    Collect(basis.plan, presets);
+    return presets;
+}
+
+} // namespace
+
+StudioDocument::StudioDocument(QObject* parent) : QObject(parent), m_basis(std::make_shared<DocumentBasis>())
+{
+    connect(&m_undo, &QUndoStack::indexChanged, this, &StudioDocument::StateChanged);
+    connect(&m_undo, &QUndoStack::cleanChanged, this, &StudioDocument::StateChanged);
+    connect(&m_tree, &PresetTree::Renamed, this, &StudioDocument::TellOfName);
+}
+
+StudioDocument::~StudioDocument()
+{
+    m_undo.disconnect(this); // which tells of steps while it goes
+}
+
+QString StudioDocument::Title() const
+{
+    return m_path.isEmpty() ? tr("Built-in presets") : QFileInfo(m_path).fileName();
+}
+
+bool StudioDocument::IsModified() const { return !m_undo.isClean() || (m_hasNewRecent && !m_path.isEmpty()); }
+
+void StudioDocument::SetContent(DocumentContent content, const QString& path)
+{
+    m_undo.clear();
+    m_path = path;
+    m_basis = std::move(content.basis);
+    m_asRead = PresetsOf(*m_basis);
+    m_textOfFile.reset();
+    m_hasNewRecent = false;
+    m_tree.SetRoot(std::move(content.root));
+    emit StateChanged();
+}
+
+void StudioDocument::SetRecovered(DocumentContent content, const QString& path, std::string textOfFile)
+{
+    SetContent(std::move(content), path);
+    // The text of the tree comes out of what was found, while the file is expected to be as it was.
+    m_undo.resetClean();
+    m_textOfFile = std::move(textOfFile);
+    emit StateChanged();
+}
+
+PlannedNode StudioDocument::Plan() const
+{
+    return PlanOf(Root(), [this](const IVXFormatPreset& preset) { return m_asRead.contains(&preset); });
+}
+
+void StudioDocument::SetSaved(const QString& path, std::shared_ptr<const DocumentBasis> basis)
+{
+    m_path = path;
+    m_basis = std::move(basis);
+    m_asRead = PresetsOf(*m_basis);
+    m_textOfFile.reset();
+    m_hasNewRecent = false;
+    m_undo.setClean();
+    emit StateChanged();
+}
 
 void StudioDocument::EditPreset(const std::shared_ptr<IVXFormatPreset>& preset, const QString& what,
                                 const std::function<void(IVXFormatPreset&)>& change, int run)
@@ -19,11 +95,30 @@ void StudioDocument::EditPreset(const std::shared_ptr<IVXFormatPreset>& preset, 
     auto after = preset->Clone();
     change(*after);
     auto edit = std::make_unique<PresetEdit>(preset, std::move(after), run,
-                                             [this](const auto& changed) { emit PresetChanged(changed); });
+                                             [this](const auto& changed) { TellOfChange(changed); });
     if (edit->IsIdle())
         return;
     edit->setText(what);
     m_undo.push(edit.release());
+}
+
+void StudioDocument::NoteUsed(const IVXFormatPreset& preset)
+{
+    NoteRecentPreset(m_tree, preset);
+    m_hasNewRecent = true;
+    emit StateChanged();
+}
+
+void StudioDocument::TellOfName(const TreeItem& item)
+{
+    if (item.preset)
+        TellOfChange(item.preset);
+}
+
+void StudioDocument::TellOfChange(const std::shared_ptr<IVXFormatPreset>& preset)
+{
+    m_asRead.erase(preset.get());
+    emit PresetChanged(preset);
 }
 
 } // namespace Vexlor::Studio

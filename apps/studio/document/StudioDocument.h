@@ -1,16 +1,17 @@
 #pragma once
 
+#include "DocumentContent.h"
+#include "PresetTree.h"
+
 #include <QObject>
+#include <QString>
 #include <QUndoStack>
 
 #include <functional>
 #include <memory>
-
-namespace Vexlor
-{
-class IVXFormatNode;
-class IVXFormatPreset;
-} // namespace Vexlor
+#include <optional>
+#include <string>
+#include <unordered_set>
 
 namespace Vexlor::Studio
 {
@@ -26,24 +27,59 @@ public:
     ~StudioDocument() override;
 
     /// The tree; never empty.
-    const std::shared_ptr<IVXFormatNode>& Root() const { return m_root; }
+    const std::shared_ptr<IVXFormatNode>& Root() const { return m_tree.Root(); }
+    /// The same with word of each change of its shape.
+    PresetTree& Tree() { return m_tree; }
     /// Every change as a step.
     QUndoStack& Undo() { return m_undo; }
+
+    /// The file; empty where there is none yet.
+    const QString& Path() const { return m_path; }
+    /// The file's name, or one for a document without a file.
+    QString Title() const;
+    /// True when there is something to lose. Recently used presets count where there is a file for them.
+    bool IsModified() const;
+
+    /// Takes up another document; nothing can be undone then.
+    void SetContent(DocumentContent content, const QString& path);
+    /// Takes up what was found after a crash: a document of that file with changes that are not in it.
+    void SetRecovered(DocumentContent content, const QString& path, std::string textOfFile);
+
+    /// The tree as it is to be written.
+    PlannedNode Plan() const;
+    /// What it is written over.
+    const std::shared_ptr<const DocumentBasis>& Basis() const { return m_basis; }
+    /// What the file is expected to hold.
+    const std::string& TextOfFile() const { return m_textOfFile ? *m_textOfFile : m_basis->text; }
+    /// Says that the plan was written to that file, as that text.
+    void SetSaved(const QString& path, std::shared_ptr<const DocumentBasis> basis);
 
     /// Changes a format preset as one step that can be undone; what names it in the Edit menu. Steps of one
     /// preset with the same nonzero run that follow one another are one: typing into a field, dragging a
     /// slider. Nothing happens where the change leaves the preset as it was.
     void EditPreset(const std::shared_ptr<IVXFormatPreset>& preset, const QString& what,
                     const std::function<void(IVXFormatPreset&)>& change, int run = 0);
+    /// Keeps the preset as a recently used one.
+    void NoteUsed(const IVXFormatPreset& preset);
 
 signals:
     /// After each change of a format preset's content, undo and redo included. The codec presets inside are
     /// then other objects than before.
     void PresetChanged(const std::shared_ptr<Vexlor::IVXFormatPreset>& preset);
+    /// After the file or whether there is something to lose has changed.
+    void StateChanged();
 
 private:
-    std::shared_ptr<IVXFormatNode> m_root;
+    void TellOfName(const TreeItem& item);
+    void TellOfChange(const std::shared_ptr<IVXFormatPreset>& preset);
+
+    PresetTree m_tree;
     QUndoStack m_undo;
+    QString m_path;
+    std::shared_ptr<const DocumentBasis> m_basis;
+    std::unordered_set<const void*> m_asRead; // presets whose text in the basis is still theirs
+    std::optional<std::string> m_textOfFile;  // where it is not what the tree came from
+    bool m_hasNewRecent = false;
 };
 
 } // namespace Vexlor::Studio

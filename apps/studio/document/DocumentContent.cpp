@@ -1,0 +1,89 @@
+#include "DocumentContent.h"
+
+#include "apps/host/Failure.h"
+#include "apps/host/document/DocumentFile.h"
+#include "apps/host/document/DocumentSave.h"
+#include "apps/host/document/FolderLock.h"
+#include "apps/host/document/Qualities.h"
+#include "catalog/DefaultTree.h"
+
+#include "IVXFormatNode.h"
+#include "IVXJsonValue.h"
+#include "runtime/foundation/VXAtomicFile.h"
+#include "runtime/foundation/VXJson.h"
+
+#include <exception>
+#include <filesystem>
+
+namespace Vexlor::Studio
+{
+
+namespace
+{
+
+/// The file holds what somebody else has written.
+struct OtherText : std::exception
+{
+};
+
+bool Exists(const std::string& path)
+{
+    std::error_code ignored;
+    return std::filesystem::exists(path, ignored);
+}
+
+} // namespace
+
+DocumentContent ReadContent(const std::string& path)
+{
+    auto basis = std::make_shared<DocumentBasis>();
+    basis->text = Tool::ReadDocumentText(path);
+    std::string error;
+    const auto json = ParseJson(basis->text, &error);
+    if (!json)
+        throw Tool::Failure(path + ':' + error);
+    if (basis->text.find_first_not_of(" \t\r\n") != basis->text.find('{'))
+        throw Tool::Failure(path + ": is not a preset document");
+    auto root = IVXFormatNode::MallocFormatNode(json);
+    Tool::TakeUpQualities(*root, *json);
+    basis->plan = PlanOf(root, [](const auto&) { return true; });
+    return {std::move(root), std::move(basis)};
+}
+
+DocumentContent BuiltInContent() { return {Catalog::DefaultTree(), std::make_shared<DocumentBasis>()}; }
+
+bool WriteOver(const std::string& path, const std::string& expected, const std::string& text)
+{
+    if (!Exists(path))
+    {
+        WriteAnyway(path, text);
+        return true;
+    }
+    const auto change = [&](const std::string& before)
+    {
+        if (before != expected)
+            throw OtherText();
+        return text;
+    };
+    try
+    {
+        Tool::ChangeDocument(path, {}, change);
+    }
+    catch (const OtherText&)
+    {
+        return false;
+    }
+    return true;
+}
+
+void WriteAnyway(const std::string& path, const std::string& text)
+{
+    const Tool::FolderLock lock(path);
+    std::string error;
+    if (!ParseJson(text, &error))
+        throw Tool::Failure(path + ": not written, for it could not be read again: " + error);
+    if (!WriteFileAtomically(path, text, &error))
+        throw Tool::Failure(error);
+}
+
+} // namespace Vexlor::Studio

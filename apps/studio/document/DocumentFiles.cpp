@@ -1,0 +1,120 @@
+#include "DocumentFiles.h"
+
+#include "DocumentText.h"
+#include "StudioDocument.h"
+
+#include "apps/host/document/DocumentFile.h"
+
+#include <QFileInfo>
+#include <QFileSystemWatcher>
+
+#include <utility>
+
+namespace Vexlor::Studio
+{
+
+namespace
+{
+
+constexpr int kSettlingTime = 300; // milliseconds
+
+} // namespace
+
+DocumentFiles::DocumentFiles(StudioDocument& document, QObject* parent)
+    : QObject(parent), m_document(document), m_watcher(new QFileSystemWatcher(this))
+{
+    m_settling.setSingleShot(true);
+    m_settling.setInterval(kSettlingTime);
+    connect(&m_settling, &QTimer::timeout, this, &DocumentFiles::LookAtFile);
+    connect(m_watcher, &QFileSystemWatcher::fileChanged, this, [this] { m_settling.start(); });
+    connect(&document.Tree(), &PresetTree::Reset, this, &DocumentFiles::Watch);
+}
+
+void DocumentFiles::Open(const QString& path)
+{
+    if (m_isBusy)
+        return;
+    SetBusy(true);
+    RunAside<DocumentContent>(
+        this, [path = path.toStdString()] { return ReadContent(path); },
+        [this, path](auto result) { TakeOpened(path, std::move(result)); });
+}
+
+void DocumentFiles::TakeOpened(const QString& path, AsideResult<DocumentContent> result)
+{
+    if (result.value)
+        m_document.SetContent(std::move(*result.value), QFileInfo(path).absoluteFilePath());
+    SetBusy(false);
+    if (result.value)
+        emit Opened(m_document.Path());
+    else
+        emit Failed(result.error);
+}
+
+void DocumentFiles::Save(const QString& path, bool overwrites)
+{
+    if (m_isBusy)
+        return;
+    SetBusy(true);
+    const bool isOwn = path == m_document.Path() && !overwrites;
+    const auto work = [plan = m_document.Plan(), basis = m_document.Basis(), file = path.toStdString(),
+                       expected = isOwn ? m_document.TextOfFile() : std::string(), isOwn]() -> Written
+    {
+        auto written = std::make_shared<DocumentBasis>();
+        written->text = TextOf(plan, *basis);
+        written->plan = plan;
+        if (!isOwn)
+            WriteAnyway(file, written->text);
+        else if (!WriteOver(file, expected, written->text))
+            return {};
+        return written;
+    };
+    RunAside<Written>(this, work, [this, path](const auto& result) { TakeSaved(path, result); });
+}
+
+void DocumentFiles::TakeSaved(const QString& path, const AsideResult<Written>& result)
+{
+    if (result.value && *result.value)
+        m_document.SetSaved(QFileInfo(path).absoluteFilePath(), *result.value);
+    SetBusy(false);
+    Watch();
+    if (!result.value)
+        emit Failed(result.error);
+    else if (*result.value)
+        emit Saved(m_document.Path());
+    else
+        emit SaveRefused(path);
+}
+
+void DocumentFiles::SetBusy(bool isBusy)
+{
+    m_isBusy = isBusy;
+    emit BusyChanged(isBusy);
+}
+
+// A file that was replaced by another one of its name is no longer watched.
+void DocumentFiles::Watch()
+{
+    if (const auto files = m_watcher->files(); !files.isEmpty())
+        m_watcher->removePaths(files);
+    if (QFileInfo::exists(m_document.Path()))
+        m_watcher->addPath(m_document.Path());
+}
+
+void DocumentFiles::LookAtFile()
+{
+    if (m_isBusy)
+        return m_settling.start();
+    Watch();
+    const auto path = m_document.Path();
+    RunAside<std::string>(
+        this, [file = path.toStdString()] { return Tool::ReadDocumentText(file); },
+        [this, path](const auto& result)
+        {
+            const bool isOther = result.value && *result.value != m_document.TextOfFile();
+            if (isOther && !m_isBusy && path == m_document.Path())
+                emit ChangedOnDisk(path);
+        });
+}
+
+} // namespace Vexlor::Studio

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "Aside.h"
+#include "DocumentContent.h"
+
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+class QFileSystemWatcher;
+
+namespace Vexlor::Studio
+{
+
+class StudioDocument;
+
+/// Opens and saves the document beside the window's thread, and watches its file.
+class DocumentFiles : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit DocumentFiles(StudioDocument& document, QObject* parent = nullptr);
+
+    /// True while a document is being read or written; nothing may be changed then, or opened, or saved.
+    bool IsBusy() const { return m_isBusy; }
+
+    /// Reads the file of that path, which then is the document.
+    void Open(const QString& path);
+    /// Writes the document to that path. Unless it may overwrite, the document's own file stays as it is
+    /// where somebody else has changed it.
+    void Save(const QString& path, bool overwrites);
+
+signals:
+    void BusyChanged(bool isBusy);
+    void Opened(const QString& path);
+    void Saved(const QString& path);
+    void Failed(const QString& reason);
+    /// Nothing was saved, for the file was changed by somebody else.
+    void SaveRefused(const QString& path);
+    /// The file of the document now holds something else.
+    void ChangedOnDisk(const QString& path);
+
+private:
+    /// The basis that was written; empty where the file was changed by somebody else.
+    using Written = std::shared_ptr<const DocumentBasis>;
+
+    void SetBusy(bool isBusy);
+    void TakeOpened(const QString& path, AsideResult<DocumentContent> result);
+    void TakeSaved(const QString& path, const AsideResult<Written>& result);
+    void Watch();
+    void LookAtFile();
+
+    StudioDocument& m_document;
+    QFileSystemWatcher* m_watcher;
+    QTimer m_settling; // a file that is being written tells of it many times
+    bool m_isBusy = false;
+};
+
+} // namespace Vexlor::Studio

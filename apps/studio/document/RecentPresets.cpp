@@ -1,0 +1,52 @@
+#include "RecentPresets.h"
+
+#include "PresetTree.h"
+
+#include "IVXArtworkImageMgr.h"
+#include "IVXFormatNode.h"
+#include "IVXFormatPreset.h"
+
+namespace Vexlor::Studio
+{
+
+namespace
+{
+
+using Node = std::shared_ptr<IVXFormatNode>;
+
+constexpr const char* kRecentCategory = "Recently Used";
+
+Node RecentCategory(PresetTree& tree)
+{
+    for (const auto& child : tree.Root()->GetChildList())
+        if (child->FaceID() == IVXArtworkImageMgr::CategoryFaceIDRecentList)
+            return child;
+    if (const auto child = tree.Root()->FindChild(kRecentCategory))
+        return child;
+    auto made = IVXFormatNode::MallocFormatNode(Node());
+    made->SetName(kRecentCategory);
+    made->SetFaceID(IVXArtworkImageMgr::CategoryFaceIDRecentList);
+    tree.Insert({made}, {tree.Root(), tree.Root()->ChildCount()});
+    return made;
+}
+
+bool IsSame(const IVXFormatPreset& one, const IVXFormatPreset& other)
+{
+    return one.Name() == other.Name() && one.FormatName() == other.FormatName();
+}
+
+} // namespace
+
+void NoteRecentPreset(PresetTree& tree, const IVXFormatPreset& preset)
+{
+    const auto category = RecentCategory(tree);
+    const auto copy = preset.Clone();
+    for (int i = category->FormatPresetCount() - 1; i >= 0; --i)
+        if (const auto old = category->GetFormatPreset(i); IsSame(*old, *copy))
+            tree.Remove({{}, old}, category);
+    tree.Insert({{}, copy}, {category, 0});
+    while (category->FormatPresetCount() > kMostRecentPresets)
+        tree.Remove({{}, category->LastFormatPreset()}, category);
+}
+
+} // namespace Vexlor::Studio

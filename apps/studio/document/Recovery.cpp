@@ -1,0 +1,168 @@
+#include "Recovery.h"
+
+#include "Aside.h"
+#include "DocumentText.h"
+#include "StudioDocument.h"
+
+#include "apps/host/Failure.h"
+#include "apps/host/document/DocumentFile.h"
+#include "runtime/foundation/VXAtomicFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+#include <QUuid>
+
+#include <exception>
+#include <utility>
+
+namespace Vexlor::Studio
+{
+
+namespace
+{
+
+constexpr int kDelay = 5000; // milliseconds
+constexpr auto* kTextEnding = ".json";
+constexpr auto* kPathEnding = ".path"; // a file with the path of the document in it
+constexpr auto* kLockEnding = ".lock";
+
+QString Sibling(const QString& recovery, const char* ending)
+{
+    const QFileInfo file(recovery);
+    return file.path() + '/' + file.completeBaseName() + ending;
+}
+
+/// True when the program that made the copy still runs.
+bool IsInUse(const QString& recovery)
+{
+    QLockFile lock(Sibling(recovery, kLockEnding));
+    lock.setStaleLockTime(0);
+    return !lock.tryLock(0);
+}
+
+QString PathIn(const QString& recovery)
+{
+    QFile file(Sibling(recovery, kPathEnding));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+std::string TextOfFile(const QString& path)
+{
+    try
+    {
+        return path.isEmpty() ? std::string() : Tool::ReadDocumentText(path.toStdString());
+    }
+    catch (const Tool::Failure&)
+    {
+        return {}; // it may have gone meanwhile
+    }
+}
+
+} // namespace
+
+Recovery::Recovery(StudioDocument& document, QObject* parent)
+    : QObject(parent), m_document(document), m_name(QUuid::createUuid().toString(QUuid::WithoutBraces))
+{
+    QDir().mkpath(Folder());
+    m_lock = std::make_unique<QLockFile>(PathOf(kLockEnding));
+    m_lock->setStaleLockTime(0);
+    m_lock->tryLock(0);
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(kDelay);
+    connect(&m_timer, &QTimer::timeout, this, &Recovery::Keep);
+    connect(&document, &StudioDocument::StateChanged, this, &Recovery::Schedule);
+}
+
+// Whoever ends in order has been asked what is to become of the changes.
+Recovery::~Recovery()
+{
+    QThreadPool::globalInstance()->waitForDone();
+    Forget();
+}
+
+QString Recovery::Folder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/recovery";
+}
+
+QString Recovery::PathOf(const char* ending) const { return Folder() + '/' + m_name + ending; }
+
+void Recovery::Schedule()
+{
+    if (!m_document.IsModified())
+        return Forget();
+    m_isStale = true;
+    if (!m_isKeeping && !m_timer.isActive())
+        m_timer.start();
+}
+
+void Recovery::Keep()
+{
+    if (!m_document.IsModified() || m_isKeeping)
+        return;
+    m_timer.stop();
+    m_isStale = false;
+    m_isKeeping = true;
+    const auto work = [plan = m_document.Plan(), basis = m_document.Basis(),
+                       document = m_document.Path().toStdString(),
+                       pathFile = PathOf(kPathEnding).toStdString(),
+                       textFile = PathOf(kTextEnding).toStdString()] {
+        return WriteFileAtomically(pathFile, document) && WriteFileAtomically(textFile, TextOf(plan, *basis));
+    };
+    RunAside<bool>(this, work, [this](const auto&) { EndKeeping(); });
+}
+
+// While the copy was made the document may have been saved, or changed again.
+void Recovery::EndKeeping()
+{
+    m_isKeeping = false;
+    if (!m_document.IsModified())
+        Forget();
+    else if (m_isStale)
+        m_timer.start();
+    emit Kept();
+}
+
+void Recovery::Forget()
+{
+    m_timer.stop();
+    m_isStale = false;
+    for (const auto* ending : {kTextEnding, kPathEnding})
+        QFile::remove(PathOf(ending));
+}
+
+std::optional<LostDocument> Recovery::FindLost()
+{
+    const QDir folder(Folder());
+    const auto copies =
+        folder.entryInfoList({QString("*") + kTextEnding}, QDir::Files, QDir::Time); // the newest first
+    for (const auto& copy : copies)
+        if (!IsInUse(copy.filePath()))
+            return LostDocument{PathIn(copy.filePath()), copy.lastModified(), copy.filePath()};
+    return {};
+}
+
+QString Recovery::Recover(const LostDocument& lost)
+{
+    try
+    {
+        m_document.SetRecovered(ReadContent(lost.recovery.toStdString()), lost.path, TextOfFile(lost.path));
+    }
+    catch (const std::exception& failure)
+    {
+        return QString::fromUtf8(failure.what());
+    }
+    Discard(lost);
+    Keep();
+    return {};
+}
+
+void Recovery::Discard(const LostDocument& lost)
+{
+    for (const auto* ending : {kTextEnding, kPathEnding, kLockEnding})
+        QFile::remove(Sibling(lost.recovery, ending));
+}
+
+} // namespace Vexlor::Studio

@@ -1,0 +1,71 @@
+#pragma once
+
+#include "DocumentContent.h"
+
+#include <QDateTime>
+#include <QLockFile>
+#include <QObject>
+#include <QString>
+#include <QTimer>
+
+#include <memory>
+#include <optional>
+
+namespace Vexlor::Studio
+{
+
+class StudioDocument;
+
+/// What a program that ended without being asked has left: a document with changes that were not saved.
+struct LostDocument
+{
+    QString path = {};     ///< of its file; empty for one without
+    QDateTime saved = {};  ///< when the changes were put by
+    QString recovery = {}; ///< the file that they are in
+};
+
+/// Keeps a copy of a document with unsaved changes beside the user's other data, and finds those that were
+/// left by a crash. Each program that runs has a copy of its own; it is gone when there is nothing to lose.
+class Recovery : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Recovery(StudioDocument& document, QObject* parent = nullptr);
+    ~Recovery() override;
+
+    /// Where copies are kept.
+    static QString Folder();
+
+    /// How long after a change the copy is made, in milliseconds.
+    void SetDelay(int milliseconds) { m_timer.setInterval(milliseconds); }
+    /// Begins to make the copy; does nothing where there is nothing to lose.
+    void Keep();
+    /// Removes the copy.
+    void Forget();
+
+    /// The newest copy whose program has gone without removing it.
+    static std::optional<LostDocument> FindLost();
+    /// Makes that copy the document; answers why not, in words.
+    QString Recover(const LostDocument& lost);
+    /// Removes that copy.
+    static void Discard(const LostDocument& lost);
+
+signals:
+    /// After a copy was made.
+    void Kept();
+
+private:
+    void Schedule();
+    void EndKeeping();
+    QString PathOf(const char* ending) const;
+
+    StudioDocument& m_document;
+    QString m_name;
+    std::unique_ptr<QLockFile> m_lock;
+    QTimer m_timer;
+    bool m_isStale = false;   // the copy lacks changes
+    bool m_isKeeping = false; // a copy is being made
+};
+
+} // namespace Vexlor::Studio

@@ -1,0 +1,196 @@
+#include "TreeEditor.h"
+
+#include "StudioDocument.h"
+#include "TreeEdits.h"
+#include "UndoMacro.h"
+
+#include "IVXArtworkImageMgr.h"
+#include "IVXFormatNode.h"
+#include "IVXFormatPreset.h"
+
+#include <algorithm>
+
+namespace Vexlor::Studio
+{
+
+namespace
+{
+
+using Items = TreeEditor::Items;
+using Node = std::shared_ptr<IVXFormatNode>;
+
+constexpr const char* kOwnCategory = "Customised";
+
+/// The position for items of that kind, which is counted on as they arrive.
+int& IndexFor(const TreeItem& item, DropPlace& place)
+{
+    return item.preset ? place.presetIndex : place.categoryIndex;
+}
+
+// As deep as what is added is nested, which its reader bounds.
+void CollectPresets(IVXFormatNode& node, Items& presets)
+{
+    for (int i = 0; i < node.FormatPresetCount(); ++i)
+        presets.push_back({{}, node.GetFormatPreset(i)});
+    for (const auto& child : node.GetChildList())
+        CollectPresets(*child, presets);
+}
+
+} // namespace
+
+QString TreeEditor::Rename(const TreeItem& item, const QString& name)
+{
+    const auto trimmed = name.trimmed();
+    if (trimmed == NameOf(item))
+        return {};
+    if (trimmed.isEmpty())
+        return tr("A name cannot be empty.");
+    const auto parent = m_document.Tree().ParentOf(item);
+    if (parent && IsNameTaken(*parent, item, trimmed))
+        return tr("\"%1\" is there already.").arg(trimmed);
+    const UndoMacro macro(m_document.Undo(), tr("Rename"));
+    m_document.Undo().push(new RenameEdit(m_document.Tree(), item, trimmed));
+    return {};
+}
+
+void TreeEditor::Remove(const Items& items)
+{
+    const UndoMacro macro(m_document.Undo(), items.size() == 1
+                                                 ? tr("Delete \"%1\"").arg(NameOf(items.front()))
+                                                 : tr("Delete Selection"));
+    for (const auto& item : items)
+        if (const auto place = m_document.Tree().PlaceOf(item); place.parent)
+            m_document.Undo().push(new RemoveEdit(m_document.Tree(), item, place));
+}
+
+bool TreeEditor::Move(const Items& items, DropPlace to)
+{
+    const auto isInside = [&to](const TreeItem& item) { return item.category && Holds(item, to.parent); };
+    if (std::ranges::any_of(items, isInside))
+        return false;
+    const UndoMacro macro(m_document.Undo(), tr("Move"));
+    for (const auto& item : items)
+        MoveOne(item, to);
+    return true;
+}
+
+void TreeEditor::MoveOne(const TreeItem& item, DropPlace& to)
+{
+    const auto from = m_document.Tree().PlaceOf(item);
+    if (!from.parent)
+        return;
+    auto& index = IndexFor(item, to);
+    const bool isBehind = from.parent == to.parent && from.index < index;
+    const int last = CountLike(*to.parent, item) - (from.parent == to.parent ? 1 : 0);
+    const int target = std::clamp(index - (isBehind ? 1 : 0), 0, last);
+    if (from.parent != to.parent && IsNameTaken(*to.parent, item, NameOf(item)))
+        m_document.Undo().push(
+            new RenameEdit(m_document.Tree(), item, FreeName(*to.parent, item, NameOf(item))));
+    m_document.Undo().push(new MoveEdit(m_document.Tree(), item, from, {to.parent, target}));
+    index = target + 1;
+}
+
+Items TreeEditor::Copy(const Items& items, DropPlace to)
+{
+    const UndoMacro macro(m_document.Undo(), tr("Copy"));
+    Items copies;
+    for (const auto& item : items)
+    {
+        const auto copy = CopyOf(item);
+        SetName(copy, FreeName(*to.parent, copy, NameOf(copy)));
+        auto& index = IndexFor(copy, to);
+        index = std::clamp(index, 0, CountLike(*to.parent, copy));
+        Insert(copy, {to.parent, index++});
+        copies.push_back(copy);
+    }
+    return copies;
+}
+
+void TreeEditor::Shift(const TreeItem& item, int by)
+{
+    const auto from = m_document.Tree().PlaceOf(item);
+    if (!from.parent)
+        return;
+    const int target = std::clamp(from.index + by, 0, CountLike(*from.parent, item) - 1);
+    if (target == from.index)
+        return;
+    const UndoMacro macro(m_document.Undo(), tr("Move"));
+    m_document.Undo().push(new MoveEdit(m_document.Tree(), item, from, {from.parent, target}));
+}
+
+Items TreeEditor::CloneIntoOwn(const Items& items)
+{
+    const UndoMacro macro(m_document.Undo(), tr("Clone"));
+    return Copy(items, {OwnCategory().category});
+}
+
+// By its icon or its name.
+TreeItem TreeEditor::OwnCategory()
+{
+    const auto& root = m_document.Root();
+    TreeItem found{root->FindChild(kOwnCategory)};
+    for (const auto& child : root->GetChildList())
+        if (child->FaceID() == IVXArtworkImageMgr::CategoryFaceIDCustomize)
+            found.category = child;
+    if (!found)
+    {
+        found = AddCategory(root, kOwnCategory);
+        found.category->SetFaceID(IVXArtworkImageMgr::CategoryFaceIDCustomize);
+    }
+    return found;
+}
+
+TreeItem TreeEditor::AddCategory(const Node& parent, const QString& name)
+{
+    const TreeItem item{IVXFormatNode::MallocFormatNode(Node())};
+    SetName(item, FreeName(*parent, item, name));
+    const UndoMacro macro(m_document.Undo(), tr("New Category"));
+    Insert(item, {parent, parent->ChildCount()});
+    return item;
+}
+
+TreeItem TreeEditor::AddPreset(const Node& parent, const QString& container)
+{
+    const TreeItem item{{}, IVXFormatPreset::MallocFormatPreset(container.toStdString(), {})};
+    if (!item)
+        return {};
+    SetName(item, FreeName(*parent, item, container));
+    const UndoMacro macro(m_document.Undo(), tr("New Preset"));
+    Insert(item, {parent, parent->FormatPresetCount()});
+    return item;
+}
+
+Items TreeEditor::AddAll(IVXFormatNode& root, const QString& what)
+{
+    const UndoMacro macro(m_document.Undo(), what);
+    Items presets;
+    Absorb(m_document.Root(), root, presets);
+    return presets;
+}
+
+void TreeEditor::Insert(const TreeItem& item, const TreePlace& place)
+{
+    m_document.Undo().push(new InsertEdit(m_document.Tree(), item, place));
+}
+
+// As deep as the categories that are there already.
+void TreeEditor::Absorb(const Node& into, IVXFormatNode& node, Items& presets)
+{
+    for (int i = 0; i < node.FormatPresetCount(); ++i)
+    {
+        const TreeItem preset{{}, node.GetFormatPreset(i)};
+        SetName(preset, FreeName(*into, preset, NameOf(preset)));
+        Insert(preset, {into, into->FormatPresetCount()});
+        presets.push_back(preset);
+    }
+    for (const auto& child : node.GetChildList())
+        if (const auto same = into->FindChild(child->Name()))
+            Absorb(same, *child, presets);
+        else
+        {
+            Insert({child}, {into, into->ChildCount()});
+            CollectPresets(*child, presets);
+        }
+}
+
+} // namespace Vexlor::Studio
