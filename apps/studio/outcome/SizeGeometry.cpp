@@ -49,14 +49,16 @@ QPointF Middle(const Half& half, double scale)
     return {half.area.center().x(), half.area.bottom() - half.content.height() * scale / 2};
 }
 
-std::pair<QRectF, QRectF> Halves(const QRectF& area, double gap)
+} // namespace
+
+std::pair<QRectF, QRectF> HalvesOf(const QRectF& area, double gap, bool isDivided)
 {
+    if (!isDivided)
+        return {area, area};
     const double width = std::max(0.0, (area.width() - gap) / 2);
     return {QRectF(area.left(), area.top(), width, area.height()),
             QRectF(area.right() - width, area.top(), width, area.height())};
 }
-
-} // namespace
 
 SizeGeometry LayOutSizes(const SizeFacts& facts, const QRectF& area, double gap)
 {
@@ -67,7 +69,7 @@ SizeGeometry LayOutSizes(const SizeFacts& facts, const QRectF& area, double gap)
     const auto frame = Union(facts.output, facts.picture);
     const auto most = hasOutput ? NearBound(facts.most, Union(frame, facts.source)) : QSizeF();
     const auto least = hasOutput ? NearBound(facts.least, Union(frame, facts.source)) : QSizeF();
-    const auto halves = hasSource && hasOutput ? Halves(area, gap) : std::pair(area, area);
+    const auto halves = HalvesOf(area, gap, hasSource && hasOutput);
     const Half left{facts.source, halves.first};
     const Half right{Union(Union(frame, most), least), halves.second};
 

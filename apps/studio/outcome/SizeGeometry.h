@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QRectF>
+#include <QSize>
 #include <QSizeF>
+
+#include <utility>
 
 namespace Vexlor::Studio
 {
@@ -11,10 +14,13 @@ namespace Vexlor::Studio
 struct SizeFacts
 {
     QSizeF source;
-    QSizeF output;  ///< the frame
-    QSizeF picture; ///< in the frame: smaller where it is padded, larger where it is cut off
-    QSizeF most;    ///< the largest frame that the preset allows
-    QSizeF least;   ///< the smallest
+    QSizeF output;      ///< the frame
+    QSizeF picture;     ///< in the frame: smaller where it is padded, larger where it is cut off
+    QSizeF most;        ///< the largest frame that the preset allows
+    QSizeF least;       ///< the smallest
+    QSize storedSource; ///< in the file's own pixels, which need not be square
+    QSize storedOutput;
+    bool isStretched = false; ///< where the picture is bent into a frame of another shape
 
     bool operator==(const SizeFacts&) const = default;
 };
@@ -36,6 +42,10 @@ struct SizeGeometry
 ///
 /// A bound that would make the rest small is left out: one whose sides are more than kFarBound times as long.
 SizeGeometry LayOutSizes(const SizeFacts& facts, const QRectF& area, double gap);
+
+/// The left and the right half of an area with a gap in between; twice the whole of it where it is not
+/// divided.
+std::pair<QRectF, QRectF> HalvesOf(const QRectF& area, double gap, bool isDivided);
 
 /// How many times larger than all else a bound may be that is drawn.
 inline constexpr double kFarBound = 2;

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "SourceLoader.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+class QLabel;
+class QScrollArea;
+class QStackedWidget;
+
+namespace Vexlor
+{
+class IVXFormatPreset;
+}
+
+namespace Vexlor::Studio
+{
+
+class ConvertPanel;
+class OutcomeDrawings;
+class OutcomeModel;
+class OutcomeView;
+class SourceBar;
+class StudioDocument;
+
+/// A source, and what becomes of it in the preset that is shown: value by value with the reasons, drawn,
+/// warned of, and made.
+///
+/// It follows every change of the preset in the document.
+class OutcomePane final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The document must outlive the pane.
+    explicit OutcomePane(StudioDocument& document, QWidget* parent = nullptr);
+    /// Cancels a conversion that runs, and waits for it.
+    ~OutcomePane() override;
+
+    /// Shows what becomes of the source in that preset; an empty handle shows the source alone.
+    void ShowPreset(std::shared_ptr<IVXFormatPreset> preset);
+    /// Reads that file beside the user's thread and shows it. One that cannot be read is told of in the pane,
+    /// and what was shown stays.
+    void OpenSource(const QString& path);
+    /// Asks for a file in a dialog, and opens it.
+    void AskForSource();
+    /// Asks for an output's file in a dialog, and converts into it; nothing happens where that cannot be
+    /// done.
+    void AskToConvert();
+    /// Converts into the file of that path; one that is there is replaced when the user says so.
+    void ConvertTo(const QString& path);
+    /// True while it converts, which ends with the pane.
+    bool IsConverting() const;
+
+signals:
+    /// A file was read and is shown.
+    void SourceOpened(const QString& path);
+    /// A conversion with that preset went well.
+    void ConversionDone(const std::shared_ptr<Vexlor::IVXFormatPreset>& preset);
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void Lay();
+    void Connect();
+    QWidget* NewContent();
+    void TakeSource(const QString& path, const VXMediaFile& media);
+    void UpdateSoon();
+    void Update();
+    void UpdateEmpty();
+    void SetDropping(bool isDropping);
+
+    StudioDocument& m_document;
+    std::shared_ptr<IVXFormatPreset> m_preset;
+    QString m_path;
+    std::optional<VXMediaFile> m_media;
+    bool m_isDropping = false;
+
+    SourceBar* m_source;
+    QStackedWidget* m_pages;
+    QLabel* m_empty;
+    QScrollArea* m_scroll;
+    OutcomeDrawings* m_drawings;
+    QLabel* m_notices;
+    OutcomeModel* m_model;
+    OutcomeView* m_view;
+    ConvertPanel* m_convert;
+    SourceLoader m_loader;
+    QTimer m_update;
+};
+
+} // namespace Vexlor::Studio
