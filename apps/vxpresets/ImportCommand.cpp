@@ -6,7 +6,6 @@
 #include "apps/host/document/DocumentEdit.h"
 #include "apps/host/document/DocumentSave.h"
 #include "apps/host/import/Import.h"
-#include "runtime/foundation/VXAtomicFile.h"
 #include "runtime/foundation/VXJson.h"
 
 #include "IVXFormatNode.h"
@@ -40,9 +39,7 @@ void WriteNew(const std::string& document, const Import& import)
     std::error_code ignored;
     if (std::filesystem::exists(document, ignored))
         throw Failure(document + ": is there already; --into adds to it");
-    std::string error;
-    if (!WriteFileAtomically(document, JsonDocument(*import.root->JsonValue()), &error))
-        throw Failure(error);
+    MakeDocument(document, JsonDocument(*import.root->JsonValue()));
 }
 
 const char* KindOf(const ImportFinding& finding) { return finding.isLost ? "left out" : "changed"; }

@@ -2,6 +2,7 @@
 #include "tests/foundation/TestFolder.h"
 
 #include "apps/host/Failure.h"
+#include "apps/host/document/DocumentSave.h"
 #include "apps/host/import/Import.h"
 
 #include "IVXCodecPreset.h"
@@ -197,6 +198,14 @@ TEST(Import, ADocumentThatIsThereIsNotWrittenOver)
     EXPECT_EQ("{}", ContentOf(document));
 }
 
+TEST(Import, ADocumentThatComesAboutMeanwhileStays)
+{
+    const TestFolder folder;
+    const auto document = WithContent(folder / "mine.json", "{}");
+    EXPECT_THROW(Tool::MakeDocument(document, "{\"name\": \"new\"}"), Tool::Failure);
+    EXPECT_EQ("{}", ContentOf(document));
+}
+
 TEST(Import, JsonTellsPresetsAndFindings)
 {
     const auto run = RunTool({"import", kFolder + "camera.gep", "--json"});
@@ -283,6 +292,36 @@ std::string FindingsOf(const std::string& members)
     for (const auto& finding : import.findings)
         findings += finding.path.substr(2) + ": " + finding.what + '\n';
     return findings;
+}
+
+TEST(Import, ANameThatNobodyCanReadIsCutAndTold)
+{
+    const std::string name(100'000, 'n');
+    for (const auto& text :
+         {R"({"PresetList": [{"PresetName": ")" + name +
+              R"(", "FileFormat": "webm", "VideoEncoder": "VP9", "VideoQualityType": 1, )"
+              R"("VideoAvgBitrate": 900, "VideoFramerateMode": ""}]})",
+          "[GStreamer Encoding Target]\nname=x\n[profile-a]\nname=" + name + "\nformat=video/webm\n"})
+    {
+        const auto import = Tool::ImportPresets("f", text);
+        ASSERT_EQ(1U, import.presets.size());
+        EXPECT_THAT(import.presets.front(), testing::EndsWith(std::string(200, 'n') + "…"));
+        ASSERT_EQ(1U, import.findings.size()) << import.findings.back().path << import.findings.back().what;
+        EXPECT_EQ("a name of 100000 bytes is cut", import.findings.front().what);
+    }
+}
+
+/// A HandBrake preset in so many folders.
+std::string InFolders(int count)
+{
+    return "{\"PresetList\": [" + Repeated(R"({"PresetName": "F", "ChildrenArray": [)", count) +
+           R"({"FileFormat": "webm"})" + Repeated("]}", count) + "]}";
+}
+
+TEST(ImportHandBrake, FoldersLieInEachOtherAsDeepAsPeopleMakeThem)
+{
+    EXPECT_EQ(1U, Tool::ImportPresets("f", InFolders(32)).presets.size());
+    EXPECT_EQ("f: folders lie deeper than 32 in each other", Refused(InFolders(33)));
 }
 
 TEST(ImportHandBrake, WhatAsksForNothingIsNotFound)

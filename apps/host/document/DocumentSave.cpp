@@ -3,11 +3,13 @@
 #include "DocumentFile.h"
 #include "FolderLock.h"
 #include "apps/host/Failure.h"
+#include "apps/host/convert/OutputFile.h"
 
 #include "IVXJsonValue.h"
 #include "runtime/foundation/VXAtomicFile.h"
 #include "runtime/foundation/VXJson.h"
 
+#include <algorithm>
 #include <filesystem>
 
 namespace Vexlor::Tool
@@ -76,6 +78,15 @@ void ChangeDocument(const std::string& path, const DocumentSaving& saving,
     {
         throw Failure(path + ": not changed: " + failure.what());
     }
+}
+
+void MakeDocument(const std::string& path, const std::string& text)
+{
+    OutputFile file(path, false);
+    std::string error;
+    if (!WriteFileAtomically(file.TemporaryPath(), text, &error))
+        throw Failure(path + error.substr(std::min(error.size(), file.TemporaryPath().size())));
+    file.Keep();
 }
 
 } // namespace Vexlor::Tool

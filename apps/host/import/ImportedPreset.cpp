@@ -12,22 +12,44 @@ namespace Vexlor::Tool
 namespace
 {
 
-// Each finding has it, and folders of a hostile file have names as long as the file.
-std::string Shortened(const std::string& path)
+// Whole characters of it, at most so many bytes and a mark that there was more.
+std::string Shortened(const std::string& text, std::size_t most)
+{
+    if (text.size() <= most)
+        return text;
+    std::size_t end = most;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
+        --end;
+    return text.substr(0, end) + "…";
+}
+
+// Each finding has the path.
+std::string ShownPath(const std::string& path)
 {
     constexpr std::size_t kMost = 400;
-    if (path.size() <= kMost)
-        return path;
-    std::size_t end = kMost;
-    while (end > 0 && (static_cast<unsigned char>(path[end]) & 0xC0U) == 0x80U)
-        --end;
-    return path.substr(0, end) + "…";
+    return Shortened(path, kMost);
 }
 
 } // namespace
 
+std::string ImportedName(const std::string& name, const std::string& path, std::size_t offset,
+                         std::vector<ImportFinding>& findings)
+{
+    constexpr std::size_t kMost = 200;
+    if (name.empty())
+        return "unnamed";
+    auto shortened = Shortened(name, kMost);
+    if (name.size() > kMost)
+        findings.push_back({false,
+                            offset,
+                            {},
+                            ShownPath(path + PathEscaped(shortened)),
+                            "a name of " + std::to_string(name.size()) + " bytes is cut"});
+    return shortened;
+}
+
 ImportedPreset::ImportedPreset(std::vector<ImportFinding>& findings, const std::string& path)
-    : m_findings(findings), m_path(Shortened(path))
+    : m_findings(findings), m_path(ShownPath(path))
 {
 }
 

@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace Vexlor
 {
@@ -15,6 +16,11 @@ namespace Vexlor::Tool
 
 /// A file with more presets is none that people have made.
 inline constexpr int kMostImported = 4000;
+
+/// The name of a preset or category here: "unnamed" where there is none; one that is longer than people write
+/// is cut, and that is found. path is that of its category, offset where it stands in the file.
+std::string ImportedName(const std::string& name, const std::string& path, std::size_t offset,
+                         std::vector<ImportFinding>& findings);
 
 /// Where something stands in the file that is imported.
 struct ImportSource
