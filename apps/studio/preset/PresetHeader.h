@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QWidget>
+
+class QComboBox;
+class QFormLayout;
+class QLabel;
+
+namespace Vexlor::Studio
+{
+
+class DescriptionField;
+class FieldManners;
+class MessageLine;
+class PresetSession;
+class TextField;
+
+/// What a format preset is called and how it is shown: name, icon, container and description.
+class PresetHeader final : public QWidget
+{
+    Q_OBJECT
+
+public:
+    PresetHeader(PresetSession& session, FieldManners& manners, QWidget* parent = nullptr);
+
+    /// Shows them as they are now.
+    void Refresh();
+
+private:
+    void SetUpName(QFormLayout& form);
+    void SetUpFace(QFormLayout& form, FieldManners& manners);
+    void SetUpDescription(QFormLayout& form);
+    void StoreName(const QString& name, int run);
+    void FinishName();
+    void StoreFace(int index);
+    void ShowFace(int faceID);
+
+    PresetSession& m_session;
+    TextField* m_name;
+    MessageLine* m_nameMessage;
+    QComboBox* m_face;
+    QLabel* m_container;
+    DescriptionField* m_description;
+};
+
+} // namespace Vexlor::Studio

@@ -1,0 +1,96 @@
+#include "PresetPane.h"
+
+#include "PresetHeader.h"
+#include "StreamPage.h"
+
+#include "apps/studio/document/StudioDocument.h"
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace Vexlor::Studio
+{
+
+PresetPane::PresetPane(StudioDocument& document, QWidget* parent)
+    : QWidget(parent), m_session(document), m_stack(new QStackedWidget(this)),
+      m_header(new PresetHeader(m_session, m_manners)), m_tabs(new QTabWidget),
+      m_video(new StreamPage(m_session, Tool::StreamKind::Video, m_manners)),
+      m_audio(new StreamPage(m_session, Tool::StreamKind::Audio, m_manners))
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_stack);
+    m_stack->addWidget(NewEmptyState());
+    m_stack->addWidget(NewEditor());
+    connect(&document, &StudioDocument::PresetChanged, this,
+            [this](const std::shared_ptr<IVXFormatPreset>& preset)
+            {
+                if (preset == m_session.Preset())
+                    Refresh();
+            });
+}
+
+QWidget* PresetPane::NewEmptyState()
+{
+    auto* text =
+        new QLabel(tr("Pick a preset in the tree to see what it makes of a file, and to change it."));
+    text->setObjectName(QStringLiteral("empty"));
+    text->setAlignment(Qt::AlignCenter);
+    text->setWordWrap(true);
+    text->setMargin(fontMetrics().height());
+    return text;
+}
+
+QWidget* PresetPane::NewEditor()
+{
+    auto* content = new QWidget;
+    auto* layout = new QVBoxLayout(content);
+    layout->addWidget(m_header);
+    layout->addWidget(m_tabs, 1);
+    m_tabs->addTab(m_video, tr("Vide&o"));
+    m_tabs->addTab(m_audio, tr("&Audio"));
+    m_tabs->setObjectName(QStringLiteral("streams"));
+
+    auto* scroll = new QScrollArea;
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(content);
+    return scroll;
+}
+
+void PresetPane::ShowPreset(std::shared_ptr<IVXFormatPreset> preset)
+{
+    const bool isAnother = preset != m_session.Preset();
+    m_session.Show(std::move(preset));
+    m_stack->setCurrentIndex(m_session.Preset() ? 1 : 0);
+    if (!m_session.Preset() || !isAnother)
+        return;
+    m_header->Refresh();
+    m_video->Open();
+    m_audio->Open();
+    ShowTabOfUse();
+}
+
+void PresetPane::Refresh()
+{
+    m_header->Refresh();
+    m_video->Refresh();
+    m_audio->Refresh();
+}
+
+// A preset of sound alone opens with its sound.
+void PresetPane::ShowTabOfUse()
+{
+    const auto* other = m_tabs->currentWidget() == m_video ? m_audio : m_video;
+    const auto* open = m_tabs->currentWidget() == m_video ? m_video : m_audio;
+    if (!open->IsOfUse() && other->IsOfUse())
+        m_tabs->setCurrentIndex(1 - m_tabs->currentIndex());
+}
+
+} // namespace Vexlor::Studio
