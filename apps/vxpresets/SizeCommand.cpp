@@ -131,6 +131,8 @@ std::string SizeCommand(const Request& request, const Catalogue& catalogue, cons
         convert.target ? std::optional(SizeOfText(*convert.target)) : std::optional<std::int64_t>();
     const auto& entry = FindPreset(catalogue, request.preset);
     const auto match = MatchMedia(ReadSource(convert.media), *entry.preset);
+    if (const auto obstacle = StreamObstacle(*match.output); !obstacle.empty())
+        throw Failure(convert.media + ": " + obstacle);
     if (match.media.duration <= 0)
         throw Failure(convert.media + ": its length is not known, so no size can be told");
     SizeAnswer answer{

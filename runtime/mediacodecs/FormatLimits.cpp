@@ -3,13 +3,16 @@
 #include "BitrateControl.h"
 #include "BitrateModel.h"
 #include "BitrateSnapping.h"
+#include "BitrateTable.h"
 #include "FormatTable.h"
 #include "IVXCodecParameter.h"
 #include "IVXCodecs.h"
 #include "IVXRational.h"
 #include "LevelTable.h"
 #include "Lookup.h"
+#include "ProfileTable.h"
 #include "Snapping.h"
+#include "StreamLabels.h"
 #include "VXMediaCodecs.h"
 
 #include <algorithm>
@@ -190,6 +193,22 @@ void Fit(IVXCodecParameter& stream, const StreamLimit& limit)
     FitBitrate(stream, limit, before);
 }
 
+// Where profiles have bitrates of their own, and where a standard lists all there are, encoders take no
+// other.
+void FitListedBitrate(IVXCodecParameter& stream)
+{
+    const auto* codec = CapabilitiesOf(stream.GetCodecID());
+    const auto* row = FindVideoBitrate(stream.GetCodecID());
+    const bool isListed =
+        row && (row->kind == VideoBitrateKind::Profiled || row->kind == VideoBitrateKind::Listed);
+    if (!codec || !isListed || stream.GetBitrate() <= 0)
+        return;
+    const auto labels = FittingLabels(*codec, stream, stream.GetFormat());
+    const int profile = labels.profile ? labels.profile->number : IVXCodecs::VXProfileUnknown;
+    stream.SetBitrate(
+        NearestBitrate(*codec, PictureOf(stream, stream.GetFormat()), profile, stream.GetBitrate()));
+}
+
 void FitTag(IVXCodecParameter& stream, const FormatRow& format)
 {
     const auto* row = FindRow(format.tags, &CodecTag::codecID, stream.GetCodecID());
@@ -208,6 +227,7 @@ void FitIntoContainer(IVXCodecParameter& stream, std::string_view formatName)
     for (const auto& limit : format->limits)
         if (std::ranges::find(limit.codecs, stream.GetCodecID()) != limit.codecs.end())
             Fit(stream, limit);
+    FitListedBitrate(stream);
 }
 
 } // namespace Vexlor

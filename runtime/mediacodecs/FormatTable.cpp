@@ -316,14 +316,16 @@ constexpr std::array kFormats{
               .endings = "mxf",
               .videoCodecs = kCodecs<kMPEG2, kDNxHD, kDNxHR, kProRes, kH264, kDV, kDVNTSC>,
               .audioCodecs = kCodecs<kPCM16, kPCM24>,
-              .limits = kMXFLimits},
+              .limits = kMXFLimits,
+              .needsPicture = true},
     FormatRow{.name = "DV",
               .muxer = "dv",
               .demuxer = "dv",
               .endings = "dv dif",
               .videoCodecs = kCodecs<kDV, kDVNTSC>,
               .audioCodecs = kCodecs<kPCM16>,
-              .limits = kDVLimits},
+              .limits = kDVLimits,
+              .needsPicture = true},
     FormatRow{.name = "GIF",
               .muxer = "gif",
               .demuxer = "gif",
@@ -468,6 +470,13 @@ std::vector<int> WritableCodecs(const FormatRow& format, std::span<const int> co
         std::ranges::copy_if(codecs, std::back_inserter(taken),
                              [muxer](int codecID) { return CanWrite(muxer, codecID); });
     return taken;
+}
+
+bool HasEndingOf(const FormatRow& format, std::string_view path)
+{
+    const auto ending = LowerEnding(path);
+    return std::ranges::any_of(kFormats, [&](const FormatRow& row)
+                               { return row.demuxer == format.demuxer && HasWord(row.endings, ending); });
 }
 
 std::string FormatNameOf(const AVInputFormat& demuxer, std::string_view path)

@@ -57,6 +57,7 @@ struct FormatRow
     std::span<const int> audioCodecs; ///< as above
     std::span<const StreamLimit> limits = {};
     std::span<const CodecTag> tags = {};
+    bool needsPicture = false; ///< sound is cut to its frames
 };
 
 /// Every container with a name of ours, in the order in which a user is offered them, muxer here or not.
@@ -69,6 +70,8 @@ std::vector<std::string> WritableFormats();
 /// Those of codecs (ours) that have an encoder here and that the container's muxer takes, in their order;
 /// none when the muxer is not here.
 std::vector<int> WritableCodecs(const FormatRow& format, std::span<const int> codecs);
+/// Whether a file name ends as files of the container, or of one that the same demuxer reads, usually do.
+bool HasEndingOf(const FormatRow& format, std::string_view path);
 /// The name of the container that a file was opened as. Where several containers share a demuxer, the file
 /// name's ending chooses, else the first of them stands for all. Empty for a demuxer that no container of
 /// ours has.

@@ -136,6 +136,18 @@ std::string MuxerFor(const std::string& formatName)
     return format ? std::string(format->muxer) : std::string();
 }
 
+bool NeedsPicture(const std::string& formatName)
+{
+    const auto* format = FindFormat(formatName);
+    return format && format->needsPicture;
+}
+
+bool IsNamedAs(const std::string& formatName, const std::string& path)
+{
+    const auto* format = FindFormat(formatName);
+    return !format || HasEndingOf(*format, path);
+}
+
 std::string MuxerTagFor(const std::string& formatName, const IVXCodecParameter& stream)
 {
     const auto* muxer = av_guess_format(MuxerFor(formatName).c_str(), nullptr, nullptr);

@@ -36,6 +36,13 @@ VX_MEDIACODECS_API VXEncoderSettings EncoderSettingsFor(const IVXCodecParameter&
 /// The muxer of libavformat's that writes the container of that name: "mp4"; empty for one that is not known.
 VX_MEDIACODECS_API std::string MuxerFor(const std::string& formatName);
 
+/// Whether that container is not written for sound alone.
+VX_MEDIACODECS_API bool NeedsPicture(const std::string& formatName);
+
+/// Whether the file's name ends as files of that container, or of one that is read alike, usually do, in
+/// whatever case; true for a container that is not known.
+VX_MEDIACODECS_API bool IsNamedAs(const std::string& formatName, const std::string& path);
+
 /// The codec tag that this muxer is told for a stream: "XVID", or digits where it is no text; empty where the
 /// muxer chooses.
 VX_MEDIACODECS_API std::string MuxerTagFor(const std::string& formatName, const IVXCodecParameter& stream);

@@ -263,6 +263,33 @@ TEST(Convert, OnlyTellsWhatItWouldDoInADryRun)
     EXPECT_EQ("", conversions.Left());
 }
 
+TEST(Convert, TakesNamesAsLongAsNamesCanBe)
+{
+    const Conversions conversions;
+    const auto name = std::string(251, 'x') + ".mp4";
+    const auto run = conversions.Convert(Media::Clip("quarters.mp4"), name.c_str(), "Auto");
+    EXPECT_EQ(0, run.exitCode) << run.err;
+    EXPECT_EQ(name, conversions.Left());
+}
+
+TEST(Convert, RefusesANameThatIsNone)
+{
+    const Conversions conversions;
+    const auto run = RunTool({"convert", Media::Clip("quarters.mp4"), "", "--preset", "Video/MP4"});
+    EXPECT_EQ(1, run.exitCode);
+    EXPECT_EQ("the file to write has no name\n", run.err);
+}
+
+TEST(Convert, WarnsOfANameThatOtherFilesHave)
+{
+    const Conversions conversions;
+    const auto said = [&](const char* name)
+    { return conversions.Convert(Media::Clip("quarters.mp4"), name, "Auto", {"--dry-run"}).out; };
+    EXPECT_THAT(said("out.mkv"), testing::StartsWith("# the name \"" + conversions.Path("out.mkv") +
+                                                     "\" does not end as MP4 files do\n"));
+    EXPECT_THAT(said("out.M4V"), testing::StartsWith("ffmpeg -i ")); // read by the same program
+}
+
 TEST(Convert, LeavesAFileThatIsThere)
 {
     const Conversions conversions;
@@ -432,8 +459,17 @@ INSTANTIATE_TEST_SUITE_P(
     Files, SizeOfAFile,
     testing::Values(std::pair("film.webm", "Video/MP4"), std::pair("film.webm", "Video/MKV"),
                     std::pair("film.webm", "Video/AVI"), std::pair("film.ts", "Video/TS"),
-                    std::pair("music.flac", "Audio/WAV"), std::pair("music.flac", "Audio/MP3"),
-                    std::pair("music.flac", "Audio/FLAC"), std::pair("music.mp3", "Audio/M4A")));
+                    std::pair("film.mp4", "MOV ProRes Proxy"), std::pair("film.mp4", "General/For Editing"),
+                    std::pair("film.mp4", "MOV DNxHR LB"), std::pair("music.flac", "Audio/WAV"),
+                    std::pair("music.flac", "Audio/MP3"), std::pair("music.flac", "Audio/FLAC"),
+                    std::pair("music.mp3", "Audio/M4A")));
+
+TEST(SizeCommand, FailsWhereNoFileCanBeMade)
+{
+    const auto run = RunTool({"size", Media::Clip("music.flac"), "--preset", "Video/DV"});
+    EXPECT_EQ(1, run.exitCode);
+    EXPECT_EQ(Media::Clip("music.flac") + ": DV needs a picture\n", run.err);
+}
 
 TEST(SizeCommand, SolvesForATarget)
 {

@@ -218,6 +218,22 @@ void BoundBelowTheRange(IVXFormatPreset& preset)
     preset.SetMaxVideoBitrate(1000);
     preset.SetMinVideoBitrate(2000);
 }
+/// ProRes at its lowest profile, Proxy.
+void ChooseProfile(IVXFormatPreset& preset)
+{
+    const auto video = IVXCodecPreset::MallocCodecPreset(VXCodecID_ProRes);
+    video->AddProfilePreset(0);
+    video->SetIndexForProfilesPresets(video->ProfilePresetCount() - 1);
+    preset.InsertVideoCodecPreset(video, 0);
+    preset.SetIndexForVideoCodecPresets(0);
+}
+void BoundProRes(IVXFormatPreset& preset)
+{
+    preset.InsertVideoCodecPreset(IVXCodecPreset::MallocCodecPreset(VXCodecID_ProRes), 0);
+    preset.SetIndexForVideoCodecPresets(0);
+    preset.SetMaxVideoBitrate(100'000'000);
+    preset.SetMinVideoBitrate(99'999'999);
+}
 class ReasonOfAValue : public testing::TestWithParam<ReasonCase>
 {
 };
@@ -286,6 +302,14 @@ const std::array kReasons{
     ReasonCase{"ContradictingBounds", "MP4", BoundBelowTheRange, Film, MatchValue::Bitrate,
                "bounded by the preset (2 kb/s to 1 kb/s) against the codec's 4.00 Mb/s to 17.42 Mb/s",
                "bounded"},
+    ReasonCase{"BitrateOfAProfile", "MOV", ChooseProfile, Film, MatchValue::Bitrate,
+               "from the model at High (the source's grade), snapped to that of the profile Proxy from "
+               "147.15 Mb/s",
+               "model snapped"},
+    ReasonCase{"NearestBitrateOfAProfile", "MOV", BoundProRes, Film, MatchValue::Bitrate,
+               "bounded by the preset (100.00 Mb/s to 100.00 Mb/s) at High (the source's grade), snapped by "
+               "the codec from 100.00 Mb/s",
+               "bounded snapped"},
     ReasonCase{"UnknownBitrate", "MP4", Nothing, Surround, MatchValue::Bitrate,
                "from the model at Normal (as the source's bitrate is not known)", "model"},
     ReasonCase{"OnlyBitrate", "WAV", Nothing, Music, MatchValue::Bitrate,

@@ -66,6 +66,22 @@ TEST(MatchWarnings, AreNotMadeForAFileThatFits)
     EXPECT_EQ("", Kinds(Warn(*PresetOf(1'000'000), FileOf(VideoSource{}))));
 }
 
+TEST(MatchWarnings, TellOfAPresetThatLeavesNothing)
+{
+    const auto warnings = Warn(*IVXFormatPreset::MallocFormatPreset("MP3", ""), FileOf(VideoSource{}));
+    ASSERT_EQ("noFile", Kinds(warnings));
+    EXPECT_EQ("nothing of the source is left: no file can be made", warnings[0].text);
+    EXPECT_FALSE(warnings[0].isAudio);
+}
+
+TEST(MatchWarnings, TellOfAContainerThatIsNotWrittenForSoundAlone)
+{
+    const auto warnings = Warn(*IVXFormatPreset::MallocFormatPreset("MXF", ""), FileOf(AudioSource{}));
+    ASSERT_FALSE(warnings.empty());
+    EXPECT_EQ("MXF needs a picture: no file can be made", warnings[0].text);
+    EXPECT_TRUE(warnings[0].isAudio);
+}
+
 TEST(MatchWarnings, TellOfALevelThatIsTooLow)
 {
     const auto preset = PresetOf(4'000'000);

@@ -13,6 +13,7 @@
 #include "runtime/mediacodecs/EncoderSetup.h"
 #include "runtime/mediacodecs/FFmpegQuiet.h"
 #include "runtime/mediacodecs/FormatTable.h"
+#include "runtime/mediacodecs/VXEncoderSettings.h"
 #include "tests/encode/Encoding.h"
 #include "tests/encode/Muxing.h"
 #include "tests/encode/StreamOutline.h"
@@ -32,16 +33,16 @@ namespace
 
 using Stream = std::shared_ptr<IVXCodecParameter>;
 
-constexpr int kQuickFrames = 10; // that an encoder without a reason to be slow is given in tests/encode
-constexpr int kFramesAtLeast =
-    6; // a second of 2160p, or of FFV1, would take as long as the rest of its preset
-
 bool IsVideo(const IVXCodecParameter& stream) { return stream.GetCodecType() == VXCodecTypeVideo; }
 
+// All encode a whole second but two, which work half a second on a frame of 2160p and have no quicker way.
 int FramesOfASecond(const IVXCodecParameter& stream, const std::string& encoder)
 {
-    if (FramesOf(stream, encoder) < kQuickFrames)
-        return kFramesAtLeast;
+    constexpr int kLargest = 1920 * 1088;
+    constexpr int kFewFrames = 6;
+    const bool isSlow = encoder == "prores_ks" || encoder == "libtheora";
+    if (isSlow && stream.GetWidth() * stream.GetHeight() > kLargest)
+        return kFewFrames;
     return std::max(2, static_cast<int>(std::ceil(stream.GetFrameRate()->GetDoubleValue())));
 }
 
@@ -94,16 +95,13 @@ std::vector<Stream> StreamsOf(const IVXFormatParameter& output)
     return streams;
 }
 
-// DV and MXF cut sound to the frames of a picture, so there is none without one.
-bool NeedsAPicture(const std::string& container) { return container == "DV" || container == "MXF"; }
-
 std::vector<std::size_t> Trial::SourcesWithOutput() const
 {
     std::vector<std::size_t> sources;
     for (std::size_t source = 0; source < kEncodedSources; ++source)
     {
         const auto output = Match(source);
-        const bool isRefused = NeedsAPicture(m_preset->FormatName()) && !output->GetVideoCodecParameter();
+        const bool isRefused = NeedsPicture(m_preset->FormatName()) && !output->GetVideoCodecParameter();
         if (!isRefused && !StreamsOf(*output).empty())
             sources.push_back(source);
     }

@@ -284,6 +284,44 @@ TEST(FormatLimits, PicturesInMXFHaveARateOfTelevision)
     EXPECT_EQ("30/1", Terms(*video->GetFrameRate(), '/')); // each picture twice
 }
 
+int ProfiledBitrate(const char* container, int codecID, int profile, int bitrate)
+{
+    const auto video = IVXCodecParameter::MallocCodecParamter(codecID);
+    video->SetWidth(1920);
+    video->SetHeight(1080);
+    video->SetFramePerSecond(IVXRational::MallocRational(30000, 1001));
+    video->SetFormat(codecID == VXCodecID_ProRes ? kPixFormatYUV422P10 : kPixFormatYUV422P);
+    video->SetProfile(profile);
+    video->SetBitrate(bitrate);
+    FitIntoContainer(*video, container);
+    return video->GetBitrate();
+}
+
+// Apple ProRes White Paper, target data rates: 45 Mb/s of Proxy, 102 of LT, 220 of HQ.
+TEST(FormatLimits, ABitrateIsThatOfTheProfile)
+{
+    EXPECT_EQ(45'000'000, ProfiledBitrate("MOV", VXCodecID_ProRes, 0, 220'000'000));
+    EXPECT_EQ(102'000'000, ProfiledBitrate("MKV", VXCodecID_ProRes, 1, 1'000));
+    EXPECT_EQ(220'000'000, ProfiledBitrate("MOV", VXCodecID_DNxHR, 3, 45'000'000));
+}
+
+TEST(FormatLimits, WithoutAProfileABitrateIsTheNearestThatAProfileHas)
+{
+    EXPECT_EQ(102'000'000,
+              ProfiledBitrate("MOV", VXCodecID_ProRes, IVXCodecs::VXProfileUnknown, 100'000'000));
+}
+
+TEST(FormatLimits, ABitrateIsOneThatTheStandardLists)
+{
+    EXPECT_EQ(145'000'000, ProfiledBitrate("MOV", VXCodecID_DNxHD, IVXCodecs::VXProfileUnknown, 100'000'000));
+}
+
+TEST(FormatLimits, ABitrateThatTheCodecTakesAndOneThatIsNotKnownStay)
+{
+    EXPECT_EQ(1'234'567, ProfiledBitrate("MP4", VXCodecID_H264, IVXCodecs::VXProfileUnknown, 1'234'567));
+    EXPECT_EQ(0, ProfiledBitrate("MOV", VXCodecID_ProRes, 0, 0));
+}
+
 std::uint32_t TagIn(const char* container, int codecID, std::uint32_t tag = 0)
 {
     const auto picture = IVXCodecParameter::MallocCodecParamter(codecID);

@@ -80,11 +80,12 @@ FfmpegCommand FfmpegCommandFor(const MediaMatch& match, const std::string& sourc
         throw Failure(output + ": the container " + Quoted(container) + " cannot be written here");
     const auto from = match.SourceStreams();
     const auto to = match.OutputStreams();
-    if (!to.video.parameter && !to.audio.parameter)
-        throw Failure(source + ": nothing of it is left in that preset");
-    if (!to.video.parameter && NeedsPicture(container))
-        throw Failure(source + ": has no picture, which " + container + " needs");
+    if (const auto obstacle = StreamObstacle(*match.output); !obstacle.empty())
+        throw Failure(source + ": " + obstacle);
     FfmpegCommand command{{"-i", FileName(source)}, {}, FileName(output), {}};
+    if (!IsNamedAs(container, output))
+        command.changes.push_back("the name " + Quoted(output) + " does not end as " + container +
+                                  " files do");
     if (const auto& video = to.video.parameter)
     {
         StreamOptions options(command, container, 'v');

@@ -32,6 +32,8 @@ fs::path Resolved(const std::string& path)
 
 void CheckPlace(const std::string& path, bool overwrites)
 {
+    if (path.empty())
+        throw Failure("the file to write has no name");
     std::error_code error;
     const auto status = fs::status(path, error);
     if (!fs::exists(status))
@@ -42,14 +44,14 @@ void CheckPlace(const std::string& path, bool overwrites)
         throw Failure(path + ": is there already");
 }
 
+// Its name is short, for the other may be as long as names can be.
 /// Makes a hidden file beside it that nothing else has.
 std::string MakeBeside(const fs::path& path)
 {
     constexpr int kTries = 100;
     for (int i = 0; i < kTries; ++i)
     {
-        const auto name = '.' + path.filename().string() + '.' + std::to_string(::getpid()) + '-' +
-                          std::to_string(i) + ".part";
+        const auto name = ".vx-" + std::to_string(::getpid()) + '-' + std::to_string(i) + ".part";
         auto temporary = (path.parent_path() / name).string();
         const int file = ::open(temporary.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0666);
         if (file >= 0)

@@ -141,7 +141,8 @@ EditOutcome DocumentEdit::Remove(const std::string& path, bool mayHoldMore)
     if (!isPreset && !mayHoldMore && presets + children > 0)
         throw Failure(Quoted(path) +
                       " is not empty: " + Counted(static_cast<int>(presets), "preset", "presets") + ", " +
-                      Counted(static_cast<int>(children), "category", "categories"));
+                      Counted(static_cast<int>(children), "category", "categories") +
+                      "; --recursive removes them too");
     EditOutcome outcome{"removed", m_names->PathOf(value)};
     Make([&](DocumentChanges& changes)
          { changes.Remove((*m_tree)[value].parent, {(*m_tree)[value].ordinal}); });

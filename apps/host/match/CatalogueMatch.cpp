@@ -17,6 +17,7 @@
 #include <cmath>
 #include <set>
 #include <tuple>
+#include <utility>
 
 namespace Vexlor::Tool
 {
@@ -142,16 +143,14 @@ void Comparison::Compare()
 }
 
 /// Why nothing can be made of the output here, one reason a text.
-std::vector<std::string> Obstacles(const IVXFormatPreset& preset, const Streams& output,
+std::vector<std::string> Obstacles(const IVXFormatParameter& file, const Streams& output,
                                    const std::set<std::string>& containers)
 {
     std::vector<std::string> obstacles;
-    if (!containers.contains(preset.FormatName()))
-        obstacles.push_back("the container " + Quoted(preset.FormatName()) + " cannot be written here");
-    if (!output.video.parameter && !output.audio.parameter)
-        obstacles.emplace_back("nothing of the source is left");
-    else if (!output.video.parameter && NeedsPicture(preset.FormatName()))
-        obstacles.push_back(preset.FormatName() + " needs a picture");
+    if (!containers.contains(file.FormatName()))
+        obstacles.push_back("the container " + Quoted(file.FormatName()) + " cannot be written here");
+    if (auto obstacle = StreamObstacle(file); !obstacle.empty())
+        obstacles.push_back(std::move(obstacle));
     for (const auto* stream : {&output.video, &output.audio})
     {
         const auto codecs = stream->parameter ? stream->parameter->GetCodecs(true) : nullptr;
@@ -170,7 +169,7 @@ PresetMatch MatchEntry(const CatalogueEntry& entry, const VXMediaFile& media, co
     match.entry = &entry;
     match.output = entry.preset->MatchForSource(media.parameter);
     const auto output = StreamsOf(*match.output);
-    match.texts = Obstacles(*entry.preset, output, containers);
+    match.texts = Obstacles(*match.output, output, containers);
     if (match.texts.empty())
         Comparison(source, output, match).Compare();
     else

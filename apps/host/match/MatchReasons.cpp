@@ -1,6 +1,7 @@
 #include "MatchReasons.h"
 
 #include "StreamReasons.h"
+#include "apps/host/Stream.h"
 #include "apps/host/Text.h"
 #include "apps/host/Units.h"
 
@@ -11,6 +12,8 @@
 #include "IVXFormatPreset.h"
 #include "VXMediaCodecs.h"
 
+#include <algorithm>
+#include <array>
 #include <utility>
 
 namespace Vexlor::Tool
@@ -71,7 +74,25 @@ Before ValuesOf(const IVXCodecParameter& stream, std::span<const MatchRow> rows)
     return before;
 }
 
-/// Adds to the values that are no longer what they were that the container did it.
+/// Whether the bitrate is one of a few, which are the profile's or those that the standard lists.
+bool HasFewBitrates(const IVXCodecParameter& stream)
+{
+    constexpr std::array kFew{VXCodecID_ProRes, VXCodecID_DNxHR, VXCodecID_DNxHD, VXCodecID_DV,
+                              VXCodecID_DVNTSC};
+    return std::ranges::find(kFew, stream.GetCodecID()) != kFew.end();
+}
+
+/// What made the value another when the stream was put into its container.
+MatchStep StepInto(MatchValue value, const IVXCodecParameter& stream, const std::string& container)
+{
+    if (value != MatchValue::Bitrate || !HasFewBitrates(stream))
+        return {MatchReason::SetByContainer, "set by the container " + container};
+    const auto profile = ProfileText(stream);
+    return {MatchReason::Snapped, profile.empty() ? std::string("snapped by the codec")
+                                                  : "snapped to that of the profile " + profile};
+}
+
+/// Adds to the values that are no longer what they were what did it.
 void AddContainer(ReasonedStream& output, const Before& before, std::span<const MatchRow> rows,
                   const std::string& container)
 {
@@ -82,8 +103,9 @@ void AddContainer(ReasonedStream& output, const Before& before, std::span<const 
             continue;
         if (text.empty())
             output.reasons[rows[i].value].clear(); // nothing was left to the encoder after all
-        output.Add(rows[i].value, MatchReason::SetByContainer,
-                   "set by the container " + container + (text.empty() ? "" : " from " + text));
+        auto step = StepInto(rows[i].value, *output.stream, container);
+        step.text += text.empty() ? "" : " from " + text;
+        output.Add(rows[i].value, step.reason, step.text);
     }
 }
 

@@ -21,6 +21,13 @@ using Warnings = std::vector<MatchWarning>;
 
 constexpr double kNoticed = 0.01; // of a size, a shape, a bitrate
 
+void WarnOfFile(Warnings& warnings, const MediaMatch& match)
+{
+    const bool isAudio = !match.SourceStreams().video.parameter;
+    if (const auto obstacle = StreamObstacle(*match.output); !obstacle.empty())
+        warnings.push_back({MatchWarningKind::NoFile, isAudio, obstacle + ": no file can be made"});
+}
+
 void WarnOfEncoder(Warnings& warnings, const Stream& output, bool isAudio)
 {
     if (!output.parameter)
@@ -145,6 +152,7 @@ std::vector<MatchWarning> WarningsOf(const MediaMatch& match)
     const auto source = match.SourceStreams();
     const auto output = match.OutputStreams();
     Warnings warnings;
+    WarnOfFile(warnings, match);
     WarnOfEncoder(warnings, output.video, false);
     WarnOfEncoder(warnings, output.audio, true);
     WarnOfLevel(warnings, output.video);
@@ -159,6 +167,8 @@ const char* WarningName(MatchWarningKind kind)
 {
     switch (kind)
     {
+    case MatchWarningKind::NoFile:
+        return "noFile";
     case MatchWarningKind::NoEncoder:
         return "noEncoder";
     case MatchWarningKind::LevelTooLow:

@@ -13,6 +13,7 @@ struct MediaMatch;
 /// What a user should know of an output before it is made.
 enum class MatchWarningKind : int
 {
+    NoFile,             ///< what is left of the source makes none of that container
     NoEncoder,          ///< the codec cannot be encoded here
     LevelTooLow,        ///< for the picture, the frame rate or the bitrate
     BitrateAboveSource, ///< the file grows, and nothing becomes better

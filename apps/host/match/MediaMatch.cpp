@@ -4,6 +4,7 @@
 
 #include "IVXFormatParameter.h"
 #include "IVXFormatPreset.h"
+#include "runtime/mediacodecs/VXEncoderSettings.h"
 
 #include <utility>
 
@@ -32,6 +33,12 @@ MediaMatch MatchMedia(VXMediaFile media, const IVXFormatPreset& preset)
     return {std::move(media), std::move(output), std::move(reasons)};
 }
 
-bool NeedsPicture(const std::string& container) { return container == "DV" || container == "MXF"; }
+std::string StreamObstacle(const IVXFormatParameter& output)
+{
+    const bool hasPicture = output.GetVideoCodecParameter() != nullptr;
+    if (!hasPicture && !output.GetAudioCodecParameter())
+        return "nothing of the source is left";
+    return !hasPicture && NeedsPicture(output.FormatName()) ? output.FormatName() + " needs a picture" : "";
+}
 
 } // namespace Vexlor::Tool

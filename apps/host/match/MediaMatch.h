@@ -26,7 +26,8 @@ VXMediaFile ReadSource(const std::string& path);
 /// Matches a source that was read.
 MediaMatch MatchMedia(VXMediaFile media, const IVXFormatPreset& preset);
 
-/// Whether a container of that name is not written for sound alone, which it cuts to the frames of a picture.
-bool NeedsPicture(const std::string& container);
+/// Why the streams that are left of a source make no file of that container: "DV needs a picture"; empty
+/// where they do.
+std::string StreamObstacle(const IVXFormatParameter& output);
 
 } // namespace Vexlor::Tool

@@ -7,6 +7,7 @@
 #include "IVXFormatParameter.h"
 #include "IVXRational.h"
 #include "VXMediaCodecs.h"
+#include "runtime/mediacodecs/VXEncoderSettings.h"
 
 #include <algorithm>
 #include <array>
@@ -80,7 +81,7 @@ constexpr Spread kConstant{0.95, 1.03, 0.1};
 constexpr Spread kVariableSound{0.75, 1.06, 0.1};
 constexpr Spread kVariablePicture{0.6, 1.1, 1};
 constexpr Spread kLossless{0.05, 1.4};
-constexpr Spread kOfProfile{0.1, 1.15}; // simple pictures take a fraction
+constexpr Spread kOfProfile{0.4, 1.1}; // simple pictures do not use it up
 
 constexpr std::array kStored{VXCodecID_PCM16,   VXCodecID_PCM24,   VXCodecID_PCM32, VXCodecID_PCMFloat,
                              VXCodecID_PCM16BE, VXCodecID_PCM24BE, VXCodecID_ALaw,  VXCodecID_MuLaw,
@@ -91,7 +92,7 @@ constexpr std::array kAlwaysConstant{VXCodecID_MP3,   VXCodecID_MP2,   VXCodecID
 constexpr std::array kOfContent{VXCodecID_FFV1, VXCodecID_FLAC, VXCodecID_ALAC, VXCodecID_WavPack,
                                 VXCodecID_TTA,  VXCodecID_GIF,  VXCodecID_WebP};
 
-constexpr std::array kProfiled{VXCodecID_ProRes};
+constexpr std::array kProfiled{VXCodecID_ProRes, VXCodecID_DNxHR};
 
 template <typename List>
 bool Holds(const List& list, int codecID)
@@ -107,7 +108,7 @@ Spread SpreadOf(const IVXCodecParameter& stream)
         return kExact;
     if (Holds(kOfContent, codec))
         return kLossless;
-    if (Holds(kProfiled, codec))
+    if (codec == VXCodecID_ProRes)
         return kOfProfile;
     if (Holds(kAlwaysConstant, codec) || stream.GetBitrateMode() == kConstantMode)
         return kConstant;
@@ -117,7 +118,8 @@ Spread SpreadOf(const IVXCodecParameter& stream)
 SizeRange RangeOf(const IVXCodecParameter& stream, double seconds)
 {
     const auto spread = SpreadOf(stream);
-    const double perSecond = stream.GetBitrate() / kBitsOfByte;
+    const bool isOfProfile = Holds(kProfiled, stream.GetCodecID());
+    const double perSecond = (isOfProfile ? TakenBitrate(stream) : stream.GetBitrate()) / kBitsOfByte;
     return {perSecond * seconds * spread.least, perSecond * seconds,
             perSecond * (seconds * spread.most + spread.start)};
 }
@@ -145,8 +147,15 @@ double ContainerSize(const IVXFormatParameter& output, double seconds, double st
 bool FollowsBitrate(const IVXCodecParameter& stream)
 {
     const int codec = stream.GetCodecID();
-    return !Holds(kStored, codec) && !Holds(kOfContent, codec) && !Holds(kProfiled, codec) &&
-           codec != VXCodecID_DNxHR;
+    return !Holds(kStored, codec) && !Holds(kOfContent, codec) && !Holds(kProfiled, codec);
+}
+
+int TakenBitrate(const IVXCodecParameter& stream)
+{
+    for (const auto& [option, value] : EncoderSettingsFor(stream).options)
+        if (option == "b")
+            return std::atoi(value.c_str());
+    return stream.GetBitrate();
 }
 
 SizeRange SizeEstimate::Total() const

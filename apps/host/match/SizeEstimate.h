@@ -40,6 +40,8 @@ SizeEstimate EstimateSize(const IVXFormatParameter& output, double seconds);
 /// Whether the stream becomes smaller with a lower bitrate: what is stored, lossless or decided by a profile
 /// does not, nor does a picture whose encoder goes by quality alone.
 bool FollowsBitrate(const IVXCodecParameter& stream);
+/// The bitrate that the encoder takes in place of the stream's, which is the same where it takes any.
+int TakenBitrate(const IVXCodecParameter& stream);
 
 /// Bytes of a text such as "25MB", "1.5 GB", "700MiB" or "3000000": k, M and G are powers of 1000, Ki, Mi and
 /// Gi of 1024. Throws WrongUsage for anything else, and for less than a byte.

@@ -9,11 +9,9 @@
 #include "IVXFormatPreset.h"
 #include "IVXRational.h"
 #include "VXMediaCodecs.h"
-#include "runtime/mediacodecs/VXEncoderSettings.h"
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <utility>
 
 namespace Vexlor::Tool
@@ -55,15 +53,6 @@ BitrateLimits PictureLimits(const IVXCodecParameter& video, const IVXFormatPrese
     const auto [least, most] = video.GetCodecs(true)->BitrateRangeFor(
         video.GetWidth(), video.GetHeight(), video.GetFrameRate(), video.GetFormat(), {});
     return Within({least, most}, preset.MinVideoBitrate(), preset.MaxVideoBitrate());
-}
-
-/// The bitrate that the encoder takes in place of the stream's.
-int TakenBitrate(const IVXCodecParameter& stream)
-{
-    for (const auto& [option, value] : EncoderSettingsFor(stream).options)
-        if (option == "b")
-            return std::atoi(value.c_str());
-    return stream.GetBitrate();
 }
 
 /// Sets a bitrate that the encoder takes as it is, not above the stream's: some know but a few, and take the
@@ -194,7 +183,9 @@ SizePlan Search::Plan()
     SizePlan plan;
     if (const auto& leading = m_video ? m_video : m_audio; leading && !FollowsBitrate(*leading))
         return {.isPossible = Fits(),
-                .reason = Fits() ? "" : "its codec takes what the content needs, whatever the bitrate",
+                .reason = Fits()
+                              ? ""
+                              : "its codec takes what the content or its profile needs, whatever the bitrate",
                 .estimate = Estimate()};
     const int videoBitrate = m_video ? m_video->GetBitrate() : 0;
     plan.isPossible = SolveAny();
