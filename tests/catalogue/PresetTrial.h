@@ -23,9 +23,9 @@ struct TriedPreset
 };
 
 /// Matches the preset with each of the first sources, opens the preferred encoders, encodes a second (of
-/// ProRes and
-/// Theora above 1080p a tenth), writes the file as the preset's container and reads it back. Every so many-th
-/// of the sources that leave anything to write is tried, beginning with another one for another turn.
+/// ProRes and Theora above 1080p a tenth), writes the file as the preset's container and reads it back. Every
+/// so many-th of the sources that leave anything to write is tried, beginning with another one for another
+/// turn.
 TriedPreset TryPreset(const PlacedPreset& placed, std::size_t turn, std::size_t step);
 
 } // namespace Vexlor
