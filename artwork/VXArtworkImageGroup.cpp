@@ -13,7 +13,8 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
+#include <utility>
+#include <vector>
 
 namespace Vexlor
 {
@@ -27,9 +28,47 @@ constexpr std::size_t kRecordHeadSize = 2 * sizeof(std::uint32_t);
 constexpr int kVariants = 3;
 constexpr int kModes = 4;
 
-using Pictures = std::map<int, std::shared_ptr<IVXArtworkImage>>;
+using Picture = std::shared_ptr<IVXArtworkImage>;
 
 int KeyOf(int variant, int mode) { return WrappingSum(WrappingProduct(variant, 10), mode); }
+
+/// Under one key stands one picture, the first that came; keys ascend.
+class Pictures
+{
+public:
+    using Entry = std::pair<int, Picture>;
+
+    Pictures() = default;
+    explicit Pictures(std::vector<Entry> entries) : m_entries(std::move(entries))
+    {
+        if (!std::ranges::is_sorted(m_entries, {}, &Entry::first))
+            std::ranges::stable_sort(m_entries, {}, &Entry::first);
+        const auto repeated = std::ranges::unique(m_entries, {}, &Entry::first);
+        m_entries.erase(repeated.begin(), repeated.end());
+    }
+
+    const std::vector<Entry>& Entries() const { return m_entries; }
+
+    Picture Find(int key) const
+    {
+        const auto place = PlaceOf(key);
+        return IsAt(place, key) ? place->second : nullptr;
+    }
+    void Add(int key, Picture picture)
+    {
+        const auto place = PlaceOf(key);
+        if (!IsAt(place, key))
+            m_entries.emplace(place, key, std::move(picture));
+    }
+
+private:
+    using Place = std::vector<Entry>::const_iterator;
+
+    Place PlaceOf(int key) const { return std::ranges::lower_bound(m_entries, key, {}, &Entry::first); }
+    bool IsAt(Place place, int key) const { return place != m_entries.end() && place->first == key; }
+
+    std::vector<Entry> m_entries;
+};
 
 class VXArtworkImageGroup final : public IVXArtworkImageGroup
 {
@@ -38,7 +77,7 @@ public:
     std::shared_ptr<IVXArtworkImage> GetArtworkImage(int variant, int mode) const override;
     std::shared_ptr<IVXData> ToData() const override;
     void FromData(std::shared_ptr<const IVXData> data) override;
-    bool IsEmpty() const override { return m_pictures.empty(); }
+    bool IsEmpty() const override { return m_pictures.Entries().empty(); }
     QIcon ToIcon() const override;
 
 private:
@@ -47,24 +86,23 @@ private:
 
 void VXArtworkImageGroup::SetArtworkImage(std::shared_ptr<const IVXArtworkImage> image, int variant, int mode)
 {
-    // What is there stays, deliberately: emplace does not replace.
+    // What is there stays, deliberately.
     if (image)
-        m_pictures.emplace(KeyOf(variant, mode), IVXArtworkImage::MallocArtworkImage(
-                                                     image->Bytes(), image->Size(), image->Format()));
+        m_pictures.Add(KeyOf(variant, mode),
+                       IVXArtworkImage::MallocArtworkImage(image->Bytes(), image->Size(), image->Format()));
 }
 
 std::shared_ptr<IVXArtworkImage> VXArtworkImageGroup::GetArtworkImage(int variant, int mode) const
 {
-    const auto found = m_pictures.find(KeyOf(variant, mode));
-    return found != m_pictures.end() ? found->second : nullptr;
+    return m_pictures.Find(KeyOf(variant, mode));
 }
 
 std::shared_ptr<IVXData> VXArtworkImageGroup::ToData() const
 {
     auto data = IVXData::MallocData(kHeadSize);
     auto* const count = std::copy(kFlag.begin(), kFlag.end(), data->Bytes());
-    PutLittleEndian(count, static_cast<std::uint32_t>(m_pictures.size()));
-    for (const auto& [key, picture] : m_pictures)
+    PutLittleEndian(count, static_cast<std::uint32_t>(m_pictures.Entries().size()));
+    for (const auto& [key, picture] : m_pictures.Entries())
     {
         const auto bytes = picture->ToData();
         std::array<std::uint8_t, kRecordHeadSize> head{};
@@ -76,28 +114,29 @@ std::shared_ptr<IVXData> VXArtworkImageGroup::ToData() const
 }
 
 /// The pictures of a blob behind its head, as many as were counted and lie whole inside it.
-Pictures ReadPictures(VXByteReader reader, int count)
+Pictures ReadPictures(VXByteReader reader, std::size_t count)
 {
-    Pictures pictures;
-    for (int i = 0; i < count; ++i)
+    std::vector<Pictures::Entry> pictures;
+    pictures.reserve(std::min(count, reader.Rest() / kRecordHeadSize));
+    for (std::size_t i = 0; i < count; ++i)
     {
         const auto key = reader.Next<std::uint32_t>();
         const auto size = reader.Next<std::uint32_t>();
         const auto bytes = size ? reader.Bytes(*size) : std::nullopt;
         if (!bytes)
             break;
-        auto data = IVXData::MallocData(*size);
-        std::copy(bytes->begin(), bytes->end(), data->Bytes());
+        auto data = IVXData::MallocData(0);
+        data->AppendBytes(bytes->data(), *size);
         auto picture = IVXArtworkImage::MallocArtworkImage();
         picture->FromData(data);
-        pictures.emplace(static_cast<int>(*key), std::move(picture));
+        pictures.emplace_back(static_cast<int>(*key), std::move(picture));
     }
-    return pictures;
+    return Pictures(std::move(pictures));
 }
 
 void VXArtworkImageGroup::FromData(std::shared_ptr<const IVXData> data)
 {
-    m_pictures.clear();
+    m_pictures = {};
     if (!data)
         return;
     VXByteReader reader({data->Bytes(), data->Size()});
@@ -107,8 +146,8 @@ void VXArtworkImageGroup::FromData(std::shared_ptr<const IVXData> data)
         IVXLogConfig::Printf("VXArtworkImageGroup->FromData->Error:Data flag Error");
         return;
     }
-    if (const auto count = reader.Next<std::uint32_t>())
-        m_pictures = ReadPictures(reader, static_cast<int>(*count));
+    const auto count = static_cast<int>(reader.Next<std::uint32_t>().value_or(0));
+    m_pictures = ReadPictures(reader, static_cast<std::size_t>(std::max(count, 0)));
 }
 
 /// The picture decoded; a null image when there is none or it cannot be decoded.

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 namespace Vexlor
 {
@@ -71,6 +72,7 @@ private:
     bool HasRoomFor(std::size_t entries) const { return m_writable && entries <= kMostArtworkEntries; }
     ReadOnlyGroup Load(const VXArtworkEntry& entry) const;
     bool SetUp(const std::string& path, IVXStorage::StorageMode mode);
+    void Take(VXArtworkTable table);
     std::uint64_t SeekToFreeSpace();
     bool StoreAt(std::size_t idx, const IVXArtworkImageGroup& group, int faceID);
     template <class Step>
@@ -78,6 +80,7 @@ private:
 
     std::shared_ptr<IVXStorage> m_storage;
     VXArtworkTable m_table;
+    bool m_ascends = true; // the identifiers in the table do, as they do where only new groups were added
     bool m_writable = false;
 };
 
@@ -93,7 +96,7 @@ bool VXArtworkImageMgr::SetUp(const std::string& path, IVXStorage::StorageMode m
     if (m_storage->Size() > 0)
     {
         bool readable = false;
-        m_table = ReadArtworkTable(*m_storage, readable);
+        Take(ReadArtworkTable(*m_storage, readable));
         return m_writable = readable;
     }
     // One write makes the whole head, so that no process that ends here leaves half a one.
@@ -102,6 +105,12 @@ bool VXArtworkImageMgr::SetUp(const std::string& path, IVXStorage::StorageMode m
     std::copy_n(head->Bytes(), head->Size(), empty->Bytes());
     m_storage->WriteData(empty);
     return m_writable = true;
+}
+
+void VXArtworkImageMgr::Take(VXArtworkTable table)
+{
+    m_table = std::move(table);
+    m_ascends = std::ranges::is_sorted(m_table, {}, &VXArtworkEntry::faceID);
 }
 
 ReadOnlyGroup VXArtworkImageMgr::GetArtworkImageGroupByID(int faceID) const
@@ -146,8 +155,10 @@ ReadOnlyGroup VXArtworkImageMgr::Load(const VXArtworkEntry& entry) const
 
 int VXArtworkImageMgr::IndexOf(int faceID) const
 {
-    const auto found = std::ranges::find(m_table, faceID, &VXArtworkEntry::faceID);
-    return found != m_table.end() ? static_cast<int>(found - m_table.begin()) : -1;
+    const auto found = m_ascends ? std::ranges::lower_bound(m_table, faceID, {}, &VXArtworkEntry::faceID)
+                                 : std::ranges::find(m_table, faceID, &VXArtworkEntry::faceID);
+    const bool isThere = found != m_table.end() && found->faceID == faceID;
+    return isThere ? static_cast<int>(found - m_table.begin()) : -1;
 }
 
 int VXArtworkImageMgr::NextAutomaticFaceID() const
@@ -181,7 +192,7 @@ bool VXArtworkImageMgr::Change(Step step)
     };
     if (!Guarded(false, prepare))
         return false;
-    m_table = std::move(table);
+    Take(std::move(table));
     if (head)
         Guarded(std::shared_ptr<IVXError>(), [&] { return m_storage->WriteData(head); });
     return true;

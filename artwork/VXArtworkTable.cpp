@@ -75,6 +75,7 @@ VXArtworkTable ReadArtworkTable(IVXStorage& storage, bool& readable)
         const auto data = storage.Read(static_cast<std::uint32_t>(wanted * kEntrySize));
         if (!data)
             break;
+        table.reserve(table.size() + data->Size() / kEntrySize);
         auto reader = ReaderOf(*data);
         while (const auto record = reader.Bytes(kEntrySize))
             table.push_back(ReadEntry(*record));

@@ -1,6 +1,5 @@
 #include "IVXData.h"
 
-#include <cstring>
 #include <functional>
 #include <limits>
 #include <stdexcept>
@@ -32,10 +31,9 @@ public:
         // The bytes may be our own, which move when the buffer grows.
         const bool areOurs =
             !std::less<>()(first, m_bytes.data()) && std::less<>()(first, m_bytes.data() + Size());
-        const auto offset = areOurs ? first - m_bytes.data() : 0;
-        const std::size_t end = m_bytes.size();
-        m_bytes.resize(end + size);
-        std::memcpy(m_bytes.data() + end, areOurs ? m_bytes.data() + offset : first, size);
+        if (areOurs)
+            return AppendBytes(std::vector(first, first + size).data(), size);
+        m_bytes.insert(m_bytes.end(), first, first + size);
     }
 
     void AppendData(const std::shared_ptr<const IVXData>& data) override

@@ -24,7 +24,12 @@ private:
 
 } // namespace
 
-std::shared_ptr<IVXError> MallocSuccess() { return std::make_shared<VXError>(); }
+// All successes are one object, which never changes and needs no owner.
+std::shared_ptr<IVXError> MallocSuccess()
+{
+    static VXError s_success;
+    return {std::shared_ptr<void>(), &s_success};
+}
 
 std::shared_ptr<IVXError> MallocFailure(std::string message)
 {

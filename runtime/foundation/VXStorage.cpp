@@ -55,18 +55,27 @@ private:
     {
         return MallocFailure(m_path + ": " + reason);
     }
+    std::uint64_t SizeFromHere(std::uint32_t wanted);
 
     std::string m_path;
     bool m_isWritable;
     VXFile m_file;
     std::string m_reason; // why the file is not open
     std::uint64_t m_position = 0;
+    std::uint64_t m_end = 0; // of the file, when it was last looked at
 };
+
+// How many bytes follow, as far as so many are wanted. The file is asked only when it may have to have grown.
+std::uint64_t VXStorage::SizeFromHere(std::uint32_t wanted)
+{
+    if (m_end < m_position || m_end - m_position < wanted)
+        m_end = Size();
+    return m_end - std::min(m_end, m_position);
+}
 
 std::shared_ptr<IVXData> VXStorage::Read(std::uint32_t size)
 {
-    const std::uint64_t end = Size();
-    const std::uint64_t rest = end - std::min(end, m_position);
+    const std::uint64_t rest = SizeFromHere(size);
     auto data = IVXData::MallocData(static_cast<std::uint32_t>(std::min<std::uint64_t>(size, rest)));
     if (data->Empty())
         return data;
