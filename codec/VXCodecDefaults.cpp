@@ -70,13 +70,13 @@ HandleList<IVXFrameratePreset> FrameratesWithinLimits(const IVXCodecs& codecs)
     return list;
 }
 
-// A choice between at least two values can be left open.
+// A choice between at least two values can be left open. The copies stand in one block.
 template <typename Preset>
 HandleList<Preset> BehindAuto(HandleList<Preset> list, std::shared_ptr<Preset> autoPreset)
 {
     if (list.size() >= 2)
         list.insert(list.begin(), std::move(autoPreset));
-    return list;
+    return CloneValues(list);
 }
 
 } // namespace
@@ -84,12 +84,15 @@ HandleList<Preset> BehindAuto(HandleList<Preset> list, std::shared_ptr<Preset> a
 HandleList<IVXCodecQualityPreset> DefaultQualities()
 {
     using Quality = IVXCodecQualityPreset;
-    return {Quality::MallocCodecQualityPreset(),
-            Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelLow),
-            Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelNormal),
-            Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelHigh),
-            Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelBest),
-            Quality::MallocCodecQualityPreset(1)};
+    static const HandleList<Quality> s_qualities{
+        Quality::MallocCodecQualityPreset(),
+        Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelLow),
+        Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelNormal),
+        Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelHigh),
+        Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelBest),
+        Quality::MallocCodecQualityPreset(1),
+    };
+    return CloneValues(s_qualities);
 }
 
 HandleList<IVXResolutionPreset> IVXCodecPreset::DefaultResolutions(int codecID)
@@ -162,7 +165,7 @@ HandleList<IVXProfilePreset> IVXCodecPreset::DefaultProfiles(int codecID)
         IVXProfilePreset::MallocProfilePreset(IVXCodecs::VXProfileUnknown, "Unknown")};
     for (const int profile : codecs->SupportedProfiles({}))
         list.push_back(IVXProfilePreset::MallocProfilePreset(profile, codecs->ProfileName(profile)));
-    return list;
+    return CloneValues(list);
 }
 
 HandleList<IVXLevelPreset> IVXCodecPreset::DefaultLevels(int codecID)
@@ -173,7 +176,7 @@ HandleList<IVXLevelPreset> IVXCodecPreset::DefaultLevels(int codecID)
     HandleList<IVXLevelPreset> list{IVXLevelPreset::MallocLevelPreset(IVXCodecs::VXLevelUnknown, "Unknown")};
     for (const int level : codecs->SupportedLevels({}))
         list.push_back(IVXLevelPreset::MallocLevelPreset(level, codecs->LevelName(level)));
-    return list;
+    return CloneValues(list);
 }
 
 } // namespace Vexlor
