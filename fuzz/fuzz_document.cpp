@@ -9,7 +9,8 @@
 #include <string_view>
 
 // A document that can be read is completed when it is first written, and from then on reads and writes as the
-// same text; a clone of the tree writes that text too.
+// same text; a clone of the tree writes that text too. What a document leaves out, such as a codec's levels,
+// may lie deeper than can be read: then there is no text.
 
 namespace
 {
@@ -30,13 +31,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const auto root = IVXFormatNode::MallocFormatNode(json);
     const auto written = TextOf(*root);
     Require(TextOf(*root->Clone(IVXFormatNode::CloneAll)) == written);
-    const auto reread = ParseJson(written, &error);
-    if (!reread)
-    {
-        // What a document leaves out, such as a codec's levels, may lie deeper than it goes itself.
-        Require(error.find("nested deeper") != std::string::npos);
+    if (written.empty())
         return 0;
-    }
+    const auto reread = ParseJson(written);
+    Require(reread != nullptr);
     Require(TextOf(*IVXFormatNode::MallocFormatNode(reread)) == written);
     return 0;
 }

@@ -26,14 +26,10 @@ using namespace Vexlor;
 void CheckDocument(const IVXFormatNode& root)
 {
     const auto text = JsonText(*root.JsonValue());
-    std::string error;
-    const auto json = ParseJson(text, &error);
-    if (!json)
-    {
-        // What was as deep as can be read has got levels of its own.
-        Require(error.find("nested deeper") != std::string::npos);
+    if (text.empty()) // what was as deep as can be read has got levels of its own
         return;
-    }
+    const auto json = ParseJson(text);
+    Require(json != nullptr);
     const auto reread = IVXFormatNode::MallocFormatNode(json);
     Tool::TakeUpQualities(*reread, *json);
     Require(JsonText(*reread->JsonValue()) == text);

@@ -11,7 +11,7 @@ namespace Vexlor
 
 class IVXJsonValue;
 
-/// How deep arrays and objects may be nested in a text that is read.
+/// How deep arrays and objects may be nested in a text.
 inline constexpr int kJsonMaxDepth = 1024;
 
 /// The layout of a JSON text that is written.
@@ -41,8 +41,8 @@ VX_FOUNDATION_API std::shared_ptr<const IVXJsonValue> ReadJsonFile(const std::st
 /// The value as JSON text without a line end behind it. Integers are exact, floating-point numbers the
 /// shortest text that reads back the same, bytes that are not UTF-8 are replaced by U+FFFD.
 ///
-/// A value of another implementation than this library's is written as null. A built value that was set below
-/// itself has no text: the answer is empty.
+/// A value of another implementation than this library's is written as null. A built value that is deeper
+/// than a text that can be read, as one that was set below itself, has no text: the answer is empty.
 VX_FOUNDATION_API std::string JsonText(const IVXJsonValue& value, JsonStyle style = JsonStyle::Compact);
 
 } // namespace Vexlor

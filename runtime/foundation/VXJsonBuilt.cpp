@@ -2,6 +2,7 @@
 #include "runtime/foundation/VXJsonMembers.h"
 #include "runtime/foundation/VXJsonNode.h"
 #include "runtime/foundation/VXJsonPieces.h"
+#include "runtime/foundation/VXPrefetch.h"
 
 #include <array>
 #include <charconv>
@@ -16,7 +17,10 @@ namespace
 {
 
 using Handle = std::shared_ptr<IVXJsonValue>; // an empty one stands for null
-using Handles = std::vector<Handle>;
+using Handles = VXJsonMembers::Children;
+
+// How many elements ahead a value is asked for, of which there are more than the caches hold.
+constexpr std::size_t kSoon = 8;
 
 // Lets go of children without the destructors of deep values calling each other: the first of them on this
 // thread empties a list in a loop, those that it runs only add to that list.
@@ -25,12 +29,15 @@ void LetGo(Handles children)
     thread_local Handles* waiting = nullptr;
     if (waiting)
     {
-        std::ranges::move(children, std::back_inserter(*waiting));
+        waiting->insert(waiting->end(), std::move_iterator(children.begin()),
+                        std::move_iterator(children.end()));
         return;
     }
     waiting = &children;
     while (!children.empty())
     {
+        if (children.size() > kSoon)
+            Prefetch(children[children.size() - 1 - kSoon].get());
         const Handle last = std::move(children.back());
         children.pop_back();
     }
@@ -81,7 +88,9 @@ private:
 class VXJsonArray final : public VXJsonReadOnly<VXJsonArray>
 {
 public:
-    explicit VXJsonArray(const Handles& elements) : m_elements(elements) {}
+    explicit VXJsonArray(const std::vector<Handle>& elements) : m_elements(elements.begin(), elements.end())
+    {
+    }
     VXJsonArray(const VXJsonArray&) = delete;
     VXJsonArray& operator=(const VXJsonArray&) = delete;
     ~VXJsonArray() { LetGo(std::move(m_elements)); }
@@ -91,6 +100,8 @@ public:
     {
         if (cursor.at == m_elements.size())
             return false;
+        if (m_elements.size() - cursor.at > kSoon)
+            Prefetch(m_elements[cursor.at + kSoon].get());
         entry.item = ItemOf(m_elements[cursor.at++]);
         return true;
     }
@@ -123,8 +134,8 @@ public:
     VXJsonObject& operator=(const VXJsonObject&) = delete;
     ~VXJsonObject()
     {
-        if (m_members.Written().empty())
-            LetGo(m_members.TakeChildren());
+        if (auto children = m_members.TakeChildren(); !children.empty())
+            LetGo(std::move(children));
     }
 
     JsonItem Find(std::string_view name) const
@@ -150,7 +161,14 @@ public:
         return true;
     }
 
-    std::string_view WrittenMembers() const override { return m_members.Written(); }
+    bool NextPart(JsonCursor& cursor, JsonPart& part) const override
+    {
+        const Handle* child = nullptr;
+        if (!m_members.NextWritten(cursor.at, part.text, child))
+            return false;
+        part.child = child ? ItemOf(*child) : JsonItem();
+        return true;
+    }
 
     std::shared_ptr<const IVXJsonValue> operator[](std::string_view name) const override
     {
@@ -185,7 +203,7 @@ public:
     {
         m_members.SetChild(name, value);
     }
-    void SetValueArray(std::string_view name, const Handles& values) override
+    void SetValueArray(std::string_view name, const std::vector<Handle>& values) override
     {
         m_members.SetChild(name, MakeValue<VXJsonArray>(values));
     }

@@ -18,6 +18,9 @@ namespace
 constexpr char kChildMark = '\1';
 constexpr std::size_t kChildSize = 1 + sizeof(std::size_t);
 
+// Room for a codec preset's members at once.
+constexpr std::size_t kFarText = 768;
+
 // Whether an odd number of backslashes stands before that place.
 bool IsEscaped(std::string_view text, std::size_t at)
 {
@@ -87,7 +90,7 @@ std::string EscapedName(std::string_view name)
 struct VXJsonMembers::Far
 {
     std::string text;
-    std::vector<Child> children;
+    Children children;
     std::bitset<kHashes> names; // of the names' hashes: a name without one is no member's
 };
 
@@ -109,7 +112,7 @@ VXJsonMembers::Far& VXJsonMembers::MakeFar()
     if (IsFar())
         return FarPart();
     auto far = std::make_unique<Far>();
-    far->text.reserve(4 * kNear);
+    far->text.reserve(kFarText);
     far->text = Text();
     std::size_t cursor = 0;
     JsonMember member;
@@ -126,20 +129,27 @@ std::string_view VXJsonMembers::Text() const
     return IsFar() ? std::string_view(FarPart().text) : std::string_view(m_near.data(), m_size);
 }
 
-std::string_view VXJsonMembers::Written() const
+VXJsonMembers::Children VXJsonMembers::TakeChildren()
 {
-    return IsFar() && !FarPart().children.empty() ? std::string_view() : Text();
+    return IsFar() ? std::move(FarPart().children) : Children();
 }
 
-std::vector<VXJsonMembers::Child> VXJsonMembers::TakeChildren()
+const VXJsonMembers::Child& VXJsonMembers::ChildAt(std::string_view place) const
 {
-    std::vector<Child> children;
-    if (IsFar())
-    {
-        children.resize(FarPart().children.size());
-        children.swap(FarPart().children);
-    }
-    return children;
+    std::size_t child = 0;
+    std::memcpy(&child, place.data() + 1, sizeof child);
+    return FarPart().children[child];
+}
+
+bool VXJsonMembers::NextWritten(std::size_t& cursor, std::string_view& text, const Child*& child) const
+{
+    const std::string_view rest = Text().substr(cursor);
+    const std::size_t place = IsFar() ? rest.find(kChildMark) : std::string_view::npos;
+    const bool isLast = place == std::string_view::npos;
+    text = rest.substr(0, isLast && !rest.empty() ? rest.size() - 1 : place); // without the last comma
+    child = isLast ? nullptr : &ChildAt(rest.substr(place));
+    cursor += isLast ? rest.size() : place + kChildSize;
+    return !rest.empty();
 }
 
 bool VXJsonMembers::Next(std::size_t& cursor, JsonMember& member) const
@@ -152,11 +162,7 @@ bool VXJsonMembers::Next(std::size_t& cursor, JsonMember& member) const
     member.value = rest.substr(name + 1, ValueLength(rest.substr(name + 1)));
     member.child = nullptr;
     if (member.value[0] == kChildMark)
-    {
-        std::size_t child = 0;
-        std::memcpy(&child, member.value.data() + 1, sizeof child);
-        member.child = &FarPart().children[child];
-    }
+        member.child = &ChildAt(member.value);
     cursor += member.name.size() + member.value.size() + kMarks;
     return true;
 }
@@ -168,8 +174,6 @@ bool VXJsonMembers::MayHave(std::size_t hash) const
 
 bool VXJsonMembers::FindPlain(std::string_view name, JsonMember& member) const
 {
-    if (!MayHave(HashOf(name)))
-        return false;
     std::size_t cursor = 0;
     while (Next(cursor, member))
         if (member.name == name)
@@ -179,7 +183,10 @@ bool VXJsonMembers::FindPlain(std::string_view name, JsonMember& member) const
 
 bool VXJsonMembers::Find(std::string_view name, JsonMember& member) const
 {
-    return IsPlainJsonText(name) ? FindPlain(name, member) : FindPlain(EscapedName(name), member);
+    if (IsPlainJsonText(name))
+        return MayHave(HashOf(name)) && FindPlain(name, member);
+    const std::string escaped = EscapedName(name);
+    return MayHave(HashOf(escaped)) && FindPlain(escaped, member);
 }
 
 void VXJsonMembers::Replace(const JsonMember& member, std::string_view value)
@@ -193,19 +200,21 @@ void VXJsonMembers::Replace(const JsonMember& member, std::string_view value)
 
 void VXJsonMembers::SetPlain(std::string_view name, std::string_view value)
 {
-    if (JsonMember before; FindPlain(name, before))
+    const std::size_t hash = HashOf(name);
+    if (JsonMember before; MayHave(hash) && FindPlain(name, before))
         return Replace(before, value);
     const std::size_t size = name.size() + value.size() + kMarks;
     if (!IsFar() && m_size + size <= kNear)
     {
         PutMember(m_near.data() + m_size, name, value);
-        m_names |= NearBit(HashOf(name));
+        m_names |= NearBit(hash);
         m_size = static_cast<std::uint8_t>(m_size + size);
         return;
     }
     Far& far = MakeFar();
-    far.text.append(1, '"').append(name).append("\":").append(value).append(1, ',');
-    far.names.set(HashOf(name));
+    far.text.resize(far.text.size() + size);
+    PutMember(far.text.data() + far.text.size() - size, name, value);
+    far.names.set(hash);
 }
 
 void VXJsonMembers::SetText(std::string_view name, std::string_view value)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "IVXJsonValue.h"
+#include "runtime/foundation/VXJsonPieces.h"
 
 #include <array>
 #include <cstddef>
@@ -28,6 +29,7 @@ class VXJsonMembers
 {
 public:
     using Child = std::shared_ptr<IVXJsonValue>;
+    using Children = std::vector<Child, JsonPieceAllocator<Child>>;
 
     VXJsonMembers() = default;
     VXJsonMembers(const VXJsonMembers&) = delete;
@@ -44,10 +46,11 @@ public:
     void SetText(std::string_view name, std::string_view value);
     void SetChild(std::string_view name, const Child& child);
 
-    /// The members as they stand in a text without blanks, a comma behind each; empty with children.
-    std::string_view Written() const;
-    /// Leaves null in their places.
-    std::vector<Child> TakeChildren();
+    /// The members as they stand in a text without blanks, from cursor up to the next child, which is no part
+    /// of it; null where there is none any more. False behind the last member.
+    bool NextWritten(std::size_t& cursor, std::string_view& text, const Child*& child) const;
+    /// Leaves no member that could be looked up.
+    Children TakeChildren();
 
 private:
     struct Far;
@@ -56,6 +59,7 @@ private:
     Far& FarPart() const;
     Far& MakeFar();
     std::string_view Text() const;
+    const Child& ChildAt(std::string_view place) const;
     bool MayHave(std::size_t hash) const;
     bool FindPlain(std::string_view name, JsonMember& member) const;
     void SetPlain(std::string_view name, std::string_view value);

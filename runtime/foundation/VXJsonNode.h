@@ -49,6 +49,13 @@ struct JsonEntry
     bool isNameAsWritten = false; ///< the name is as it stands in a text
 };
 
+/// A piece of an object's text.
+struct JsonPart
+{
+    std::string_view text; ///< members as they stand between the braces, without blanks
+    JsonItem child;        ///< the value that follows the text; Absent at the end
+};
+
 /// A place between the elements or members of a container; the first one to begin with.
 struct JsonCursor
 {
@@ -68,8 +75,9 @@ public:
     virtual JsonItem Self() const = 0;
     /// The element or member at cursor, which moves on; false when there is none.
     virtual bool Next(JsonCursor& /*cursor*/, JsonEntry& /*entry*/) const { return false; }
-    /// All members as they stand in a text without blanks, a comma behind each, where that is at hand.
-    virtual std::string_view WrittenMembers() const { return {}; }
+    /// The members at cursor as text, where that is at hand, up to the next child; the cursor moves on, and
+    /// must not be used for both. False behind the last, and where they have to be written one by one.
+    virtual bool NextPart(JsonCursor& /*cursor*/, JsonPart& /*part*/) const { return false; }
 
     std::shared_ptr<const IVXJsonValue> operator[](std::string_view) const override { return JsonNull(); }
     std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view) const override

@@ -53,15 +53,30 @@ void* CutAlone(std::size_t size)
     return piece;
 }
 
-// The block that this thread cuts from. A plain pointer may be used even while the thread ends.
-thread_local Block* t_current = nullptr;
-thread_local bool t_isEnding = false;
+// What a thread has of the blocks. Plain variables may be used even while the thread ends.
+struct Pieces
+{
+    Block* current = nullptr; // the block that pieces are cut from
+    Block* emptied = nullptr; // the block that pieces were last given back to,
+    std::size_t given = 0;    // and how many of them its count does not know of yet
+    bool isEnding = false;
+};
+
+thread_local Pieces t_pieces;
 
 void Retire() noexcept
 {
-    if (t_current)
-        Release(t_current, Block::kMost - t_current->pieces);
-    t_current = nullptr;
+    if (t_pieces.current)
+        Release(t_pieces.current, Block::kMost - t_pieces.current->pieces);
+    t_pieces.current = nullptr;
+}
+
+void CountGiven() noexcept
+{
+    if (t_pieces.emptied)
+        Release(t_pieces.emptied, t_pieces.given);
+    t_pieces.emptied = nullptr;
+    t_pieces.given = 0;
 }
 
 struct AtThreadEnd
@@ -71,27 +86,46 @@ struct AtThreadEnd
     AtThreadEnd& operator=(const AtThreadEnd&) = delete;
     ~AtThreadEnd()
     {
+        CountGiven();
         Retire();
-        t_isEnding = true;
+        t_pieces.isEnding = true;
     }
 };
 
+void WatchThreadEnd() { thread_local const AtThreadEnd s_watch; }
+
 void StartBlock()
 {
-    thread_local const AtThreadEnd retires;
+    WatchThreadEnd();
     Block* const block = NewBlock(kBlockSize);
     Retire();
-    t_current = block;
+    t_pieces.current = block;
 }
 
 void* TakeShared(std::size_t size)
 {
     constexpr std::size_t kLargest = kBlockSize / 8;
-    if (size > kLargest || t_isEnding)
+    if (size > kLargest || t_pieces.isEnding)
         return CutAlone(size);
-    if (!t_current || kBlockSize - t_current->used < size)
+    if (!t_pieces.current || kBlockSize - t_pieces.current->used < size)
         StartBlock();
-    return Cut(t_current, size);
+    return Cut(t_pieces.current, size);
+}
+
+// Values die as they lived, one beside the other: a block's count hears of many at once, but of its last
+// piece immediately.
+void GiveShared(Block* block) noexcept
+{
+    if (t_pieces.isEnding)
+        return Release(block, 1);
+    if (block != t_pieces.emptied)
+    {
+        WatchThreadEnd();
+        CountGiven();
+        t_pieces.emptied = block;
+    }
+    if (++t_pieces.given == block->count.load(std::memory_order_relaxed))
+        CountGiven();
 }
 
 // The sanitizer sees an access to a piece that was given back only where each is a block of the heap's own.
@@ -115,7 +149,7 @@ void GiveJsonPiece(void* piece) noexcept
     if (!kAreShared)
         return ::operator delete(piece);
     const auto offset = reinterpret_cast<std::uintptr_t>(piece) % kBlockSize;
-    Release(reinterpret_cast<Block*>(static_cast<char*>(piece) - offset), 1);
+    GiveShared(reinterpret_cast<Block*>(static_cast<char*>(piece) - offset));
 }
 
 } // namespace Vexlor

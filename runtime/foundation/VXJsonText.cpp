@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <unordered_set>
 
 namespace Vexlor
 {
@@ -66,9 +65,9 @@ public:
     std::string Write(const JsonItem& root)
     {
         WriteItem(root);
-        while (!m_open.empty() && !m_isCyclic)
+        while (!m_open.empty() && !m_isTooDeep)
             WriteNext();
-        return m_isCyclic ? std::string() : std::move(m_text);
+        return m_isTooDeep ? std::string() : std::move(m_text);
     }
 
 private:
@@ -76,6 +75,7 @@ private:
     {
         const VXJsonNode* node;
         bool named;
+        bool inParts; // its members are at hand as text
         JsonCursor cursor;
     };
 
@@ -90,6 +90,8 @@ private:
     void WriteNext()
     {
         Container& container = m_open.back();
+        if (container.inParts)
+            return WritePart(container);
         const bool isFirst = container.cursor.at == 0;
         JsonEntry entry;
         if (!container.node->Next(container.cursor, entry))
@@ -100,6 +102,16 @@ private:
         if (container.named)
             WriteName(entry);
         WriteItem(entry.item);
+    }
+
+    void WritePart(Container& container)
+    {
+        JsonPart part;
+        if (!container.node->NextPart(container.cursor, part))
+            return Close();
+        m_text.append(part.text);
+        if (part.child.kind != JsonKind::Absent)
+            WriteItem(part.child);
     }
 
     void WriteName(const JsonEntry& entry)
@@ -113,24 +125,22 @@ private:
 
     void Open(const VXJsonNode& node, bool named)
     {
-        if (const auto members = m_indented ? std::string_view() : node.WrittenMembers(); !members.empty())
-        {
-            m_text.append(1, '{').append(members.substr(0, members.size() - 1)).append(1, '}');
-            return;
-        }
-        // Shallow containers are not worth the search: a value below itself gets deep at once.
-        if (m_open.size() >= kJsonMaxDepth && !m_deep.insert(&node).second)
-            m_isCyclic = true;
+        // A value below itself gets too deep as well.
+        m_isTooDeep = m_isTooDeep || m_open.size() == kJsonMaxDepth;
         m_text += named ? '{' : '[';
-        m_open.push_back({.node = &node, .named = named, .cursor = {}});
+        JsonPart part;
+        JsonCursor cursor;
+        const bool inParts = !m_indented && node.NextPart(cursor, part);
+        if (inParts && part.child.kind == JsonKind::Absent)
+            m_text.append(part.text).append(1, '}');
+        else
+            m_open.push_back({.node = &node, .named = named, .inParts = inParts, .cursor = {}});
     }
 
     void Close()
     {
         const Container container = m_open.back();
         m_open.pop_back();
-        if (m_open.size() >= kJsonMaxDepth)
-            m_deep.erase(container.node);
         if (container.cursor.at > 0)
             StartLine();
         m_text += container.named ? '}' : ']';
@@ -146,10 +156,9 @@ private:
     }
 
     bool m_indented;
-    bool m_isCyclic = false;
+    bool m_isTooDeep = false;
     std::string m_text;
     std::vector<Container> m_open;
-    std::unordered_set<const VXJsonNode*> m_deep; // the open containers beyond the depth that can be read
 };
 
 } // namespace

@@ -96,15 +96,37 @@ TEST(JsonDepth, BreadthIsNoDepth)
     EXPECT_EQ(static_cast<int>(kFar) + 1, value->Size());
 }
 
-TEST(JsonDepth, ABuiltValueOfAnyDepthIsWrittenAndDestroyed)
+TEST(JsonDepth, TheDeepestBuiltValueReadsBack)
 {
-    EXPECT_EQ(Times(kFar, "{\"a\":") + "null" + Times(kFar, "}"), JsonText(*DeepObject(kFar)));
-    EXPECT_EQ(Times(kFar, "{\"a\":[") + "null" + Times(kFar, "]}"), JsonText(*DeepArrays(kFar)));
+    for (const auto& value : {DeepObject(kJsonMaxDepth), DeepArrays(kJsonMaxDepth / 2)})
+    {
+        const auto text = JsonText(*value);
+        const auto reread = ParseJson(text);
+        ASSERT_TRUE(reread);
+        EXPECT_EQ(text, JsonText(*reread));
+    }
+}
+
+TEST(JsonDepth, WhatCouldNotBeReadBackHasNoText)
+{
+    const auto list = IVXJsonValue::JsonValueNull();
+    list->SetValueArray("a", {DeepObject(kJsonMaxDepth - 1)});
+    for (const auto& value : {DeepObject(kJsonMaxDepth + 1), list, DeepArrays(kFar)})
+        for (const auto style : {JsonStyle::Compact, JsonStyle::Indented})
+            EXPECT_EQ("", JsonText(*value, style));
+}
+
+TEST(JsonDepth, ABuiltValueOfAnyDepthIsDestroyed)
+{
+    std::weak_ptr<IVXJsonValue> whole = DeepArrays(kFar);
+    EXPECT_TRUE(whole.expired());
 }
 
 TEST(JsonDepth, TheIndentedTextOfADeepValueStaysInProportion)
 {
-    EXPECT_LT(JsonText(*DeepObject(kFar), JsonStyle::Indented).size(), 300 * kFar);
+    const auto text = JsonText(*DeepObject(kJsonMaxDepth), JsonStyle::Indented);
+    EXPECT_LT(kJsonMaxDepth, text.size());
+    EXPECT_GT(300 * kJsonMaxDepth, text.size());
 }
 
 TEST(JsonDepth, AReplacedDeepValueIsDestroyed)
@@ -131,7 +153,7 @@ TEST(JsonDepth, AValueBelowItselfHasNoText)
 
 TEST(JsonDepth, AValueInTwoPlacesIsWrittenTwice)
 {
-    const auto leaf = DeepObject(kJsonMaxDepth + 1);
+    const auto leaf = DeepObject(kJsonMaxDepth - 2);
     const auto value = IVXJsonValue::JsonValueNull();
     value->SetValueArray("twice", {leaf, leaf});
     EXPECT_EQ("{\"twice\":[" + JsonText(*leaf) + ',' + JsonText(*leaf) + "]}", JsonText(*value));
