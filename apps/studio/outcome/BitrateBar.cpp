@@ -62,7 +62,8 @@ double BitrateBar::LabelTop(int line) const
 BitrateGeometry BitrateBar::Geometry() const
 {
     const double thickness = kThickness * fontMetrics().lineSpacing();
-    return LayOutBitrates(m_facts, {kMargin, BarTop(), width() - 2 * kMargin, thickness});
+    const double left = kMargin + kTick * fontMetrics().lineSpacing(); // where the source's arrow begins
+    return LayOutBitrates(m_facts, {left, BarTop(), width() - 2 * left, thickness});
 }
 
 double BitrateBar::LabelWidth(const Label& label) const
@@ -90,16 +91,21 @@ std::vector<BitrateBar::Label> BitrateBar::GradeLabels(const BitrateGeometry& ge
     return labels;
 }
 
+/// Whose the bounds are is told where there is room.
 std::vector<BitrateBar::Label> BitrateBar::BoundLabels(const BitrateGeometry& geometry) const
 {
-    std::vector<Label> labels;
     if (geometry.bar.isEmpty())
-        return labels;
-    const auto least = m_facts.isLeastOfPreset ? tr("from %1 (preset)") : tr("from %1 (codec)");
-    const auto most = m_facts.isMostOfPreset ? tr("to %1 (preset)") : tr("to %1 (codec)");
-    labels.push_back({geometry.bar.left(), {least.arg(BitrateShown(m_facts.least))}});
-    labels.push_back({geometry.bar.right(), {most.arg(BitrateShown(m_facts.most))}});
-    return labels;
+        return {};
+    const auto labels = [&](const QString& least, const QString& most)
+    {
+        return std::vector<Label>{{geometry.bar.left(), {least.arg(BitrateShown(m_facts.least))}},
+                                  {geometry.bar.right(), {most.arg(BitrateShown(m_facts.most))}}};
+    };
+    const auto whole = labels(m_facts.isLeastOfPreset ? tr("from %1 (preset)") : tr("from %1 (codec)"),
+                              m_facts.isMostOfPreset ? tr("to %1 (preset)") : tr("to %1 (codec)"));
+    const double width =
+        LabelWidth(whole.front()) + LabelWidth(whole.back()) + fontMetrics().averageCharWidth();
+    return width <= geometry.line.width() ? whole : labels(tr("from %1"), tr("to %1"));
 }
 
 void BitrateBar::DrawLabels(QPainter& painter, const std::vector<Label>& labels, double top,

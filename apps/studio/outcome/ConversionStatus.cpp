@@ -34,9 +34,9 @@ QLabel* NewLabel(QWidget* parent, const char* name)
     return label;
 }
 
-QString MessagesOf(const Tool::ConversionResult& result)
+QString DetailsOf(const Tool::ConversionResult& result, const QStringList& changes)
 {
-    QStringList lines;
+    auto lines = changes;
     for (const auto& message : result.messages)
         lines << QStringLiteral("ffmpeg: ") + ShownText(message);
     return lines.join(QLatin1Char('\n'));
@@ -129,7 +129,7 @@ void ConversionStatus::ShowCancelling()
     m_details->setText(tr("Cancelling …"));
 }
 
-void ConversionStatus::ShowEnd(const ConversionEnd& end)
+void ConversionStatus::ShowEnd(const ConversionEnd& end, const QStringList& changes)
 {
     switch (end.kind)
     {
@@ -137,7 +137,7 @@ void ConversionStatus::ShowEnd(const ConversionEnd& end)
         Say(tr("%1 is made: %2 in %3")
                 .arg(NameOf(m_path), ShownText(Tool::SizeOfBytes(double(end.result.bytes))),
                      ConversionTexts::Duration(end.result.seconds)),
-            MessagesOf(end.result), {m_folder});
+            DetailsOf(end.result, changes), {m_folder});
         return m_folder->setFocus();
     case ConversionEnd::Kind::Cancelled:
         return Say(tr("Cancelled: nothing is left of %1").arg(NameOf(m_path)), {}, {});

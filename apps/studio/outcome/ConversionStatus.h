@@ -2,7 +2,10 @@
 
 #include "ConversionJob.h"
 
+#include <QStringList>
 #include <QWidget>
+
+#include <initializer_list>
 
 class QLabel;
 class QProgressBar;
@@ -29,8 +32,8 @@ public:
     void ShowProgress(const Tool::ConversionProgress& progress);
     /// Says that what was begun is being ended.
     void ShowCancelling();
-    /// Says what became of it.
-    void ShowEnd(const ConversionEnd& end);
+    /// Says what became of it, and what gave way in it.
+    void ShowEnd(const ConversionEnd& end, const QStringList& changes);
     /// Says why it could not begin.
     void ShowError(const QString& error);
 

@@ -38,12 +38,16 @@ QString ConversionTexts::Progress(const Tool::ConversionProgress& progress)
     return parts.join(QStringLiteral(", "));
 }
 
-QString ConversionTexts::Size(const Tool::SizeRange& size)
+QString ConversionTexts::LikelySize(const Tool::SizeRange& size)
 {
-    const auto text = [](double bytes) { return ShownText(Tool::SizeOfBytes(bytes)); };
-    if (text(size.least) == text(size.most))
-        return tr("about %1").arg(text(size.likely));
-    return tr("about %1 (%2 to %3)").arg(text(size.likely), text(size.least), text(size.most));
+    return tr("about %1").arg(ShownText(Tool::SizeOfBytes(size.likely)));
+}
+
+QString ConversionTexts::SizeSpan(const Tool::SizeRange& size)
+{
+    const auto least = ShownText(Tool::SizeOfBytes(size.least));
+    const auto most = ShownText(Tool::SizeOfBytes(size.most));
+    return least == most ? least : tr("%1 to %2", "sizes of files").arg(least, most);
 }
 
 } // namespace Vexlor::Studio

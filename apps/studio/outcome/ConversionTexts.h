@@ -19,8 +19,10 @@ public:
     static QString Duration(double seconds);
     /// "42 %, 3.1 times as fast as it plays, 0:07 left, 1.50 MB".
     static QString Progress(const Tool::ConversionProgress& progress);
-    /// "about 12.3 MB (8.00 MB to 14.0 MB)".
-    static QString Size(const Tool::SizeRange& size);
+    /// "about 12.3 MB".
+    static QString LikelySize(const Tool::SizeRange& size);
+    /// "8.00 MB to 14.0 MB"; one size where both are the same.
+    static QString SizeSpan(const Tool::SizeRange& size);
 };
 
 } // namespace Vexlor::Studio

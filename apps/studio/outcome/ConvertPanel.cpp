@@ -23,6 +23,14 @@ namespace
 
 bool HasPicture(const Outcome* outcome) { return outcome && outcome->match.output->GetVideoCodecParameter(); }
 
+QStringList LinesOf(const std::vector<std::string>& texts)
+{
+    QStringList lines;
+    for (const auto& text : texts)
+        lines << ShownText(text);
+    return lines;
+}
+
 } // namespace
 
 ConvertPanel::ConvertPanel(QWidget* parent)
@@ -108,12 +116,16 @@ void ConvertPanel::UpdateButton()
     const auto reason = Reason();
     m_convert->setEnabled(reason.isEmpty() && !IsConverting());
     m_convert->setToolTip(reason);
-    if (reason.isEmpty() && m_offer.outcome->size)
-        m_size->setText(tr("Predicted size: %1").arg(ConversionTexts::Size(m_offer.outcome->size->Total())));
-    else
-        m_size->setText(reason.isEmpty()
-                            ? tr("The size cannot be predicted: the source does not tell its length.")
-                            : reason);
+    m_size->setText(reason.isEmpty() ? SizeText() : reason);
+}
+
+QString ConvertPanel::SizeText() const
+{
+    if (!m_offer.outcome->size)
+        return tr("The size cannot be predicted: the source does not tell its length.");
+    const auto size = m_offer.outcome->size->Total();
+    return tr("Predicted size: %1 (%2)")
+        .arg(ConversionTexts::LikelySize(size), ConversionTexts::SizeSpan(size));
 }
 
 void ConvertPanel::AskForOutput()
@@ -156,8 +168,9 @@ void ConvertPanel::Start(const QString& path, bool overwrites)
     const auto output = path.toStdString();
     try
     {
-        m_job.Start(Tool::FfmpegCommandFor(match, source, output, Fitting()),
-                    {source, output, overwrites, match.media.duration});
+        const auto command = Tool::FfmpegCommandFor(match, source, output, Fitting());
+        m_changes = LinesOf(command.changes);
+        m_job.Start(command, {source, output, overwrites, match.media.duration});
     }
     catch (const Tool::Failure& failure)
     {
@@ -175,7 +188,7 @@ void ConvertPanel::Cancel()
 
 void ConvertPanel::End(const ConversionEnd& end)
 {
-    m_status->ShowEnd(end);
+    m_status->ShowEnd(end, m_changes);
     UpdateButton();
     if (end.kind != ConversionEnd::Kind::Done)
         m_convert->setFocus();

@@ -4,6 +4,7 @@
 #include "Outcome.h"
 #include "apps/host/convert/PictureFit.h"
 
+#include <QStringList>
 #include <QWidget>
 
 class QComboBox;
@@ -57,11 +58,13 @@ private:
     void End(const ConversionEnd& end);
     void UpdateButton();
     QString Reason() const;
+    QString SizeText() const;
 
     ConversionOffer m_offer;
     ConversionOffer m_running;
-    QString m_wanted; ///< a file that is there, while it is asked what to do
-    QString m_folder; ///< of the last output
+    QString m_wanted;      ///< a file that is there, while it is asked what to do
+    QString m_folder;      ///< of the last output
+    QStringList m_changes; ///< what gave way in what runs
     QLabel* m_fitLabel;
     QComboBox* m_fit;
     QLabel* m_size;

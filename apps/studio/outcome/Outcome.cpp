@@ -1,11 +1,14 @@
 #include "Outcome.h"
 
+#include "OutputName.h"
+#include "ShownText.h"
 #include "apps/host/Failure.h"
 #include "apps/host/convert/FfmpegCommand.h"
 
+#include "IVXFormatParameter.h"
 #include "IVXFormatPreset.h"
 
-#include <string_view>
+#include <initializer_list>
 
 namespace Vexlor::Studio
 {
@@ -13,12 +16,15 @@ namespace Vexlor::Studio
 namespace
 {
 
-// Stands for a file that nobody has named yet, and begins what is said of it.
-constexpr std::string_view kOutput = "output";
-
-std::string WithoutFile(std::string text, const std::string& path)
+/// Stands for a file that nobody has named yet, and begins what is said of it.
+std::string AnyOutput(const Outcome& outcome)
 {
-    for (const auto& name : {path, std::string(kOutput)})
+    return "output." + EndingOf(ShownText(outcome.match.output->FormatName())).toStdString();
+}
+
+std::string WithoutFile(std::string text, const std::initializer_list<std::string>& files)
+{
+    for (const auto& name : files)
         if (text.starts_with(name + ": "))
             text.erase(0, name.size() + 2);
     return text;
@@ -27,13 +33,14 @@ std::string WithoutFile(std::string text, const std::string& path)
 /// What FFmpeg would be told tells best whether it can be done.
 void AddObstacle(Outcome& outcome, const std::string& path)
 {
+    const auto output = AnyOutput(outcome);
     try
     {
-        outcome.changes = Tool::FfmpegCommandFor(outcome.match, path, std::string(kOutput), {}).changes;
+        outcome.changes = Tool::FfmpegCommandFor(outcome.match, path, output, {}).changes;
     }
     catch (const Tool::Failure& failure)
     {
-        outcome.obstacle = WithoutFile(failure.what(), path);
+        outcome.obstacle = WithoutFile(failure.what(), {path, output});
     }
 }
 

@@ -22,6 +22,7 @@ namespace
 using Stream = std::shared_ptr<const IVXCodecParameter>;
 
 constexpr int kNoBound = -1;
+constexpr int kNoBitrate = -1;
 
 QSizeF DisplayedSize(const IVXCodecParameter& stream)
 {
@@ -53,15 +54,18 @@ void AddBounds(SizeFacts& facts, const IVXFormatPreset& preset, const IVXCodecPa
         facts.least = Displayed(preset.MinWidth(), preset.MinHeight(), output);
 }
 
-/// Chooses a grade in every codec preset, whichever of them will be used.
+/// Chooses a grade in every codec preset, whichever of them will be used. An entry that was given a bitrate
+/// of its own becomes a grade again.
 void ChooseGrade(const std::vector<std::shared_ptr<IVXCodecPreset>>& codecs, int grade)
 {
     for (const auto& codec : codecs)
         for (int i = 0; i < codec->CodecQualityPresetCount(); ++i)
         {
-            const auto quality = std::as_const(*codec).CodecQualityPresetAt(i);
-            if (!quality->IsCustom() && quality->QualityValue() == grade)
-                codec->SetIndexForQualityPresets(i);
+            const auto quality = codec->CodecQualityPresetAt(i);
+            if (quality->QualityValue() != grade)
+                continue;
+            quality->SetBitrate(kNoBitrate);
+            codec->SetIndexForQualityPresets(i);
         }
 }
 
@@ -87,7 +91,28 @@ void AddGrades(StreamBitrates& bitrates, const std::shared_ptr<const IVXFormatPa
     }
 }
 
-BitrateFacts FactsOf(const Stream& source, const Stream& output, int most, int least)
+/// The bounds of a preset for one kind of stream; -1 where there is none.
+struct Bounds
+{
+    int most;
+    int least;
+};
+
+/// The codec's own range for an output whose picture has that size. It stands in for a bound that the preset
+/// does not have.
+void AddRange(BitrateFacts& facts, const IVXCodecParameter& output, std::pair<int, int> size)
+{
+    const auto codecs = output.GetCodecs(true);
+    if (!codecs)
+        return;
+    const auto [low, high] =
+        codecs->BitrateRangeFor(size.first, size.second, output.GetFrameRate(), output.GetFormat(), {});
+    facts.least = facts.isLeastOfPreset ? facts.least : low;
+    facts.most = facts.isMostOfPreset ? facts.most : high;
+}
+
+BitrateFacts FactsOf(const Stream& source, const Stream& output, const Bounds& bounds,
+                     std::pair<int, int> size)
 {
     BitrateFacts facts;
     if (!source || !output)
@@ -95,18 +120,19 @@ BitrateFacts FactsOf(const Stream& source, const Stream& output, int most, int l
     facts.source = source->GetBitrate();
     facts.output = output->GetBitrate();
     facts.followsBitrate = Tool::FollowsBitrate(*output);
-    facts.isLeastOfPreset = least != kNoBound;
-    facts.isMostOfPreset = most != kNoBound;
-    facts.least = least;
-    facts.most = most;
-    const auto codecs = output->GetCodecs(true);
-    if (!codecs)
-        return facts;
-    const auto [low, high] = codecs->BitrateRangeFor(output->GetWidth(), output->GetHeight(),
-                                                     output->GetFrameRate(), output->GetFormat(), {});
-    facts.least = facts.isLeastOfPreset ? least : low;
-    facts.most = facts.isMostOfPreset ? most : high;
+    facts.isLeastOfPreset = bounds.least != kNoBound;
+    facts.isMostOfPreset = bounds.most != kNoBound;
+    facts.least = std::max(bounds.least, 0);
+    facts.most = std::max(bounds.most, 0);
+    AddRange(facts, *output, size);
     return facts;
+}
+
+/// The picture that the bitrate is decided for, which the preset's bounds cut only then.
+std::pair<int, int> DecidedSize(const Tool::MediaMatch& match, const Stream& output)
+{
+    const auto unbounded = match.reasons.unbounded;
+    return unbounded.first > 0 || !output ? unbounded : std::pair(output->GetWidth(), output->GetHeight());
 }
 
 } // namespace
@@ -132,14 +158,16 @@ SizeFacts SizeFactsOf(const IVXFormatParameter& source, const IVXFormatParameter
     return facts;
 }
 
-StreamBitrates BitrateFactsOf(const std::shared_ptr<const IVXFormatParameter>& source,
-                              const IVXFormatParameter& output, const IVXFormatPreset& preset)
+StreamBitrates BitrateFactsOf(const Tool::MediaMatch& match, const IVXFormatPreset& preset)
 {
-    StreamBitrates bitrates{FactsOf(source->GetVideoCodecParameter(), output.GetVideoCodecParameter(),
-                                    preset.MaxVideoBitrate(), preset.MinVideoBitrate()),
-                            FactsOf(source->GetAudioCodecParameter(), output.GetAudioCodecParameter(),
-                                    preset.MaxAudioBitrate(), preset.MinAudioBitrate())};
-    AddGrades(bitrates, source, preset);
+    const auto source = match.SourceStreams();
+    const auto output = match.OutputStreams();
+    StreamBitrates bitrates{FactsOf(source.video.parameter, output.video.parameter,
+                                    {preset.MaxVideoBitrate(), preset.MinVideoBitrate()},
+                                    DecidedSize(match, output.video.parameter)),
+                            FactsOf(source.audio.parameter, output.audio.parameter,
+                                    {preset.MaxAudioBitrate(), preset.MinAudioBitrate()}, {})};
+    AddGrades(bitrates, match.media.parameter, preset);
     return bitrates;
 }
 

@@ -3,6 +3,7 @@
 #include "BitrateScale.h"
 #include "SizeGeometry.h"
 #include "apps/host/convert/PictureFit.h"
+#include "apps/host/match/MediaMatch.h"
 
 #include <memory>
 
@@ -27,9 +28,8 @@ struct StreamBitrates
     BitrateFacts audio;
 };
 
-/// The bitrates of an output, which is what the preset makes of the source, and of what would have come out
-/// at each of the four grades.
-StreamBitrates BitrateFactsOf(const std::shared_ptr<const IVXFormatParameter>& source,
-                              const IVXFormatParameter& output, const IVXFormatPreset& preset);
+/// The bitrates of what the preset makes of a source, and of what would have come out at each of the four
+/// grades.
+StreamBitrates BitrateFactsOf(const Tool::MediaMatch& match, const IVXFormatPreset& preset);
 
 } // namespace Vexlor::Studio

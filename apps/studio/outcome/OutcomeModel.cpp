@@ -53,6 +53,11 @@ void OutcomeModel::SetRows(std::vector<OutcomeRow> rows)
     }
 }
 
+bool OutcomeModel::HasOutput() const
+{
+    return std::ranges::any_of(m_rows, [](const OutcomeRow& row) { return !row.output.isEmpty(); });
+}
+
 int OutcomeModel::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
@@ -69,6 +74,8 @@ QVariant OutcomeModel::data(const QModelIndex& index, int role) const
         return TextOf(row, index.column());
     if (role == Qt::ToolTipRole && !row.why.isEmpty())
         return row.why;
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(Qt::AlignLeft | Qt::AlignTop); // reasons may take some lines
     const bool isStrong = row.isHeading || (index.column() == Output && row.IsChanged());
     if (role == Qt::FontRole && isStrong)
     {

@@ -32,6 +32,9 @@ public:
     /// The row at that place, which must be one.
     const OutcomeRow& RowAt(int row) const { return m_rows[static_cast<std::size_t>(row)]; }
 
+    /// Whether any value of an output is there.
+    bool HasOutput() const;
+
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

@@ -176,7 +176,7 @@ void OutcomePane::Update()
         outcome = std::make_shared<const Outcome>(OutcomeOf(*m_media, m_path.toStdString(), *m_preset));
     const auto* output = outcome ? outcome->match.output.get() : nullptr;
     m_drawings->SetFacts(SizeFactsOf(*m_media->parameter, output, m_preset.get(), m_convert->Fitting()),
-                         output ? BitrateFactsOf(m_media->parameter, *output, *m_preset) : StreamBitrates());
+                         outcome ? BitrateFactsOf(outcome->match, *m_preset) : StreamBitrates());
     const auto notices = outcome ? NoticesHtml(*outcome) : QString();
     m_notices->setText(notices);
     m_notices->setVisible(!notices.isEmpty());

@@ -94,8 +94,10 @@ private:
         Add(tr("Length"), length, m_outcome ? length : QString(), {});
         const bool isPredicted = m_outcome && m_outcome->size;
         Add(tr("Size of the file"), ShownText(Tool::SizeOfBytes(double(m_media.size))),
-            isPredicted ? ConversionTexts::Size(m_outcome->size->Total()) : QString(),
-            isPredicted ? tr("predicted from the bitrates") : QString());
+            isPredicted ? ConversionTexts::LikelySize(m_outcome->size->Total()) : QString(),
+            isPredicted ? tr("predicted from the bitrates: %1")
+                              .arg(ConversionTexts::SizeSpan(m_outcome->size->Total()))
+                        : QString());
     }
 
     void AddStream(const Sides& sides)

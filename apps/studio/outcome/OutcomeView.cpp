@@ -11,6 +11,8 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <array>
+#include <numeric>
 
 namespace Vexlor::Studio
 {
@@ -18,7 +20,7 @@ namespace Vexlor::Studio
 namespace
 {
 
-constexpr int kNarrowReasons = 16; // letters, below which a column of reasons is hard to read
+constexpr int kNarrowReasons = 26; // letters, below which a column of reasons is hard to read
 
 QString LineOf(const OutcomeRow& row)
 {
@@ -86,29 +88,51 @@ void OutcomeView::SpanHeadings()
             setSpan(row, 0, 1, OutcomeModel::ColumnCount);
 }
 
-/// Values have the room that they need, up to a third each, and reasons the rest.
+/// What a column asks for, its title included.
+int OutcomeView::WantedWidth(int column) const
+{
+    return std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column));
+}
+
+/// Values have the room that they need, or a third each where they need more than there is, and reasons the
+/// rest.
 void OutcomeView::Arrange()
 {
-    setItemDelegateForColumn(OutcomeModel::Output, nullptr);
-    setColumnHidden(OutcomeModel::Why, false);
+    constexpr std::array kValues{OutcomeModel::Name, OutcomeModel::Source, OutcomeModel::Output};
     clearSpans(); // a heading needs no room of its own
+    setItemDelegateForColumn(OutcomeModel::Output, nullptr);
+    for (int column = 0; column < OutcomeModel::ColumnCount; ++column)
+        setColumnHidden(column, column > OutcomeModel::Source && !m_model.HasOutput());
     const int width = viewport()->width();
-    int rest = width;
-    for (const int column : {OutcomeModel::Name, OutcomeModel::Source, OutcomeModel::Output})
-    {
-        const int wanted = std::min(
-            std::max(sizeHintForColumn(column), horizontalHeader()->sectionSizeHint(column)), width / 3);
-        setColumnWidth(column, wanted);
-        rest -= wanted;
-    }
-    const bool isNarrow = rest < kNarrowReasons * fontMetrics().averageCharWidth();
-    setColumnHidden(OutcomeModel::Why, isNarrow);
-    setItemDelegateForColumn(OutcomeModel::Output, isNarrow ? m_reasons : nullptr);
-    const int last = isNarrow ? OutcomeModel::Output : OutcomeModel::Why;
-    setColumnWidth(last, (isNarrow ? columnWidth(last) : 0) + rest);
+    std::array<int, kValues.size()> widths{};
+    std::ranges::transform(kValues, widths.begin(), [this](int column) { return WantedWidth(column); });
+    const int reasons = width - std::accumulate(widths.begin(), widths.end(), 0);
+    const bool isNarrow = reasons < kNarrowReasons * fontMetrics().averageCharWidth();
+    for (std::size_t i = 0; i < kValues.size(); ++i)
+        setColumnWidth(kValues[i], isNarrow ? std::min(widths[i], width / 3) : widths[i]);
+    if (isNarrow)
+        PutReasonsBelow(width);
+    else
+        setColumnWidth(OutcomeModel::Why, reasons);
     SpanHeadings();
-    resizeRowsToContents();
+    FitRows();
     updateGeometry();
+}
+
+void OutcomeView::PutReasonsBelow(int width)
+{
+    setColumnHidden(OutcomeModel::Why, true);
+    setItemDelegateForColumn(OutcomeModel::Output, m_reasons);
+    setColumnWidth(OutcomeModel::Output,
+                   width - columnWidth(OutcomeModel::Name) - columnWidth(OutcomeModel::Source));
+}
+
+void OutcomeView::FitRows()
+{
+    constexpr int kBetween = 3; // so that lines of one row are nearer than rows
+    resizeRowsToContents();
+    for (int row = 0; row < m_model.rowCount(); ++row)
+        setRowHeight(row, rowHeight(row) + kBetween);
 }
 
 int OutcomeView::HeightOfRows() const { return horizontalHeader()->height() + verticalHeader()->length(); }

@@ -35,6 +35,9 @@ private:
     void AddActions();
     void Arrange();
     void SpanHeadings();
+    void FitRows();
+    void PutReasonsBelow(int width);
+    int WantedWidth(int column) const;
     int HeightOfRows() const;
 
     OutcomeModel& m_model;

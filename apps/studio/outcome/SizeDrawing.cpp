@@ -5,8 +5,10 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QResizeEvent>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Vexlor::Studio
 {
@@ -17,6 +19,7 @@ namespace
 constexpr int kLinesOfPicture = 8; // as high as it is at least
 constexpr double kGap = 16;
 constexpr double kMargin = 2;
+constexpr int kCaption = Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap;
 
 QPen Line(const QColor& color, Qt::PenStyle style = Qt::SolidLine)
 {
@@ -89,23 +92,57 @@ void SizeDrawing::SetFacts(const SizeFacts& facts)
     update();
 }
 
-int SizeDrawing::CaptionLines() const
+QRectF SizeDrawing::Area(double height) const
 {
-    return static_cast<int>(std::max(m_words.source.size(), m_words.output.size()));
+    return {kMargin, kMargin, std::max(0.0, width() - 2 * kMargin), height};
 }
 
-QRectF SizeDrawing::Area() const
+/// As high as the pictures become in that width.
+double SizeDrawing::PictureHeight() const
 {
-    const double captions = CaptionLines() * fontMetrics().lineSpacing() + kGap / 2;
-    return QRectF(rect()).adjusted(kMargin, kMargin, -kMargin, -kMargin - captions);
+    const auto area = Area(kLinesOfPicture * fontMetrics().lineSpacing());
+    const auto drawn = LayOutSizes(m_facts, area, kGap);
+    const auto all = drawn.source.united(drawn.output).united(drawn.picture).united(drawn.most);
+    return all.isEmpty() ? area.height() : std::min(area.height(), all.height());
 }
 
-SizeGeometry SizeDrawing::Geometry() const { return LayOutSizes(m_facts, Area(), kGap); }
+SizeGeometry SizeDrawing::Geometry() const { return LayOutSizes(m_facts, Area(PictureHeight()), kGap); }
+
+std::pair<QRectF, QRectF> SizeDrawing::Halves() const
+{
+    const double top = kMargin + PictureHeight() + kGap / 2;
+    const QRectF captions(kMargin, top, width() - 2 * kMargin, std::max(0.0, height() - top));
+    return HalvesOf(captions, kGap, !m_words.source.isEmpty() && !m_words.output.isEmpty());
+}
+
+QFont SizeDrawing::FontOf(int line) const
+{
+    auto used = font();
+    used.setBold(line == 0);
+    return used;
+}
+
+double SizeDrawing::LineHeight(int line, const QString& text, double width) const
+{
+    constexpr double kHighest = 10'000;
+    const QRectF wide(0, 0, std::max(width, 1.0), kHighest);
+    return QFontMetricsF(FontOf(line)).boundingRect(wide, kCaption, text).height();
+}
+
+double SizeDrawing::CaptionHeight(const QStringList& lines, double width) const
+{
+    double sum = 0;
+    for (int i = 0; i < lines.size(); ++i)
+        sum += LineHeight(i, lines[i], width);
+    return sum;
+}
 
 QSize SizeDrawing::sizeHint() const
 {
-    const int height = (kLinesOfPicture + CaptionLines()) * fontMetrics().lineSpacing();
-    return {fontMetrics().averageCharWidth() * 50, height + int(kGap)};
+    const auto halves = Halves();
+    const double captions = std::max(CaptionHeight(m_words.source, halves.first.width()),
+                                     CaptionHeight(m_words.output, halves.second.width()));
+    return {fontMetrics().averageCharWidth() * 50, int(std::ceil(PictureHeight() + captions + kGap))};
 }
 
 QSize SizeDrawing::minimumSizeHint() const
@@ -113,26 +150,24 @@ QSize SizeDrawing::minimumSizeHint() const
     return {fontMetrics().averageCharWidth() * 24, sizeHint().height()};
 }
 
-QFont SizeDrawing::TitleFont() const
+void SizeDrawing::resizeEvent(QResizeEvent* event)
 {
-    auto title = font();
-    title.setBold(true);
-    return title;
+    QWidget::resizeEvent(event);
+    if (event->oldSize().width() != width())
+        updateGeometry();
 }
 
 void SizeDrawing::DrawCaption(QPainter& painter, const QStringList& lines, const QRectF& half) const
 {
-    const int step = fontMetrics().lineSpacing();
     const auto colors = DrawingColors::Of(palette());
-    QRectF line(half.left(), Area().bottom() + kGap / 2, half.width(), step);
-    for (int i = 0; i < lines.size(); ++i, line.translate(0, step))
+    double top = half.top();
+    for (int i = 0; i < lines.size(); ++i)
     {
-        const bool isTitle = i == 0;
-        const auto used = isTitle ? TitleFont() : font();
-        painter.setFont(used);
+        const double step = LineHeight(i, lines[i], half.width());
+        painter.setFont(FontOf(i));
         painter.setPen(i < 2 ? colors.text : colors.faint);
-        painter.drawText(line, Qt::AlignHCenter | Qt::AlignVCenter,
-                         QFontMetrics(used).elidedText(lines[i], Qt::ElideRight, int(line.width())));
+        painter.drawText(QRectF(half.left(), top, half.width(), step), kCaption, lines[i]);
+        top += step;
     }
 }
 
@@ -143,12 +178,11 @@ void SizeDrawing::paintEvent(QPaintEvent*)
     const auto colors = DrawingColors::Of(palette());
     if (!geometry.source.isEmpty())
         DrawSource(painter, geometry, colors);
-    if (!geometry.output.isEmpty())
-        DrawOutput(painter, geometry, colors, m_facts.isStretched);
     DrawBound(painter, geometry.most, colors, Qt::DashLine);
     DrawBound(painter, geometry.least, colors, Qt::DotLine);
-    const QRectF whole(kMargin, 0, width() - 2 * kMargin, height());
-    const auto halves = HalvesOf(whole, kGap, !m_words.source.isEmpty() && !m_words.output.isEmpty());
+    if (!geometry.output.isEmpty())
+        DrawOutput(painter, geometry, colors, m_facts.isStretched);
+    const auto halves = Halves();
     DrawCaption(painter, m_words.source, halves.first);
     DrawCaption(painter, m_words.output, halves.second);
     DrawFocus(*this, painter);

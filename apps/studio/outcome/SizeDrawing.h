@@ -26,12 +26,16 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QRectF Area() const;
-    QFont TitleFont() const;
+    QRectF Area(double height) const;
+    double PictureHeight() const;
+    QFont FontOf(int line) const;
+    double LineHeight(int line, const QString& text, double width) const;
+    double CaptionHeight(const QStringList& lines, double width) const;
+    std::pair<QRectF, QRectF> Halves() const;
     void DrawCaption(QPainter& painter, const QStringList& lines, const QRectF& half) const;
-    int CaptionLines() const;
 
     SizeFacts m_facts;
     SizeWords m_words;
