@@ -43,8 +43,8 @@ public:
     {
         if (!std::ranges::is_sorted(m_entries, {}, &Entry::first))
             std::ranges::stable_sort(m_entries, {}, &Entry::first);
-        const auto repeated = std::ranges::unique(m_entries, {}, &Entry::first);
-        m_entries.erase(repeated.begin(), repeated.end());
+        const auto isRepeated = [](const Entry& one, const Entry& next) { return one.first == next.first; };
+        m_entries.erase(std::unique(m_entries.begin(), m_entries.end(), isRepeated), m_entries.end());
     }
 
     const std::vector<Entry>& Entries() const { return m_entries; }
