@@ -340,6 +340,26 @@ TEST(Convert, KeepsTheOldFileWhereTheProgramFails)
     EXPECT_EQ("out.mov", conversions.Left());
 }
 
+/// Runs a command with a shell; the answer is its exit code.
+int RunShell(const std::string& command)
+{
+    return std::system(command.c_str()); // the folder's name and the tool's hold nothing for a shell
+}
+
+// A shell's limit on the size of files ends a program that goes beyond it.
+TEST(Convert, TellsWhatEndsTheProgram)
+{
+    const Conversions conversions;
+    const auto words = "ulimit -f 1; '" VX_TOOL "' convert '" + Media::Clip("film.mp4") + "' '" +
+                       conversions.Path("out.mp4") + "' --preset Video/MP4 2> '" + conversions.Path("said") +
+                       "' > /dev/null";
+    EXPECT_NE(0, RunShell(words));
+    EXPECT_EQ(conversions.Path("out.mp4") +
+                  ": ffmpeg failed: it was ended by a signal: File size limit exceeded\n",
+              Media::BytesOf(conversions.Path("said")));
+    EXPECT_EQ("said", conversions.Left());
+}
+
 TEST(Convert, TellsThatTheProgramIsMissing)
 {
     const Conversions conversions;
@@ -355,12 +375,6 @@ TEST(Convert, TellsThatAFolderIsMissing)
     const Conversions conversions;
     const auto run = conversions.Convert(Media::Clip("quarters.mp4"), "no/such/out.mp4", "Auto");
     EXPECT_EQ(conversions.Path("no/such/out.mp4") + ": No such file or directory\n", run.err);
-}
-
-/// Runs a command with a shell; the answer is its exit code.
-int RunShell(const std::string& command)
-{
-    return std::system(command.c_str()); // the folder's name and the tool's hold nothing for a shell
 }
 
 /// True while a program runs that writes into that folder.

@@ -3,7 +3,6 @@
 #include "FfmpegProcess.h"
 #include "OutputFile.h"
 #include "apps/host/Failure.h"
-#include "apps/host/Text.h"
 
 #include <algorithm>
 #include <charconv>
@@ -107,8 +106,7 @@ ConversionResult Convert(FfmpegCommand command, const ConversionTarget& target, 
     const bool isGood = process.Finish();
     result.messages = process.Messages();
     if (!isGood)
-        throw Failure(target.output + ": ffmpeg failed: " +
-                      (result.messages.empty() ? "it gives no reason" : Joined(result.messages, "; ")));
+        throw Failure(target.output + ": ffmpeg failed: " + process.Complaint());
     result.bytes = SizeOf(file.TemporaryPath(), target.output);
     file.Keep();
     result.seconds = std::chrono::duration<double>(Clock::now() - start).count();

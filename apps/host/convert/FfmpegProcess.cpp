@@ -1,6 +1,7 @@
 #include "FfmpegProcess.h"
 
 #include "apps/host/Failure.h"
+#include "apps/host/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -11,6 +12,7 @@
 #include <utility>
 
 #include <csignal>
+#include <cstring>
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
@@ -223,6 +225,14 @@ bool FfmpegProcess::Finish()
     }
     m_process = -1;
     return WIFEXITED(m_status) && WEXITSTATUS(m_status) == 0;
+}
+
+std::string FfmpegProcess::Complaint() const
+{
+    if (WIFSIGNALED(m_status)) // what it said before is not the reason
+        return std::string("it was ended by a signal: ") + ::strsignal(WTERMSIG(m_status));
+    const auto messages = Messages();
+    return messages.empty() ? "it gives no reason" : Joined(messages, "; ");
 }
 
 } // namespace Vexlor::Tool

@@ -30,6 +30,8 @@ public:
     void Stop();
     /// Waits for its end; true when it says that all went well.
     bool Finish();
+    /// Why it failed, after Finish: its own words, or what ended it.
+    std::string Complaint() const;
 
 private:
     /// What is read from one of its outputs.
