@@ -1,7 +1,57 @@
+#include "window/Languages.h"
+#include "window/Screenshot.h"
+#include "window/StartOptions.h"
+#include "window/StudioWindow.h"
+
 #include <QApplication>
+#include <QIcon>
+
+#include <clocale>
+#include <cstdio>
+
+namespace
+{
+
+using namespace Vexlor::Studio;
+
+void Name()
+{
+    QApplication::setOrganizationName("Vexlor");
+    QApplication::setApplicationName("vxpresetstudio");
+    QApplication::setApplicationVersion(VX_VERSION);
+    QApplication::setDesktopFileName("org.vexlor.vxpresetstudio");
+    QApplication::setWindowIcon(
+        QIcon::fromTheme("org.vexlor.vxpresetstudio", QIcon(":/icons/org.vexlor.vxpresetstudio.svg")));
+}
+
+/// The value behind "--language", which the texts of everything else need.
+QString LanguageIn(const QStringList& arguments)
+{
+    const auto start = StartLine::Read(arguments);
+    return start.options ? start.options->language : QString();
+}
+
+int Run(const StartOptions& options)
+{
+    StudioWindow window;
+    window.show();
+    window.Start(options);
+    if (!options.screenshot.isEmpty())
+        TakeScreenshotAndEnd(window, options.screenshot);
+    return QApplication::exec();
+}
+
+} // namespace
 
 int main(int argc, char** argv)
 {
     const QApplication application(argc, argv);
-    return QApplication::exec();
+    std::setlocale(LC_NUMERIC, "C"); // Qt takes the desktop's, but the ffmpeg program reads and writes points
+    Name();
+    const Languages languages(LanguageIn(QApplication::arguments()));
+    const auto start = StartLine::Read(QApplication::arguments());
+    if (start.options)
+        return Run(*start.options);
+    std::fprintf(start.exitCode == 0 ? stdout : stderr, "%s", qUtf8Printable(start.text));
+    return start.exitCode;
 }

@@ -5,10 +5,7 @@
 #include "apps/host/Json.h"
 #include "apps/host/Text.h"
 #include "apps/host/document/DocumentFile.h"
-#include "apps/host/document/DocumentFindings.h"
-#include "apps/host/document/DocumentMeaning.h"
-#include "apps/host/document/DocumentPlaces.h"
-#include "apps/host/document/DocumentShape.h"
+#include "apps/host/document/DocumentReport.h"
 
 #include <set>
 
@@ -18,25 +15,13 @@ namespace Vexlor::Tool
 namespace
 {
 
-/// A finding as it is printed.
-struct Line
-{
-    bool isError = false;
-    DocumentPlace place;
-    std::string rule;
-    std::string path;
-    std::string pointer;
-    DocumentWording wording;
-};
-
-struct Report
+/// What is wrong with the document of that file.
+struct Report : DocumentReport
 {
     std::string file;
-    int presets = 0;
-    std::size_t errors = 0;
-    std::size_t warnings = 0;
-    std::vector<Line> lines;
 };
+
+using Line = DocumentReportLine;
 
 const char* SeverityOf(const Line& line) { return line.isError ? "error" : "warning"; }
 
@@ -46,26 +31,6 @@ std::set<int> FacesOf(const Request& request)
     for (const auto& entry : OpenRequested(request.artwork).table)
         faces.insert(entry.faceID);
     return faces;
-}
-
-Report ReportOn(const std::string& file, std::string_view text, const std::set<int>& faces)
-{
-    const DocumentTree tree(text);
-    DocumentFindings findings(tree);
-    CheckShape(tree, findings);
-    Report report{file, CheckMeaning(tree, faces, findings), findings.Errors(), findings.Warnings(), {}};
-    DocumentPlaces places(text);
-    DocumentPaths paths(tree);
-    for (const auto& finding : findings.Sorted())
-        report.lines.push_back({finding.isError, places.At(finding.offset), finding.rule,
-                                paths.InNames(finding.value), paths.AsPointer(finding.value),
-                                finding.wording});
-    return report;
-}
-
-Report ReportOn(const std::string& file, const SyntaxFault& fault)
-{
-    return {file, 0, 1, 0, {{true, fault.place, "syntax", {}, {}, {fault.reason}}}};
 }
 
 std::string LineText(const Report& report, const Line& line, const Style& style)
@@ -133,8 +98,7 @@ std::string CheckCommand(const Request& request, const Catalogue&, const Style& 
     const auto& file = request.document.value();
     const auto faces = FacesOf(request);
     const auto text = ReadDocumentText(file);
-    const auto fault = SyntaxFaultOf(text);
-    const auto report = fault ? ReportOn(file, *fault) : ReportOn(file, text, faces);
+    const Report report{CheckDocument(text, faces), file};
     auto answer = request.asJson ? ReportJson(report) : ReportText(report, style);
     if (report.errors > 0)
         throw BadAnswer(answer);

@@ -1,0 +1,278 @@
+#include "FormatTreeModel.h"
+
+#include "FaceIcons.h"
+#include "TreeMime.h"
+#include "apps/studio/document/StudioDocument.h"
+
+#include "IVXFormatNode.h"
+#include "IVXFormatPreset.h"
+
+#include <QIcon>
+#include <QMimeData>
+#include <QSet>
+
+#include <algorithm>
+
+namespace Vexlor::Studio
+{
+
+namespace
+{
+
+using Node = std::shared_ptr<IVXFormatNode>;
+
+/// The row of something in its category: presets stand behind categories.
+int RowFor(const TreeItem& item, const TreePlace& place)
+{
+    return item.preset ? place.parent->ChildCount() + place.index : place.index;
+}
+
+/// The item of that row.
+TreeItem ItemIn(IVXFormatNode& parent, int row)
+{
+    const int categories = parent.ChildCount();
+    return row < categories ? TreeItem{parent.GetChild(row)}
+                            : TreeItem{{}, parent.GetFormatPreset(row - categories)};
+}
+
+QString PathOf(IVXFormatNode* category)
+{
+    QStringList names;
+    for (auto parent = category->Parent(); parent; parent = parent->Parent())
+    {
+        names.prepend(QString::fromStdString(category->Name()));
+        category = parent.get();
+    }
+    return names.join(" / ");
+}
+
+/// The rows on the way to an index, by which indexes are in the order in which they are shown.
+std::vector<int> RowsTo(QModelIndex index)
+{
+    std::vector<int> rows;
+    for (; index.isValid(); index = index.parent())
+        rows.insert(rows.begin(), index.row());
+    return rows;
+}
+
+QString TipOf(const TreeItem& item)
+{
+    auto tip = "<b>" + NameOf(item).toHtmlEscaped() + "</b>";
+    if (item.preset)
+        tip += " (" + QString::fromStdString(item.preset->FormatName()).toHtmlEscaped() + ')';
+    const auto description = DescriptionOf(item).toHtmlEscaped();
+    return description.isEmpty() ? tip : tip + "<br>" + description;
+}
+
+} // namespace
+
+QModelIndexList Outermost(const QModelIndexList& indexes)
+{
+    const QSet<QModelIndex> all(indexes.begin(), indexes.end());
+    QModelIndexList outermost;
+    for (const auto& index : indexes)
+    {
+        auto above = index.parent();
+        while (above.isValid() && !all.contains(above))
+            above = above.parent();
+        if (!above.isValid())
+            outermost.append(index);
+    }
+    std::ranges::sort(outermost, {}, RowsTo);
+    return outermost;
+}
+
+FormatTreeModel::FormatTreeModel(StudioDocument& document, const FaceIcons& icons, QObject* parent)
+    : QAbstractItemModel(parent), m_document(document), m_icons(icons)
+{
+    FollowTree();
+    connect(&document, &StudioDocument::PresetChanged, this,
+            [this](const auto& preset) {
+                TellOfItem({{}, preset});
+            });
+}
+
+void FormatTreeModel::FollowTree()
+{
+    auto& tree = m_document.Tree();
+    connect(&tree, &PresetTree::AboutToReset, this, [this] { beginResetModel(); });
+    connect(&tree, &PresetTree::Reset, this,
+            [this]
+            {
+                m_rows.clear();
+                endResetModel();
+            });
+    connect(&tree, &PresetTree::AboutToInsert, this,
+            [this](const TreeItem& item, const TreePlace& place)
+            {
+                const int row = RowFor(item, place);
+                beginInsertRows(IndexOfNode(place.parent), row, row);
+            });
+    connect(&tree, &PresetTree::Inserted, this, [this] { endInsertRows(); });
+    connect(&tree, &PresetTree::AboutToRemove, this,
+            [this](const TreeItem& item, const TreePlace& place)
+            {
+                const int row = RowFor(item, place);
+                beginRemoveRows(IndexOfNode(place.parent), row, row);
+            });
+    connect(&tree, &PresetTree::Removed, this, [this] { endRemoveRows(); });
+    connect(&tree, &PresetTree::AboutToMove, this,
+            [this](const TreeItem& item, const TreePlace& from, const TreePlace& to)
+            {
+                const int row = RowFor(item, from);
+                beginMoveRows(IndexOfNode(from.parent), row, row, IndexOfNode(to.parent), RowFor(item, to));
+            });
+    connect(&tree, &PresetTree::Moved, this, [this] { endMoveRows(); });
+    connect(&tree, &PresetTree::Renamed, this, &FormatTreeModel::TellOfItem);
+}
+
+TreeItem FormatTreeModel::ItemAt(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return {m_document.Root()};
+    return ItemIn(*static_cast<IVXFormatNode*>(index.internalPointer()), index.row());
+}
+
+QModelIndex FormatTreeModel::IndexOfItem(const TreeItem& item) const
+{
+    if (item.category == m_document.Root())
+        return {};
+    const auto place = m_document.Tree().PlaceOf(item);
+    return place.parent ? createIndex(RowFor(item, place), 0, place.parent.get()) : QModelIndex();
+}
+
+QModelIndex FormatTreeModel::index(int row, int column, const QModelIndex& parent) const
+{
+    if (!hasIndex(row, column, parent))
+        return {};
+    return createIndex(row, column, ItemAt(parent).category.get());
+}
+
+QModelIndex FormatTreeModel::parent(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return {};
+    const auto* category = static_cast<const IVXFormatNode*>(index.internalPointer());
+    const auto above = const_cast<IVXFormatNode*>(category)->Parent();
+    return above ? createIndex(RowOf(*above, category), 0, above.get()) : QModelIndex();
+}
+
+// Views ask for parents all the time: where a child stood last time is where it stands now, as a rule.
+int FormatTreeModel::RowOf(IVXFormatNode& parent, const IVXFormatNode* child) const
+{
+    auto& row = m_rows[child];
+    if (parent.GetChild(row).get() != child)
+        for (row = 0; row < parent.ChildCount() && parent.GetChild(row).get() != child;)
+            ++row;
+    return row;
+}
+
+QModelIndex FormatTreeModel::IndexOfNode(const Node& node) const
+{
+    const auto above = node == m_document.Root() ? Node() : node->Parent();
+    return above ? createIndex(RowOf(*above, node.get()), 0, above.get()) : QModelIndex();
+}
+
+int FormatTreeModel::rowCount(const QModelIndex& parent) const
+{
+    if (parent.column() > 0)
+        return 0;
+    const auto category = ItemAt(parent).category;
+    return category ? category->ChildCount() + category->FormatPresetCount() : 0;
+}
+
+int FormatTreeModel::columnCount(const QModelIndex&) const { return 1; }
+
+bool FormatTreeModel::hasChildren(const QModelIndex& parent) const { return rowCount(parent) > 0; }
+
+QVariant FormatTreeModel::data(const QModelIndex& index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const auto item = ItemAt(index);
+    switch (role)
+    {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        return NameOf(item);
+    case Qt::DecorationRole:
+        return m_icons.IconOf(FaceOf(item), item.IsPreset());
+    case Qt::ToolTipRole:
+        return TipOf(item);
+    case Qt::AccessibleDescriptionRole:
+        return DescriptionOf(item);
+    case ContainerRole:
+        return item.preset ? QString::fromStdString(item.preset->FormatName()) : QVariant();
+    case PathRole:
+        return PathOf(static_cast<IVXFormatNode*>(index.internalPointer()));
+    default:
+        return {};
+    }
+}
+
+bool FormatTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
+{
+    if (role != Qt::EditRole || !checkIndex(index, CheckIndexOption::IndexIsValid))
+        return false;
+    const auto reason = TreeEditor(m_document).Rename(ItemAt(index), value.toString());
+    if (!reason.isEmpty())
+        emit Refused(reason);
+    return reason.isEmpty();
+}
+
+Qt::ItemFlags FormatTreeModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid())
+        return Qt::ItemIsDropEnabled;
+    const auto flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable | Qt::ItemIsDragEnabled;
+    return ItemAt(index).IsPreset() ? flags | Qt::ItemNeverHasChildren : flags | Qt::ItemIsDropEnabled;
+}
+
+Qt::DropActions FormatTreeModel::supportedDropActions() const { return Qt::MoveAction | Qt::CopyAction; }
+
+QStringList FormatTreeModel::mimeTypes() const { return {kTreeMimeType}; }
+
+QMimeData* FormatTreeModel::mimeData(const QModelIndexList& indexes) const
+{
+    std::vector<TreeItem> items;
+    for (const auto& index : Outermost(indexes))
+        items.push_back(ItemAt(index));
+    return items.empty() ? nullptr : new TreeMime(std::move(items));
+}
+
+bool FormatTreeModel::canDropMimeData(const QMimeData* data, Qt::DropAction action, int, int,
+                                      const QModelIndex& parent) const
+{
+    const bool isTaken = action == Qt::MoveAction || action == Qt::CopyAction;
+    return isTaken && data->hasFormat(kTreeMimeType) && !ItemAt(parent).IsPreset();
+}
+
+bool FormatTreeModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                                   const QModelIndex& parent)
+{
+    if (!canDropMimeData(data, action, row, column, parent))
+        return false;
+    DropPlace place{ItemAt(parent).category};
+    if (row >= 0)
+    {
+        place.categoryIndex = row;
+        place.presetIndex = std::max(row - place.parent->ChildCount(), 0);
+    }
+    TreeEditor editor(m_document);
+    auto items = ItemsIn(*data);
+    const bool isMoved = action == Qt::MoveAction && HoldsObjects(*data);
+    if (!isMoved)
+        items = editor.Copy(items, place);
+    else if (!editor.Move(items, place))
+        emit Refused(tr("A category cannot be moved into itself."));
+    emit Dropped(items);
+    return true;
+}
+
+void FormatTreeModel::TellOfItem(const TreeItem& item)
+{
+    if (const auto index = IndexOfItem(item); index.isValid())
+        emit dataChanged(index, index);
+}
+
+} // namespace Vexlor::Studio

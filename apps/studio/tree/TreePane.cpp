@@ -1,0 +1,216 @@
+#include "TreePane.h"
+
+#include "FormatFilterModel.h"
+#include "FormatTreeModel.h"
+#include "apps/studio/document/StudioDocument.h"
+
+#include "IVXFormatNode.h"
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+namespace Vexlor::Studio
+{
+
+namespace
+{
+
+constexpr int kMostExpanded = 2000; // presets that are found and shown with all that is above them
+
+} // namespace
+
+TreePane::TreePane(StudioDocument& document, const FaceIcons& icons, QWidget* parent)
+    : QWidget(parent), m_document(document), m_model(new FormatTreeModel(document, icons, this)),
+      m_filter(new FormatFilterModel(document, this)), m_search(new QLineEdit(this)),
+      m_count(new QLabel(this)), m_view(new QTreeView(this))
+{
+    m_filter->setSourceModel(m_model);
+    MakeSearch();
+    MakeView();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_search);
+    layout->addWidget(m_view);
+    layout->addWidget(m_count);
+    connect(m_model, &FormatTreeModel::Refused, this, &TreePane::Refused);
+    connect(m_model, &FormatTreeModel::Dropped, this, &TreePane::Select, Qt::QueuedConnection);
+    connect(&document.Tree(), &PresetTree::Reset, this, &TreePane::KeepCurrent);
+    connect(&document.Tree(), &PresetTree::Removed, this, &TreePane::KeepCurrent);
+}
+
+void TreePane::MakeSearch()
+{
+    m_search->setObjectName("search");
+    m_search->setPlaceholderText(tr("Search presets"));
+    m_search->setAccessibleName(tr("Search presets"));
+    m_search->setToolTip(tr("Shows what has all of these words in its name, path or container"));
+    m_search->setClearButtonEnabled(true);
+    m_search->installEventFilter(this);
+    connect(m_search, &QLineEdit::textChanged, this, &TreePane::Narrow);
+    connect(m_filter, &FormatFilterModel::Found, this, &TreePane::ShowFound);
+    m_count->setObjectName("searchCount");
+    m_count->setAlignment(Qt::AlignCenter);
+    m_count->setWordWrap(true);
+    m_count->hide();
+}
+
+void TreePane::MakeView()
+{
+    m_view->setObjectName("tree");
+    m_view->setAccessibleName(tr("Presets"));
+    m_view->setModel(m_filter);
+    m_view->setHeaderHidden(true);
+    m_view->setUniformRowHeights(true); // or every row would be measured
+    m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    m_view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
+    m_view->setDragDropMode(QAbstractItemView::DragDrop);
+    m_view->setDefaultDropAction(Qt::MoveAction);
+    m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
+    m_view->setIconSize({20, 20});
+    const auto* selection = m_view->selectionModel();
+    connect(selection, &QItemSelectionModel::currentChanged, this, &TreePane::KeepCurrent);
+    connect(selection, &QItemSelectionModel::selectionChanged, this, &TreePane::SelectionChanged);
+}
+
+std::vector<TreeItem> TreePane::Selected() const
+{
+    QModelIndexList indexes;
+    for (const auto& index : m_view->selectionModel()->selectedIndexes())
+        indexes.append(m_filter->mapToSource(index));
+    std::vector<TreeItem> items;
+    for (const auto& index : Outermost(indexes))
+        items.push_back(m_model->ItemAt(index));
+    return items;
+}
+
+TreeItem TreePane::Current() const { return m_current; }
+
+std::shared_ptr<IVXFormatNode> TreePane::CurrentCategory() const
+{
+    const auto current = Current();
+    if (!current)
+        return m_document.Root();
+    return current.IsPreset() ? m_document.Tree().ParentOf(current) : current.category;
+}
+
+void TreePane::Select(const std::vector<TreeItem>& items)
+{
+    if (items.empty())
+        return;
+    if (!ShownIndexOf(items.front()).isValid())
+        m_search->clear();
+    QItemSelection selection;
+    for (const auto& item : items)
+        if (const auto index = ShownIndexOf(item); index.isValid())
+            selection.select(index, index);
+    const auto first = ShownIndexOf(items.front());
+    m_view->setCurrentIndex(first);
+    m_view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    m_view->scrollTo(first);
+}
+
+bool TreePane::SelectByPath(const QString& path)
+{
+    std::vector<std::pair<std::shared_ptr<IVXFormatNode>, QString>> pending{{m_document.Root(), "/"}};
+    while (!pending.empty())
+    {
+        const auto [node, above] = pending.back();
+        pending.pop_back();
+        for (int i = 0; i < node->FormatPresetCount(); ++i)
+        {
+            const TreeItem preset{{}, node->GetFormatPreset(i)};
+            if (!(above + NameOf(preset)).endsWith('/' + path, Qt::CaseInsensitive))
+                continue;
+            Select({preset});
+            return true;
+        }
+        for (int i = node->ChildCount() - 1; i >= 0; --i)
+            pending.emplace_back(node->GetChild(i), above + NameOf({node->GetChild(i)}) + '/');
+    }
+    return false;
+}
+
+void TreePane::EditName()
+{
+    if (m_view->currentIndex().isValid())
+        m_view->edit(m_view->currentIndex());
+}
+
+void TreePane::FocusSearch()
+{
+    m_search->setFocus(Qt::ShortcutFocusReason);
+    m_search->selectAll();
+}
+
+void TreePane::Narrow(const QString& text)
+{
+    m_filter->SetText(text);
+    if (!m_filter->IsNarrowed() && Current())
+        m_view->scrollTo(ShownIndexOf(Current()), QAbstractItemView::PositionAtCenter);
+}
+
+void TreePane::ShowFound()
+{
+    const int count = m_filter->FoundCount();
+    m_count->setVisible(m_filter->IsNarrowed());
+    m_count->setText(count == 0 ? tr("No preset has all of these words.\nPress Esc to see all presets.")
+                                : tr("%n preset(s) found", nullptr, count));
+    if (!m_filter->IsNarrowed())
+        return;
+    if (count <= kMostExpanded)
+        m_view->expandAll();
+    else
+        m_view->expandToDepth(0);
+}
+
+void TreePane::KeepCurrent()
+{
+    const auto index = m_view->currentIndex();
+    const auto item = index.isValid() ? m_model->ItemAt(m_filter->mapToSource(index)) : TreeItem();
+    if (item == m_current)
+        return;
+    m_current = item;
+    emit CurrentChanged(item);
+}
+
+QModelIndex TreePane::ShownIndexOf(const TreeItem& item) const
+{
+    return m_filter->mapFromSource(m_model->IndexOfItem(item));
+}
+
+TreeItem TreePane::FirstFoundPreset(const QModelIndex& parent) const
+{
+    for (int row = 0; row < m_filter->rowCount(parent); ++row)
+    {
+        const auto index = m_filter->index(row, 0, parent);
+        const auto item = m_model->ItemAt(m_filter->mapToSource(index));
+        const auto found = item.IsPreset() ? item : FirstFoundPreset(index);
+        if (found)
+            return found;
+    }
+    return {};
+}
+
+// From the search field the keyboard goes on to what was found, and back to the whole tree.
+bool TreePane::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_search || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Escape && !m_search->text().isEmpty())
+    {
+        m_search->clear();
+        return true;
+    }
+    if (key != Qt::Key_Down && key != Qt::Key_Return && key != Qt::Key_Enter)
+        return false;
+    if (const auto found = FirstFoundPreset({}))
+        Select({found});
+    m_view->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+} // namespace Vexlor::Studio

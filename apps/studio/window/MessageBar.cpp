@@ -1,0 +1,51 @@
+#include "MessageBar.h"
+
+#include <QAccessible>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace Vexlor::Studio
+{
+
+MessageBar::MessageBar(QWidget* parent)
+    : QFrame(parent), m_layout(new QHBoxLayout(this)), m_text(new QLabel(this))
+{
+    setObjectName("messageBar");
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::ToolTipBase);
+    setFrameShape(QFrame::StyledPanel);
+    m_text->setObjectName("message");
+    m_text->setForegroundRole(QPalette::ToolTipText);
+    m_text->setWordWrap(true);
+    m_text->setTextFormat(Qt::PlainText);
+    m_layout->setContentsMargins(9, 5, 9, 5);
+    m_layout->addWidget(m_text, 1);
+    hide();
+}
+
+void MessageBar::Say(const QString& text)
+{
+    qDeleteAll(m_buttons);
+    m_buttons.clear();
+    m_text->setText(text);
+    Offer(tr("&Close"), [] {});
+    show();
+    QAccessibleEvent event(m_text, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
+}
+
+void MessageBar::Offer(const QString& label, const std::function<void()>& action)
+{
+    auto* button = new QPushButton(label, this);
+    m_layout->insertWidget(m_layout->count() - static_cast<int>(m_buttons.size() > 0), button);
+    m_buttons.append(button);
+    connect(button, &QPushButton::clicked, this,
+            [this, action]
+            {
+                hide();
+                action();
+            });
+}
+
+} // namespace Vexlor::Studio

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "apps/studio/document/Aside.h"
+#include "apps/studio/findings/FindingSources.h"
+
+#include <QObject>
+
+class QAction;
+class QMenu;
+class QWidget;
+
+namespace Vexlor::Studio
+{
+
+class FindingsPane;
+class MessageBar;
+class StudioDocument;
+
+/// Checks of the document and imports into it. Both work beside the window's thread and show what they found.
+class PresetActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    PresetActions(StudioDocument& document, FindingsPane& findings, MessageBar& messages, QWidget* window);
+
+    void AddTo(QMenu& menu) const;
+    /// Adds the presets of that file, which another program has written.
+    void Import(const QString& path);
+
+public slots:
+    void Check();
+    void AskForImport();
+
+signals:
+    /// There is something to see in the pane of findings.
+    void Found();
+    /// These presets are new.
+    void Imported(const std::vector<Vexlor::Studio::TreeItem>& presets);
+
+private:
+    void TakeImport(const QString& path, const AsideResult<Tool::Import>& result);
+
+    StudioDocument& m_document;
+    FindingsPane& m_findings;
+    MessageBar& m_messages;
+    QWidget* m_window;
+    QAction* m_check;
+    QAction* m_import;
+};
+
+} // namespace Vexlor::Studio

@@ -1,0 +1,53 @@
+#include "RecentFiles.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+
+namespace Vexlor::Studio
+{
+
+RecentFiles::RecentFiles(const QString& title, const QString& settingsKey, QWidget* parent)
+    : QMenu(title, parent), m_key(settingsKey)
+{
+    setToolTipsVisible(true);
+    Fill();
+}
+
+void RecentFiles::Add(const QString& path)
+{
+    auto paths = Paths();
+    const auto file = QFileInfo(path).absoluteFilePath();
+    paths.removeAll(file);
+    paths.prepend(file);
+    Store(paths.mid(0, kMost));
+}
+
+QStringList RecentFiles::Paths() const { return QSettings().value(m_key).toStringList(); }
+
+void RecentFiles::Store(const QStringList& paths)
+{
+    QSettings().setValue(m_key, paths);
+    Fill();
+}
+
+void RecentFiles::Fill()
+{
+    clear();
+    int number = 0;
+    for (const auto& path : Paths())
+    {
+        const auto name = QFileInfo(path).fileName().replace('&', "&&");
+        auto* action = addAction(QString("&%1  %2").arg(++number).arg(name));
+        action->setToolTip(QDir::toNativeSeparators(path));
+        action->setStatusTip(action->toolTip());
+        connect(action, &QAction::triggered, this, [this, path] { emit Chosen(path); });
+    }
+    setEnabled(number > 0);
+    if (number == 0)
+        return;
+    addSeparator();
+    connect(addAction(tr("&Clear List")), &QAction::triggered, this, [this] { Store({}); });
+}
+
+} // namespace Vexlor::Studio

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+namespace Vexlor::Studio
+{
+
+class StudioWindow;
+
+/// Writes a picture of the window to that file when it has come to rest, and ends the program: with 0, or
+/// with 1 where the file cannot be written.
+void TakeScreenshotAndEnd(StudioWindow& window, const QString& path);
+
+} // namespace Vexlor::Studio

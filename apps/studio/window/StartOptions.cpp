@@ -1,0 +1,56 @@
+#include "StartOptions.h"
+
+#include <QCommandLineParser>
+
+namespace Vexlor::Studio
+{
+
+namespace
+{
+
+/// "1400x900"; not valid for anything else.
+QSize SizeOf(const QString& text)
+{
+    const auto sides = text.split('x');
+    const QSize size = sides.size() == 2 ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize();
+    return size.width() > 0 && size.height() > 0 && size.width() <= 8192 && size.height() <= 8192 ? size
+                                                                                                  : QSize();
+}
+
+} // namespace
+
+StartResult StartLine::Read(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(tr("Shows, picks and edits the output presets of a media converter."));
+    parser.addPositionalArgument("document", tr("preset document to open"), "[document]");
+    const auto help = parser.addHelpOption();
+    const auto version = parser.addVersionOption();
+    parser.addOptions({
+        {"preset", tr("select the preset of that path, or the first whose path ends so"), tr("path")},
+        {"source", tr("open that media file"), tr("file")},
+        {"search", tr("narrow the tree to what has these words"), tr("text")},
+        {"check", tr("look for what is wrong with the document")},
+        {"theme", tr("light, dark or system"), tr("name")},
+        {"language", tr("language of the texts: en or de"), tr("code")},
+        {"size", tr("size of the window, as 1400x900"), tr("size")},
+        {"screenshot", tr("write a picture of the window to that file, and end"), tr("file")},
+    });
+    if (!parser.parse(arguments))
+        return {{}, parser.errorText() + '\n', 2};
+    if (parser.isSet(help))
+        return {{}, parser.helpText(), 0};
+    if (parser.isSet(version))
+        return {
+            {}, QCoreApplication::applicationName() + ' ' + QCoreApplication::applicationVersion() + '\n', 0};
+    if (parser.isSet("size") && !SizeOf(parser.value("size")).isValid())
+        return {{}, tr("\"%1\" is no size, as 1400x900 is one.").arg(parser.value("size")) + '\n', 2};
+    if (parser.positionalArguments().size() > 1)
+        return {{}, tr("There can be one document at a time.") + '\n', 2};
+    return {StartOptions{parser.positionalArguments().value(0), parser.value("preset"),
+                         parser.value("source"), parser.value("search"), parser.value("language"),
+                         parser.value("theme"), SizeOf(parser.value("size")), parser.value("screenshot"),
+                         parser.isSet("check")}};
+}
+
+} // namespace Vexlor::Studio

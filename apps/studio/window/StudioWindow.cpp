@@ -1,0 +1,263 @@
+#include "StudioWindow.h"
+
+#include "FileActions.h"
+#include "MessageBar.h"
+#include "PresetActions.h"
+#include "RecentFiles.h"
+#include "StartOptions.h"
+#include "TreeActions.h"
+#include "apps/studio/findings/FindingsPane.h"
+#include "apps/studio/outcome/OutcomePane.h"
+#include "apps/studio/preset/PresetPane.h"
+#include "apps/studio/tree/TreePane.h"
+
+#include "IVXFormatPreset.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSettings>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+namespace Vexlor::Studio
+{
+
+namespace
+{
+
+constexpr int kMessageTime = 6000; // milliseconds
+constexpr QSize kDefaultSize{1280, 800};
+constexpr auto* kGeometry = "window/geometry";
+constexpr auto* kState = "window/state";
+constexpr auto* kSplitter = "window/splitter";
+constexpr auto* kTheme = "window/theme";
+
+} // namespace
+
+StudioWindow::StudioWindow(QWidget* parent)
+    : QMainWindow(parent), m_recovery(m_document), m_messages(new MessageBar(this)),
+      m_tree(new TreePane(m_document, m_icons, this)), m_preset(new PresetPane(m_document, this)),
+      m_outcome(new OutcomePane(m_document, this)), m_findings(new FindingsPane(this)),
+      m_splitter(new QSplitter(this)), m_findingsDock(new QDockWidget(tr("Findings"), this)),
+      m_recentMedia(new RecentFiles(tr("Open Recent M&edia"), "recentMedia", this)),
+      m_files(new FileActions(m_document, *m_messages, this)),
+      m_presets(new PresetActions(m_document, *m_findings, *m_messages, this)),
+      m_treeActions(new TreeActions(m_document, *m_tree, this))
+{
+    setObjectName("studio");
+    setAcceptDrops(true);
+    Lay();
+    MakeMenus();
+    Connect();
+    RestoreState();
+    ShowState();
+}
+
+// The panes look at the document, which goes first otherwise.
+StudioWindow::~StudioWindow()
+{
+    delete m_treeActions;
+    delete m_presets;
+    delete m_files;
+    delete takeCentralWidget();
+    delete m_findingsDock;
+}
+
+void StudioWindow::Lay()
+{
+    m_splitter->setObjectName("panes");
+    m_splitter->setChildrenCollapsible(false);
+    for (QWidget* pane :
+         {static_cast<QWidget*>(m_tree), static_cast<QWidget*>(m_preset), static_cast<QWidget*>(m_outcome)})
+        m_splitter->addWidget(pane);
+    m_splitter->setStretchFactor(0, 2);
+    m_splitter->setStretchFactor(1, 4);
+    m_splitter->setStretchFactor(2, 4);
+    m_splitter->setSizes({260, 470, 550});
+    auto* center = new QWidget(this);
+    auto* layout = new QVBoxLayout(center);
+    layout->setContentsMargins(6, 6, 6, 0);
+    layout->addWidget(m_messages);
+    layout->addWidget(m_splitter, 1);
+    setCentralWidget(center);
+    m_findingsDock->setObjectName("findingsDock");
+    m_findingsDock->setWidget(m_findings);
+    addDockWidget(Qt::BottomDockWidgetArea, m_findingsDock);
+    m_findingsDock->hide();
+    statusBar();
+}
+
+void StudioWindow::Connect()
+{
+    connect(m_tree, &TreePane::CurrentChanged, this, &StudioWindow::ShowItem);
+    connect(m_tree, &TreePane::Refused, this,
+            [this](const QString& reason) { statusBar()->showMessage(reason, kMessageTime); });
+    connect(&m_document, &StudioDocument::StateChanged, this, &StudioWindow::ShowState);
+    connect(&m_files->Files(), &DocumentFiles::BusyChanged, this, &StudioWindow::SetBusy);
+    connect(&m_files->Files(), &DocumentFiles::Saved, this,
+            [this] { statusBar()->showMessage(tr("Saved"), kMessageTime); });
+    connect(m_presets, &PresetActions::Found, this,
+            [this]
+            {
+                m_findingsDock->show();
+                m_findingsDock->raise();
+            });
+    connect(m_presets, &PresetActions::Imported, m_tree, &TreePane::Select);
+    connect(m_findings, &FindingsPane::Chosen, this,
+            [this](const TreeItem& item) { m_tree->Select({item}); });
+    connect(m_outcome, &OutcomePane::SourceOpened, m_recentMedia, &RecentFiles::Add);
+    connect(m_outcome, &OutcomePane::ConversionDone, this,
+            [this](const auto& preset) { m_document.NoteUsed(*preset); });
+    connect(m_recentMedia, &RecentFiles::Chosen, m_outcome, &OutcomePane::OpenSource);
+}
+
+void StudioWindow::Start(const StartOptions& options)
+{
+    if (!options.theme.isEmpty())
+        m_themes.Use(Themes::ThemeOf(options.theme));
+    if (options.size.isValid())
+        resize(options.size);
+    const auto show = [this, options]
+    {
+        if (!options.search.isEmpty())
+            m_tree->findChild<QLineEdit*>("search")->setText(options.search);
+        if (!options.preset.isEmpty() && !m_tree->SelectByPath(options.preset))
+            m_messages->Say(tr("There is no preset \"%1\".").arg(options.preset));
+        if (options.checks)
+            m_presets->Check();
+    };
+    if (options.document.isEmpty())
+        show();
+    else
+        connect(&m_files->Files(), &DocumentFiles::Opened, this, show, Qt::SingleShotConnection);
+    if (!options.document.isEmpty())
+        m_files->Open(options.document);
+    if (!options.source.isEmpty())
+        m_outcome->OpenSource(options.source);
+    if (options.screenshot.isEmpty())
+        OfferLost();
+}
+
+void StudioWindow::ShowItem(const TreeItem& item)
+{
+    m_preset->ShowPreset(item.preset);
+    m_outcome->ShowPreset(item.preset);
+}
+
+void StudioWindow::ShowState()
+{
+    setWindowTitle(tr("%1[*] - VXPresetStudio").arg(m_document.Title()));
+    setWindowFilePath(m_document.Path());
+    setWindowModified(m_document.IsModified());
+}
+
+// Nothing may be changed while a document is read or written.
+void StudioWindow::SetBusy(bool isBusy)
+{
+    centralWidget()->setEnabled(!isBusy);
+    if (isBusy)
+        statusBar()->showMessage(tr("Reading or writing the document…"));
+    else
+        statusBar()->clearMessage();
+}
+
+void StudioWindow::OfferLost()
+{
+    const auto lost = Recovery::FindLost();
+    if (!lost)
+        return;
+    const auto name = lost->path.isEmpty() ? tr("the built-in presets") : QFileInfo(lost->path).fileName();
+    m_messages->Say(tr("The program ended unexpectedly. Changes of %1 were put by on %2.")
+                        .arg(name, QLocale().toString(lost->saved, QLocale::ShortFormat)));
+    m_messages->Offer(tr("&Discard"), [lost = *lost] { Recovery::Discard(lost); });
+    m_messages->Offer(tr("&Restore"),
+                      [this, lost = *lost]
+                      {
+                          m_files->WhenNothingIsLost(
+                              [this, lost]
+                              {
+                                  if (const auto reason = m_recovery.Recover(lost); !reason.isEmpty())
+                                      m_messages->Say(reason);
+                              });
+                      });
+}
+
+void StudioWindow::OpenMedia(const QString& path) { m_outcome->OpenSource(path); }
+
+void StudioWindow::closeEvent(QCloseEvent* event)
+{
+    if (!m_mayClose && (m_document.IsModified() || m_outcome->IsConverting()))
+    {
+        event->ignore();
+        const bool isConverting = m_outcome->IsConverting();
+        if (isConverting &&
+            QMessageBox::question(this, tr("Conversion"),
+                                  tr("A conversion is running. Stop it and close?")) != QMessageBox::Yes)
+            return;
+        m_files->WhenNothingIsLost(
+            [this]
+            {
+                m_mayClose = true;
+                QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+            });
+        return;
+    }
+    StoreState();
+    event->accept();
+}
+
+void StudioWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+// Documents go to the tree, everything else is taken for media.
+void StudioWindow::dropEvent(QDropEvent* event)
+{
+    const auto urls = event->mimeData()->urls();
+    if (urls.isEmpty() || !urls.front().isLocalFile())
+        return;
+    const auto path = urls.front().toLocalFile();
+    if (path.endsWith(".json", Qt::CaseInsensitive))
+        m_files->Open(path);
+    else if (path.endsWith(".gep", Qt::CaseInsensitive))
+        m_presets->Import(path);
+    else
+        OpenMedia(path);
+    event->acceptProposedAction();
+}
+
+void StudioWindow::RestoreState()
+{
+    const QSettings settings;
+    if (!restoreGeometry(settings.value(kGeometry).toByteArray()))
+        resize(kDefaultSize);
+    restoreState(settings.value(kState).toByteArray());
+    m_splitter->restoreState(settings.value(kSplitter).toByteArray());
+    m_findingsDock->hide(); // what it showed is gone
+    m_themes.Use(Themes::ThemeOf(settings.value(kTheme).toString()));
+}
+
+void StudioWindow::StoreState() const
+{
+    QSettings settings;
+    settings.setValue(kGeometry, saveGeometry());
+    settings.setValue(kState, saveState());
+    settings.setValue(kSplitter, m_splitter->saveState());
+}
+
+void StudioWindow::UseTheme(Theme theme)
+{
+    QSettings().setValue(kTheme, Themes::NameOf(theme));
+    m_themes.Use(theme);
+}
+
+} // namespace Vexlor::Studio
