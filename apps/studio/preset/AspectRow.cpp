@@ -87,9 +87,10 @@ AspectRow::AspectRow(CodecSession& session, FieldManners& manners, QWidget* pare
     m_shapes->setAccessibleName(tr("sample aspect"));
     LetShrink(*m_shapes);
     manners.Teach(*m_shapes);
+    m_ratio->setObjectName(QStringLiteral("ratio"));
     m_ratio->setAccessibleName(tr("ratio of the sample aspect"));
     m_ratio->setAlignment(Qt::AlignRight);
-    m_ratio->setFixedWidth(m_ratio->fontMetrics().averageCharWidth() * 11);
+    m_ratio->setFixedWidth(m_ratio->fontMetrics().averageCharWidth() * 9);
     manners.Teach(*m_ratio);
     connect(m_shapes, &QComboBox::activated, this, &AspectRow::Choose);
     connect(m_ratio, &QLineEdit::textEdited, this, &AspectRow::Store);

@@ -11,7 +11,6 @@
 #include "IVXFormatPreset.h"
 
 #include <QMenu>
-#include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -72,11 +71,10 @@ void CodecList::Refresh()
     if (!preset)
         return;
     const CodecEntries entries(*preset, m_session.Family());
-    auto& list = m_entries->List();
-    const QSignalBlocker blocker(list);
-    m_entries->Fill(entries.Texts(), entries.Current());
-    list.setCurrentRow(std::clamp(m_session.Index(), 0, std::max(0, list.count() - 1)));
-    m_session.Open(list.currentRow());
+    const auto texts = entries.Texts();
+    m_entries->Fill(texts, entries.Current());
+    m_entries->Select(std::clamp(m_session.Index(), 0, std::max(0, static_cast<int>(texts.size()) - 1)));
+    m_session.Open(m_entries->List().currentRow());
 }
 
 void CodecList::OpenCurrent()

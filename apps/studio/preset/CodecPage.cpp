@@ -17,7 +17,6 @@ CodecPage::CodecPage(CodecSession& session, FieldManners& manners, QWidget* pare
       m_bitrate(new CustomBitrate(session, manners, this))
 {
     m_form->setContentsMargins(0, 0, 0, 0);
-    m_form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     for (const auto& family : FamiliesOf(session.Family().kind))
         AddRow(family, manners);

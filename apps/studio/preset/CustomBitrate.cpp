@@ -10,7 +10,6 @@
 #include "IVXCodecPreset.h"
 #include "IVXFormatPreset.h"
 
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -35,15 +34,13 @@ CustomBitrate::CustomBitrate(CodecSession& session, FieldManners& manners, QWidg
     keep->setToolTip(tr("Sets both limits of the bitrate instead, which documents can hold"));
     connect(keep, &QPushButton::clicked, this, &CustomBitrate::KeepAsLimits);
 
-    auto* line = new QHBoxLayout;
-    line->addWidget(box, 1);
-    line->addWidget(keep);
     auto* note = new MessageLine(this);
     note->Say(tr("Documents cannot hold a bitrate of one's own: once saved and opened again, it is Auto."));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(line);
+    layout->addWidget(box);
     layout->addWidget(note);
+    layout->addWidget(keep, 0, Qt::AlignLeft);
 }
 
 void CustomBitrate::Refresh()

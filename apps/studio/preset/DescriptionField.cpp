@@ -35,7 +35,8 @@ void DescriptionField::Show(const QString& text)
 QSize DescriptionField::sizeHint() const
 {
     constexpr int kLines = 3;
-    const auto frame = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
+    // The margin below would show the head of a fourth line.
+    const auto frame = 2 * frameWidth() + static_cast<int>(document()->documentMargin());
     return {fontMetrics().averageCharWidth() * 20, fontMetrics().lineSpacing() * kLines + frame};
 }
 

@@ -3,6 +3,7 @@
 #include "EntryListView.h"
 
 #include <QHBoxLayout>
+#include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -45,6 +46,13 @@ void EntryListBox::SetNoun(const QString& noun)
 void EntryListBox::Fill(const QStringList& texts, int current)
 {
     m_list->Fill(texts, current);
+    Arm();
+}
+
+void EntryListBox::Select(int row)
+{
+    const QSignalBlocker blocker(m_list);
+    m_list->setCurrentRow(row);
     Arm();
 }
 

@@ -22,6 +22,8 @@ public:
     void SetNoun(const QString& noun);
     /// Shows these entries.
     void Fill(const QStringList& texts, int current);
+    /// Selects that row without a word.
+    void Select(int row);
     EntryListView& List() { return *m_list; }
     /// Puts a further button in front of the others, or behind them.
     void AddButton(QWidget& button, bool isFirst);

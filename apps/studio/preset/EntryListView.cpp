@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QSignalBlocker>
+#include <QStyleOption>
 
 #include <algorithm>
 
@@ -16,17 +18,46 @@ namespace
 constexpr int kFewestRows = 3;
 constexpr int kMostRows = 7;
 
-/// Draws the marks of rows as those of options that exclude one another.
+constexpr int kRoom = 4; // pixels between rows
+
+/// Draws the marks of rows as those of options that exclude one another, in the colour of the rows' text:
+/// those of the style's own buttons are hardly to be seen on a dark ground.
 class OptionStyle final : public QProxyStyle
 {
 public:
     using QProxyStyle::QProxyStyle;
 
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override
+    {
+        const auto needed = QProxyStyle::sizeFromContents(type, option, size, widget);
+        return type == CT_ItemViewItem ? needed + QSize(0, kRoom) : needed;
+    }
+
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override
     {
-        const bool isMark = element == PE_IndicatorItemViewItemCheck;
-        QProxyStyle::drawPrimitive(isMark ? PE_IndicatorRadioButton : element, option, painter, widget);
+        if (element == PE_IndicatorItemViewItemCheck)
+            DrawMark(*option, *painter);
+        else
+            QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+
+private:
+    static void DrawMark(const QStyleOption& option, QPainter& painter)
+    {
+        const bool isSelected = option.state.testFlag(State_Selected);
+        const auto color = option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::Text);
+        const auto side = std::min(option.rect.width(), option.rect.height()) - 2.0;
+        const auto center = QRectF(option.rect).center();
+        painter.save();
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(color);
+        painter.drawEllipse(center, side / 2, side / 2);
+        painter.setBrush(color);
+        if (option.state.testFlag(State_On))
+            painter.drawEllipse(center, side / 4, side / 4);
+        painter.restore();
     }
 };
 
@@ -123,7 +154,7 @@ void EntryListView::Mark()
 
 int EntryListView::HeightOf(int rows) const
 {
-    const int rowHeight = count() > 0 ? sizeHintForRow(0) : fontMetrics().height() + 4;
+    const int rowHeight = count() > 0 ? sizeHintForRow(0) : fontMetrics().height() + kRoom;
     return rows * rowHeight + 2 * frameWidth();
 }
 

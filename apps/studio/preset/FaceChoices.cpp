@@ -1,34 +1,18 @@
 #include "FaceChoices.h"
 
-#include "apps/artwork/ArtworkFile.h"
-#include "apps/artwork/DefaultArtwork.h"
-
-#include "IVXArtworkImageGroup.h"
-
+#include "apps/studio/tree/FaceIcons.h"
 #include "catalog/icons/Faces.h"
 
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QIcon>
+#include <QString>
 
 namespace Vexlor::Studio
 {
 
 namespace
 {
-
-QIcon IconOf(const Tool::ArtworkFile& artwork, int faceID)
-{
-    for (const auto& entry : artwork.table)
-    {
-        if (entry.faceID != faceID)
-            continue;
-        const auto group = IVXArtworkImageGroup::MallocArtworkImageGroup();
-        group->FromData(Tool::BlobOf(artwork, entry));
-        return group->ToIcon();
-    }
-    return {};
-}
 
 /// "WebVideo" of "CategoryFaceIDWebVideo"
 QString ShortName(std::string_view name)
@@ -44,10 +28,10 @@ QString ShortName(std::string_view name)
 
 void FillFaces(QComboBox& combo)
 {
-    const auto artwork = Tool::OpenArtwork("built-in", Tool::DefaultArtwork());
+    const FaceIcons icons;
     combo.addItem(QCoreApplication::translate("FaceChoices", "None"), 0);
     for (const auto& face : Catalog::kFaces)
-        combo.addItem(IconOf(artwork, face.id), ShortName(face.name), face.id);
+        combo.addItem(icons.IconOf(face.id, true), ShortName(face.name), face.id);
 }
 
 } // namespace Vexlor::Studio

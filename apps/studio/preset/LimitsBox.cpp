@@ -41,6 +41,7 @@ namespace
 {
 
 constexpr int kMostPixels = 99'999;
+constexpr int kFewestCharacters = 11;
 
 constexpr std::array kVideo{
     LimitPair{QT_TRANSLATE_NOOP("Limit", "Lar&gest size"),
@@ -82,7 +83,7 @@ bool IsCrossed(int lowest, int highest, int none)
 } // namespace
 
 LimitsBox::LimitsBox(PresetSession& session, bool isVideo, FieldManners& manners, QWidget* parent)
-    : QGroupBox(tr("Limits, whatever the codec"), parent), m_session(session), m_isVideo(isVideo),
+    : QGroupBox(tr("Limits for every codec"), parent), m_session(session), m_isVideo(isVideo),
       m_message(new MessageLine(this))
 {
     auto* form = new QFormLayout(this);
@@ -114,6 +115,7 @@ QWidget& LimitsBox::AddField(const LimitPair& row, const Limit& limit, FieldMann
     box.setObjectName(QString::fromLatin1(limit.noun));
     box.setAccessibleName(noun);
     box.setToolTip(noun);
+    box.setMinimumWidth(box.fontMetrics().averageCharWidth() * kFewestCharacters);
     const auto store = [this, noun, set = limit.set](int number, int run)
     {
         m_session.Edit(

@@ -17,9 +17,19 @@ void MessageLine::Say(const QString& text)
     if (text == this->text())
         return;
     setText(text);
+    KeepHeight();
     setVisible(!text.isEmpty());
     QAccessibleEvent alert(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }
+
+void MessageLine::resizeEvent(QResizeEvent* event)
+{
+    QLabel::resizeEvent(event);
+    KeepHeight();
+}
+
+// Layouts within layouts lose count of the lines that a text of that width takes.
+void MessageLine::KeepHeight() { setMinimumHeight(heightForWidth(width())); }
 
 } // namespace Vexlor::Studio

@@ -16,6 +16,12 @@ public:
 
     /// Shows that text, and has it read out.
     void Say(const QString& text);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void KeepHeight();
 };
 
 } // namespace Vexlor::Studio

@@ -35,6 +35,9 @@ PresetPane::PresetPane(StudioDocument& document, QWidget* parent)
             });
 }
 
+// A field that loses the focus as it goes still asks the session.
+PresetPane::~PresetPane() { delete m_stack; }
+
 QWidget* PresetPane::NewEmptyState()
 {
     auto* text =

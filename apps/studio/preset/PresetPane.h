@@ -22,6 +22,9 @@ class PresetPane final : public QWidget
 
 public:
     explicit PresetPane(StudioDocument& document, QWidget* parent = nullptr);
+    ~PresetPane() override;
+    PresetPane(const PresetPane&) = delete;
+    PresetPane& operator=(const PresetPane&) = delete;
 
     /// Shows that preset; an empty handle shows what to do.
     void ShowPreset(std::shared_ptr<IVXFormatPreset> preset);

@@ -3,6 +3,10 @@
 #include "IVXCodecParameter.h"
 #include "IVXCodecPreset.h"
 #include "IVXCodecQualityPreset.h"
+#include "IVXFrameratePreset.h"
+#include "IVXResolutionPreset.h"
+
+#include <utility>
 
 namespace Vexlor::Studio
 {
@@ -13,11 +17,34 @@ namespace
 constexpr int kNoBitrate = -1;
 constexpr int kUnsetBitrate = 1; // what the library begins with
 
-int BitrateOfAuto(const IVXCodecPreset& codec)
+constexpr std::pair kCommonSize{1920, 1080};
+constexpr std::pair kCommonRate{30, 1};
+
+/// Two figures of it are enough for what is to be changed anyway.
+int Rounded(int bitrate)
+{
+    int unit = 1;
+    while (bitrate / unit >= 100)
+        unit *= 10;
+    return bitrate / unit * unit;
+}
+
+/// Where the picture is the source's, one as it is common: the largest that is offered would tell too much.
+int CommonBitrate(const IVXCodecPreset& codec)
 {
     const auto copy = codec.Clone();
     copy->SetIndexForQualityPresets(0);
-    return copy->DefaultCodecParameter(kNoBitrate, kNoBitrate)->GetBitrate();
+    if (const auto size = codec.CurrentResolution(); !size || size->IsAutoValue())
+    {
+        copy->AddResolutionPreset(kCommonSize.first, kCommonSize.second);
+        copy->SetIndexForResolutionPreset(copy->ResolutionPresetCount() - 1);
+    }
+    if (const auto rate = codec.CurrentFramerate(); !rate || rate->IsAutoValue())
+    {
+        copy->AddFrameratePreset(kCommonRate.first, kCommonRate.second);
+        copy->SetIndexForFrameratePresets(copy->FrameratePresetCount() - 1);
+    }
+    return Rounded(copy->DefaultCodecParameter(kNoBitrate, kNoBitrate)->GetBitrate());
 }
 
 } // namespace
@@ -46,7 +73,7 @@ void SetOwnBitrate(IVXCodecPreset& codec, int bitrate)
 void ProposeBitrate(IVXCodecPreset& codec)
 {
     if (OwnBitrate(codec) == kUnsetBitrate)
-        SetOwnBitrate(codec, BitrateOfAuto(codec));
+        SetOwnBitrate(codec, CommonBitrate(codec));
 }
 
 } // namespace Vexlor::Studio

@@ -25,12 +25,14 @@ StreamPage::StreamPage(PresetSession& session, Tool::StreamKind kind, FieldManne
       m_message(new MessageLine(this)), m_sides(new QBoxLayout(QBoxLayout::LeftToRight))
 {
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_message);
+    auto* side = new QVBoxLayout;
+    side->addWidget(m_message);
+    side->addWidget(m_page, 1, Qt::AlignTop);
     layout->addLayout(m_sides);
     layout->addWidget(m_limits);
-    layout->addStretch();
-    m_sides->addWidget(m_codecs, 1);
-    m_sides->addWidget(m_page, 2);
+    layout->addStretch(1);
+    m_sides->addWidget(m_codecs, 1, Qt::AlignTop);
+    m_sides->addLayout(side, 2);
     connect(m_codecs, &CodecList::Opened, this, &StreamPage::RefreshPage);
 }
 

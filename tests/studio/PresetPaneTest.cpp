@@ -1,0 +1,174 @@
+#include "PresetPaneFixture.h"
+
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QWheelEvent>
+
+namespace Vexlor::Studio
+{
+
+namespace
+{
+
+TEST_F(PresetPaneTest, SaysWhatToDoWithoutAPreset)
+{
+    pane.ShowPreset(nullptr);
+    EXPECT_TRUE(pane.findChild<QLabel*>("empty")->isVisible());
+    EXPECT_FALSE(pane.findChild<QLineEdit*>("name")->isVisible());
+}
+
+TEST_F(PresetPaneTest, ShowsWhatThePresetIsCalled)
+{
+    EXPECT_FALSE(pane.findChild<QLabel*>("empty")->isVisible());
+    EXPECT_EQ("Phone", pane.findChild<QLineEdit*>("name")->text());
+}
+
+TEST_F(PresetPaneTest, TypingANameIsOneStep)
+{
+    auto& name = *pane.findChild<QLineEdit*>("name");
+    Type(name, "Tablet");
+    EXPECT_EQ("Tablet", preset->Name());
+    EXPECT_EQ(1, document.Undo().count());
+    EXPECT_EQ("Change name", document.Undo().undoText());
+    document.Undo().undo();
+    EXPECT_EQ("Phone", preset->Name());
+    EXPECT_EQ("Phone", name.text());
+}
+
+TEST_F(PresetPaneTest, EachVisitToAFieldIsAStepOfItsOwn)
+{
+    auto& name = *pane.findChild<QLineEdit*>("name");
+    Type(name, "Tablet");
+    QTest::keyClick(&name, Qt::Key_Return);
+    Type(name, "Car");
+    EXPECT_EQ(2, document.Undo().count());
+}
+
+TEST_F(PresetPaneTest, KeepsTheCursorWhereOneTypes)
+{
+    auto& name = *pane.findChild<QLineEdit*>("name");
+    name.setFocus();
+    name.setCursorPosition(2);
+    QTest::keyClicks(&name, "xy");
+    EXPECT_EQ("Phxyone", preset->Name());
+    EXPECT_EQ(4, name.cursorPosition());
+    EXPECT_TRUE(name.hasFocus());
+}
+
+TEST_F(PresetPaneTest, KeepsTheOldNameInPlaceOfNone)
+{
+    auto& name = *pane.findChild<QLineEdit*>("name");
+    name.setFocus();
+    name.selectAll();
+    QTest::keyClick(&name, Qt::Key_Delete);
+    EXPECT_EQ("Phone", preset->Name());
+    EXPECT_TRUE(Messages(pane).contains("needs a name"));
+    QTest::keyClick(&name, Qt::Key_Return);
+    EXPECT_EQ("Phone", name.text());
+    EXPECT_FALSE(Messages(pane).contains("needs a name"));
+}
+
+TEST_F(PresetPaneTest, TypingADescriptionIsOneStep)
+{
+    auto& description = *pane.findChild<QPlainTextEdit*>("description");
+    Type(description, "In the train.");
+    EXPECT_EQ("In the train.", preset->Description());
+    EXPECT_EQ(1, document.Undo().count());
+    document.Undo().undo();
+    EXPECT_EQ("", description.toPlainText());
+}
+
+TEST_F(PresetPaneTest, StoresThePickedIcon)
+{
+    auto& icon = *pane.findChild<QComboBox*>("icon");
+    Pick(icon, "WEBM");
+    EXPECT_EQ(20000002, preset->FaceID());
+    EXPECT_EQ("Change icon to WEBM", document.Undo().undoText());
+    EXPECT_FALSE(icon.itemIcon(icon.currentIndex()).isNull());
+}
+
+TEST_F(PresetPaneTest, ShowsTheNumberOfAnIconThatIsNotKnown)
+{
+    document.EditPreset(preset, "Icon", [](IVXFormatPreset& changed) { changed.SetFaceID(77); });
+    const auto& icon = *pane.findChild<QComboBox*>("icon");
+    EXPECT_EQ(-1, icon.currentIndex());
+    EXPECT_EQ("Unknown icon 77", icon.placeholderText());
+}
+
+TEST_F(PresetPaneTest, ShowsWhatOthersChange)
+{
+    document.EditPreset(preset, "Rename", [](IVXFormatPreset& changed) { changed.SetName("Car"); });
+    EXPECT_EQ("Car", pane.findChild<QLineEdit*>("name")->text());
+}
+
+TEST_F(PresetPaneTest, OpensAPresetOfSoundWithItsSound)
+{
+    Page(0);
+    pane.ShowPreset(IVXFormatPreset::MallocFormatPreset("MP3", ""));
+    EXPECT_EQ(1, pane.findChild<QTabWidget*>("streams")->currentIndex());
+    EXPECT_TRUE(Messages(Page(0)).contains("MP3 holds no pictures."));
+}
+
+TEST_F(PresetPaneTest, EveryFieldHasANameForReadersOfTheScreen)
+{
+    Page(0);
+    Entries("resolution");
+    for (const auto* field : pane.findChildren<QWidget*>())
+    {
+        const bool isInput = qobject_cast<const QComboBox*>(field) || qobject_cast<const QSpinBox*>(field) ||
+                             qobject_cast<const QListWidget*>(field) || field->objectName() == "edit";
+        if (isInput && field->isVisible())
+        {
+            EXPECT_NE("", field->accessibleName()) << field->objectName().toStdString();
+        }
+    }
+}
+
+TEST_F(PresetPaneTest, LeavesTakingBackToTheDocument)
+{
+    auto& name = *pane.findChild<QLineEdit*>("name");
+    Type(name, "Tablet");
+    QKeyEvent ask(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier);
+    ask.ignore();
+    QApplication::sendEvent(&name, &ask);
+    EXPECT_FALSE(ask.isAccepted());
+}
+
+TEST_F(PresetPaneTest, TheWheelChangesNothingThatIsNotBeingEdited)
+{
+    auto& width = Number("largest width");
+    QWheelEvent turn(QPointF(5, 5), width.mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
+                     Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&width, &turn);
+    EXPECT_EQ(0, preset->MaxWidth());
+    width.setFocus();
+    QApplication::sendEvent(&width, &turn);
+    EXPECT_GT(preset->MaxWidth(), 0);
+}
+
+TEST_F(PresetPaneTest, GoesWhileAFieldIsBeingEdited)
+{
+    auto other = std::make_unique<PresetPane>(document);
+    other->ShowPreset(preset);
+    other->show();
+    QApplication::setActiveWindow(other.get());
+    other->findChild<QLineEdit*>("name")->setFocus();
+    other.reset();
+    EXPECT_EQ(0, document.Undo().count());
+}
+
+// What is narrow has its list above its page, and nothing wider than itself.
+TEST_F(PresetPaneTest, FitsIntoANarrowPlace)
+{
+    Page(0);
+    pane.resize(330, 900);
+    QCoreApplication::processEvents();
+    const auto& list = Codecs();
+    const auto& combo = Combo("resolution");
+    EXPECT_LT(list.mapTo(&pane, QPoint()).y() + list.height(), combo.mapTo(&pane, QPoint()).y());
+    EXPECT_LE(combo.mapTo(&pane, QPoint(combo.width(), 0)).x(), 330);
+}
+
+} // namespace
+
+} // namespace Vexlor::Studio
