@@ -1,6 +1,6 @@
 include(CMakePackageConfigHelpers)
 
-# Three components, as distributions part them: what programs need to run, what their builds need, the tool.
+# Four components, as distributions part them: what programs need to run, what their builds need, the tool, the window program.
 set(headers ${CMAKE_INSTALL_INCLUDEDIR}/VXMediaPresets)
 foreach(target IN LISTS VX_RUNTIME_TARGETS ITEMS VXMediaPresets)
   get_target_property(sets ${target} INTERFACE_HEADER_SETS)
@@ -54,4 +54,12 @@ if(VX_BUILD_APPS)
   install(FILES ${tool}/vxpresets.zsh DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/site-functions RENAME _vxpresets
           COMPONENT tools)
   install(FILES ${tool}/vxpresets.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d COMPONENT tools)
+endif()
+
+if(VX_BUILD_STUDIO)
+  set(studio packaging/studio/org.vexlor.vxpresetstudio)
+  install(TARGETS vxpresetstudio RUNTIME COMPONENT studio)
+  install(FILES ${studio}.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT studio)
+  install(FILES ${studio}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT studio)
+  install(FILES ${studio}.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT studio)
 endif()

@@ -1,4 +1,4 @@
-# cpack makes three Debian packages, and cpack --config CPackSourceConfig.cmake the sources.
+# cpack makes four Debian packages, and cpack --config CPackSourceConfig.cmake the sources.
 set(CPACK_PACKAGE_NAME vxmediapresets)
 set(CPACK_PACKAGE_VENDOR Vexlor)
 set(CPACK_PACKAGE_CONTACT "the developers of VXMediaPresets <vxmediapresets@example.org>")
@@ -9,6 +9,9 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_GENERATOR DEB)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_ALL libraries development tools)
+if(VX_BUILD_STUDIO)
+  list(APPEND CPACK_COMPONENTS_ALL studio)
+endif()
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_ENABLE_COMPONENT_DEPENDS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
@@ -24,11 +27,17 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME vxpresets)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_RECOMMENDS ffmpeg) # which "vxpresets convert" runs
+set(CPACK_DEBIAN_STUDIO_PACKAGE_NAME vxpresetstudio)
+set(CPACK_DEBIAN_STUDIO_PACKAGE_SECTION video)
+set(CPACK_DEBIAN_STUDIO_PACKAGE_DEPENDS "libqt6svg6") # draws its icon, and is no library that it is linked with
+set(CPACK_DEBIAN_STUDIO_PACKAGE_RECOMMENDS "ffmpeg, qt6-translations-l10n")
 set(CPACK_COMPONENT_LIBRARIES_DESCRIPTION "The libraries that programs run with.")
 set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, the CMake package and pkg-config files.")
 set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS libraries)
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION "The command line tool with its manual page, completions and icons.")
 set(CPACK_COMPONENT_TOOLS_DEPENDS libraries)
+set(CPACK_COMPONENT_STUDIO_DESCRIPTION "The window program: see, pick and edit presets.")
+set(CPACK_COMPONENT_STUDIO_DEPENDS libraries)
 
 set(CPACK_SOURCE_GENERATOR TGZ)
 set(CPACK_SOURCE_PACKAGE_FILE_NAME ${CPACK_PACKAGE_NAME}-${PROJECT_VERSION})

@@ -27,7 +27,7 @@ TreeActions::TreeActions(StudioDocument& document, TreePane& pane, QObject* pare
       m_delete(Add(tr("&Delete"), QKeySequence::Delete, &TreeActions::Delete)),
       m_rename(Add(tr("&Rename"), Qt::Key_F2, &TreeActions::Rename)),
       m_clone(Add(tr("C&lone into Customised"), Qt::CTRL | Qt::Key_D, &TreeActions::Clone)),
-      m_up(Add(tr("Move &Up"), Qt::ALT | Qt::Key_Up, &TreeActions::MoveUp)),
+      m_up(Add(tr("M&ove Up"), Qt::ALT | Qt::Key_Up, &TreeActions::MoveUp)),
       m_down(Add(tr("Move Do&wn"), Qt::ALT | Qt::Key_Down, &TreeActions::MoveDown)),
       m_newCategory(Add(tr("New C&ategory"), Qt::CTRL | Qt::SHIFT | Qt::Key_N, &TreeActions::NewCategory))
 {

@@ -1,0 +1,1489 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>ComboFilling</name>
+    <message>
+        <source>No entries</source>
+        <translation>Keine Einträge</translation>
+    </message>
+    <message>
+        <source>None chosen</source>
+        <translation>Keiner gewählt</translation>
+    </message>
+    <message>
+        <source>Entry %1 of %2: not there</source>
+        <translation>Eintrag %1 von %2: gibt es nicht</translation>
+    </message>
+</context>
+<context>
+    <name>EditNames</name>
+    <message>
+        <source>Change %1</source>
+        <translation>%1 ändern</translation>
+    </message>
+    <message>
+        <source>Change %1 to %2</source>
+        <translation>%1 auf %2 ändern</translation>
+    </message>
+    <message>
+        <source>Add %1 %2</source>
+        <translation>%1 %2 hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove %1 %2</source>
+        <translation>%1 %2 entfernen</translation>
+    </message>
+    <message>
+        <source>Move %1 %2</source>
+        <translation>%1 %2 verschieben</translation>
+    </message>
+    <message>
+        <source>Reset entries of %1</source>
+        <translation>Einträge zurücksetzen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FaceChoices</name>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+</context>
+<context>
+    <name>Limit</name>
+    <message>
+        <source>Lar&amp;gest size</source>
+        <translation>&amp;Größte Maße</translation>
+    </message>
+    <message>
+        <source>largest width</source>
+        <translation>Größte Breite</translation>
+    </message>
+    <message>
+        <source>largest height</source>
+        <translation>Größte Höhe</translation>
+    </message>
+    <message>
+        <source>Smallest si&amp;ze</source>
+        <translation>&amp;Kleinste Maße</translation>
+    </message>
+    <message>
+        <source>smallest width</source>
+        <translation>Kleinste Breite</translation>
+    </message>
+    <message>
+        <source>smallest height</source>
+        <translation>Kleinste Höhe</translation>
+    </message>
+    <message>
+        <source>&amp;Bitrate</source>
+        <translation>&amp;Bitrate</translation>
+    </message>
+    <message>
+        <source>lowest video bitrate</source>
+        <translation>Niedrigste Videobitrate</translation>
+    </message>
+    <message>
+        <source>highest video bitrate</source>
+        <translation>Höchste Videobitrate</translation>
+    </message>
+    <message>
+        <source>lowest audio bitrate</source>
+        <translation>Niedrigste Tonbitrate</translation>
+    </message>
+    <message>
+        <source>highest audio bitrate</source>
+        <translation>Höchste Tonbitrate</translation>
+    </message>
+</context>
+<context>
+    <name>ListFamily</name>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>a name or a number</source>
+        <translation>ein Name oder eine Zahl</translation>
+    </message>
+    <message>
+        <source>&amp;Level</source>
+        <translation>&amp;Level</translation>
+    </message>
+    <message>
+        <source>level</source>
+        <translation>Level</translation>
+    </message>
+    <message>
+        <source>&amp;Quality</source>
+        <translation>&amp;Qualität</translation>
+    </message>
+    <message>
+        <source>quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>&amp;Resolution</source>
+        <translation>&amp;Auflösung</translation>
+    </message>
+    <message>
+        <source>resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
+        <source>1440x1080</source>
+        <translation>1440x1080</translation>
+    </message>
+    <message>
+        <source>Fra&amp;me rate</source>
+        <translation>Bildra&amp;te</translation>
+    </message>
+    <message>
+        <source>frame rate</source>
+        <translation>Bildrate</translation>
+    </message>
+    <message>
+        <source>25 or 30000/1001</source>
+        <translation>25 oder 30000/1001</translation>
+    </message>
+    <message>
+        <source>Pi&amp;xel format</source>
+        <translation>Pi&amp;xelformat</translation>
+    </message>
+    <message>
+        <source>pixel format</source>
+        <translation>Pixelformat</translation>
+    </message>
+    <message>
+        <source>Sample &amp;rate</source>
+        <translation>Abtast&amp;rate</translation>
+    </message>
+    <message>
+        <source>sample rate</source>
+        <translation>Abtastrate</translation>
+    </message>
+    <message>
+        <source>48000 or 44.1 kHz</source>
+        <translation>48000 oder 44.1 kHz</translation>
+    </message>
+    <message>
+        <source>Channel&amp;s</source>
+        <translation>Kanä&amp;le</translation>
+    </message>
+    <message>
+        <source>channel layout</source>
+        <translation>Kanalanordnung</translation>
+    </message>
+    <message>
+        <source>Stereo, 5.1 or 0x3</source>
+        <translation>Stereo, 5.1 oder 0x3</translation>
+    </message>
+    <message>
+        <source>Sa&amp;mple format</source>
+        <translation>Abtast&amp;format</translation>
+    </message>
+    <message>
+        <source>sample format</source>
+        <translation>Abtastformat</translation>
+    </message>
+</context>
+<context>
+    <name>StreamFamily</name>
+    <message>
+        <source>video codec</source>
+        <translation>Videocodec</translation>
+    </message>
+    <message>
+        <source>audio codec</source>
+        <translation>Audiocodec</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::AspectRow</name>
+    <message>
+        <source>sample aspect</source>
+        <translation>Pixelseitenverhältnis</translation>
+    </message>
+    <message>
+        <source>ratio of the sample aspect</source>
+        <translation>Zahlen des Pixelseitenverhältnisses</translation>
+    </message>
+    <message>
+        <source>Unknown shape %1</source>
+        <translation>Unbekannte Form %1</translation>
+    </message>
+    <message>
+        <source>A ratio is written as 16:15.</source>
+        <translation>Ein Verhältnis schreibt man als 16:15.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::BitrateBar</name>
+    <message>
+        <source>from %1 (preset)</source>
+        <translation>ab %1 (Vorgabe)</translation>
+    </message>
+    <message>
+        <source>from %1 (codec)</source>
+        <translation>ab %1 (Codec)</translation>
+    </message>
+    <message>
+        <source>to %1 (preset)</source>
+        <translation>bis %1 (Vorgabe)</translation>
+    </message>
+    <message>
+        <source>to %1 (codec)</source>
+        <translation>bis %1 (Codec)</translation>
+    </message>
+    <message>
+        <source>from %1</source>
+        <translation>ab %1</translation>
+    </message>
+    <message>
+        <source>to %1</source>
+        <translation>bis %1</translation>
+    </message>
+    <message>
+        <source>source %1</source>
+        <translation>Quelle %1</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::BitrateBox</name>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::BitrateWords</name>
+    <message>
+        <source>every grade</source>
+        <translation>jede Stufe</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>grades</comment>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Output: %1.</source>
+        <translation>Ausgabe: %1.</translation>
+    </message>
+    <message>
+        <source>Source: %1.</source>
+        <translation>Quelle: %1.</translation>
+    </message>
+    <message>
+        <source>At least %1 by the preset.</source>
+        <translation>Nach der Vorgabe mindestens %1.</translation>
+    </message>
+    <message>
+        <source>At least %1 suits the codec.</source>
+        <translation>Für den Codec passen mindestens %1.</translation>
+    </message>
+    <message>
+        <source>At most %1 by the preset.</source>
+        <translation>Nach der Vorgabe höchstens %1.</translation>
+    </message>
+    <message>
+        <source>At most %1 suits the codec.</source>
+        <translation>Für den Codec passen höchstens %1.</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <comment>grade and its bitrate</comment>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Grades: %1.</source>
+        <translation>Stufen: %1.</translation>
+    </message>
+    <message>
+        <source>What the codec takes follows from the content, not from a bitrate.</source>
+        <translation>Was der Codec braucht, folgt aus dem Inhalt, nicht aus einer Bitrate.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::CodecList</name>
+    <message>
+        <source>Add a codec that the container takes</source>
+        <translation>Einen Codec hinzufügen, den der Container aufnimmt</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>%1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>All codecs that the container takes are there</source>
+        <translation>Alle Codecs, die der Container aufnimmt, sind da</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::CodecPage</name>
+    <message>
+        <source>&amp;Sample aspect</source>
+        <translation>Pi&amp;xelseitenverhältnis</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::ConversionStatus</name>
+    <message>
+        <source>&amp;Replace</source>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Another Name…</source>
+        <translation>&amp;Anderer Name …</translation>
+    </message>
+    <message>
+        <source>&amp;Not Now</source>
+        <translation>&amp;Nicht jetzt</translation>
+    </message>
+    <message>
+        <source>Cance&amp;l</source>
+        <translation>A&amp;bbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Show in Folder</source>
+        <translation>Im &amp;Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Progress of the conversion</source>
+        <translation>Fortschritt der Umwandlung</translation>
+    </message>
+    <message>
+        <source>%1 is there already.</source>
+        <translation>%1 gibt es schon.</translation>
+    </message>
+    <message>
+        <source>Making %1</source>
+        <translation>%1 entsteht</translation>
+    </message>
+    <message>
+        <source>Starting …</source>
+        <translation>Beginnt …</translation>
+    </message>
+    <message>
+        <source>Cancelling …</source>
+        <translation>Wird abgebrochen …</translation>
+    </message>
+    <message>
+        <source>%1 is made: %2 in %3</source>
+        <translation>%1 ist fertig: %2 in %3</translation>
+    </message>
+    <message>
+        <source>Cancelled: nothing is left of %1</source>
+        <translation>Abgebrochen: Von %1 ist nichts geblieben</translation>
+    </message>
+    <message>
+        <source>It could not be converted.</source>
+        <translation>Es ließ sich nicht umwandeln.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::ConversionTexts</name>
+    <message>
+        <source>%1 %</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1 done</source>
+        <translation>%1 fertig</translation>
+    </message>
+    <message>
+        <source>%1× speed</source>
+        <translation>%1-fache Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>about %1</source>
+        <translation>etwa %1</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <comment>sizes of files</comment>
+        <translation>%1 bis %2</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::ConvertPanel</name>
+    <message>
+        <source>Pic&amp;ture:</source>
+        <translation>B&amp;ild:</translation>
+    </message>
+    <message>
+        <source>&amp;Convert…</source>
+        <translation>&amp;Umwandeln …</translation>
+    </message>
+    <message>
+        <source>How the picture fits into a frame of another shape</source>
+        <translation>Wie das Bild in einen Rahmen anderer Form kommt</translation>
+    </message>
+    <message>
+        <source>Pad with black</source>
+        <translation>Schwarz auffüllen</translation>
+    </message>
+    <message>
+        <source>Crop</source>
+        <translation>Beschneiden</translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation>Verzerren</translation>
+    </message>
+    <message>
+        <source>There is no source to convert.</source>
+        <translation>Es gibt keine Quelle zum Umwandeln.</translation>
+    </message>
+    <message>
+        <source>Choose a preset to see what becomes of this file.</source>
+        <translation>Wählen Sie eine Vorgabe, um zu sehen, was aus dieser Datei wird.</translation>
+    </message>
+    <message>
+        <source>Cannot be converted here: %1</source>
+        <translation>Lässt sich hier nicht umwandeln: %1</translation>
+    </message>
+    <message>
+        <source>The size cannot be predicted: the source does not tell its length.</source>
+        <translation>Die Größe lässt sich nicht vorhersagen: Die Quelle nennt ihre Länge nicht.</translation>
+    </message>
+    <message>
+        <source>Predicted size: %1 (%2)</source>
+        <translation>Vorhergesagte Größe: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Convert To</source>
+        <translation>Umwandeln in</translation>
+    </message>
+    <message>
+        <source>%1 files (*.%2);;All files (*)</source>
+        <translation>%1-Dateien (*.%2);;Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::CustomBitrate</name>
+    <message>
+        <source>Bitrate of one&apos;s own</source>
+        <translation>Eigene Bitrate</translation>
+    </message>
+    <message>
+        <source>Set as limits</source>
+        <translation>Als Grenzen setzen</translation>
+    </message>
+    <message>
+        <source>Sets both limits of the bitrate instead, which documents can hold</source>
+        <translation>Setzt stattdessen beide Grenzen der Bitrate, die in Dokumente passen</translation>
+    </message>
+    <message>
+        <source>Documents cannot hold a bitrate of one&apos;s own: once saved and opened again, it is Auto.</source>
+        <translation>Dokumente können keine eigene Bitrate aufnehmen: Nach dem Speichern und Öffnen ist sie Auto.</translation>
+    </message>
+    <message>
+        <source>bitrate</source>
+        <translation>Bitrate</translation>
+    </message>
+    <message>
+        <source>Set limits to the bitrate</source>
+        <translation>Grenzen der Bitrate setzen</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::EntryEditor</name>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>%1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>New %1</source>
+        <translation>Neu: %1</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Offer what the codec offers by itself</source>
+        <translation>Anbieten, was der Codec von sich aus anbietet</translation>
+    </message>
+    <message>
+        <source>Reset entries of %1</source>
+        <translation>Einträge zurücksetzen: %1</translation>
+    </message>
+    <message>
+        <source>“%1” tells no %2. An example: %3</source>
+        <translation>„%1“ ist kein gültiger Wert für %2. Ein Beispiel: %3</translation>
+    </message>
+    <message>
+        <source>“%1” is in the list already.</source>
+        <translation>„%1“ steht schon in der Liste.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::EntryListBox</name>
+    <message>
+        <source>Remove (Delete)</source>
+        <translation>Entfernen (Entf)</translation>
+    </message>
+    <message>
+        <source>Move up (Alt+Up)</source>
+        <translation>Nach oben (Alt+Auf)</translation>
+    </message>
+    <message>
+        <source>Move down (Alt+Down)</source>
+        <translation>Nach unten (Alt+Ab)</translation>
+    </message>
+    <message>
+        <source>Entries of %1</source>
+        <translation>Einträge: %1</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
+    <message>
+        <source>Move %1 up</source>
+        <translation>%1 nach oben</translation>
+    </message>
+    <message>
+        <source>Move %1 down</source>
+        <translation>%1 nach unten</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::FileActions</name>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>&amp;Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>&amp;New from Built-in Presets</source>
+        <translation>&amp;Neu aus eingebauten Vorgaben</translation>
+    </message>
+    <message>
+        <source>&amp;Open…</source>
+        <translation>Ö&amp;ffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As…</source>
+        <translation>Speichern &amp;unter …</translation>
+    </message>
+    <message>
+        <source>Open Preset Document</source>
+        <translation>Vorgabendokument öffnen</translation>
+    </message>
+    <message>
+        <source>Preset documents (*.json);;All files (*)</source>
+        <translation>Vorgabendokumente (*.json);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Save Preset Document</source>
+        <translation>Vorgabendokument speichern</translation>
+    </message>
+    <message>
+        <source>presets.json</source>
+        <translation>vorgaben.json</translation>
+    </message>
+    <message>
+        <source>Preset documents (*.json)</source>
+        <translation>Vorgabendokumente (*.json)</translation>
+    </message>
+    <message>
+        <source>Unsaved Changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>Save the changes of &quot;%1&quot; first?</source>
+        <translation>Die Änderungen an „%1“ vorher speichern?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not saved: another program has changed it since it was opened.</source>
+        <translation>„%1“ wurde nicht gespeichert: Ein anderes Programm hat die Datei seit dem Öffnen geändert.</translation>
+    </message>
+    <message>
+        <source>O&amp;verwrite</source>
+        <translation>Über&amp;schreiben</translation>
+    </message>
+    <message>
+        <source>Another program has changed &quot;%1&quot;. What is shown here is as it was before.</source>
+        <translation>Ein anderes Programm hat „%1“ geändert. Hier ist der Stand von vorher zu sehen.</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::FindingTexts</name>
+    <message numerus="yes">
+        <source>%n preset(s)</source>
+        <translation>
+            <numerusform>%n Vorgabe</numerusform>
+            <numerusform>%n Vorgaben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, nothing wrong.</source>
+        <translation>%1, nichts zu beanstanden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n error(s)</source>
+        <translation>
+            <numerusform>%n Fehler</numerusform>
+            <numerusform>%n Fehler</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n warning(s)</source>
+        <translation>
+            <numerusform>%n Warnung</numerusform>
+            <numerusform>%n Warnungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1: %2, %3.</source>
+        <translation>%1: %2, %3.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The first %n are listed.</source>
+        <translation>
+            <numerusform>Der erste ist aufgeführt.</numerusform>
+            <numerusform>Die ersten %n sind aufgeführt.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n preset(s) imported from %1</source>
+        <translation>
+            <numerusform>%n Vorgabe aus %1 importiert</numerusform>
+            <numerusform>%n Vorgaben aus %1 importiert</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1; %2 left out, %3 became something like it.</source>
+        <translation>%1; %2 ausgelassen, %3 in Ähnliches übertragen.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::FindingsModel</name>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Wo</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Hinweis</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::FindingsPane</name>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Nothing was looked for yet: Presets &gt; Check looks at the document.</source>
+        <translation>Noch wurde nichts geprüft: Vorgaben &gt; Prüfen sieht sich das Dokument an.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::FormatTreeModel</name>
+    <message>
+        <source>A category cannot be moved into itself.</source>
+        <translation>Eine Kategorie lässt sich nicht in sich selbst verschieben.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::LimitsBox</name>
+    <message>
+        <source>Limits for every codec</source>
+        <translation>Grenzen für jeden Codec</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Limits of the size work only when both largest sides are given.</source>
+        <translation>Grenzen der Maße wirken nur, wenn beide größten Seiten angegeben sind.</translation>
+    </message>
+    <message>
+        <source>The smallest size is larger than the largest one.</source>
+        <translation>Die kleinsten Maße sind größer als die größten.</translation>
+    </message>
+    <message>
+        <source>The lowest bitrate is not below the highest one.</source>
+        <translation>Die niedrigste Bitrate liegt nicht unter der höchsten.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::ListRow</name>
+    <message>
+        <source>Add, remove and move the entries of this list</source>
+        <translation>Die Einträge dieser Liste hinzufügen, entfernen und verschieben</translation>
+    </message>
+    <message>
+        <source>Edit entries of %1</source>
+        <translation>Einträge bearbeiten: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::MessageBar</name>
+    <message>
+        <source>&amp;Close</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::OutcomeDrawings</name>
+    <message>
+        <source>Bitrate of the video</source>
+        <translation>Bitrate des Videos</translation>
+    </message>
+    <message>
+        <source>Bitrate of the sound</source>
+        <translation>Bitrate des Tons</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::OutcomeModel</name>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>Why</source>
+        <translation>Warum</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::OutcomeNotices</name>
+    <message>
+        <source>Warning (sound):</source>
+        <translation>Warnung (Ton):</translation>
+    </message>
+    <message>
+        <source>Warning (video):</source>
+        <translation>Warnung (Video):</translation>
+    </message>
+    <message>
+        <source>Gives way:</source>
+        <translation>Weicht ab:</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::OutcomePane</name>
+    <message>
+        <source>Warnings</source>
+        <translation>Warnungen</translation>
+    </message>
+    <message>
+        <source>Drop a video or sound file here, or open one, to see what this preset makes of it.</source>
+        <translation>Ziehen Sie eine Video- oder Tondatei hierher, oder öffnen Sie eine, um zu sehen, was diese Vorgabe daraus macht.</translation>
+    </message>
+    <message>
+        <source>Drop a video or sound file here, or open one, to see what it holds; with a preset chosen, also what becomes of it.</source>
+        <translation>Ziehen Sie eine Video- oder Tondatei hierher, oder öffnen Sie eine, um zu sehen, was sie enthält; mit einer gewählten Vorgabe auch, was daraus wird.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::OutcomeRows</name>
+    <message>
+        <source>Size</source>
+        <translation>Maße</translation>
+    </message>
+    <message>
+        <source>Displayed as</source>
+        <translation>Dargestellt als</translation>
+    </message>
+    <message>
+        <source>Frame rate</source>
+        <translation>Bildrate</translation>
+    </message>
+    <message>
+        <source>Pixel format</source>
+        <translation>Pixelformat</translation>
+    </message>
+    <message>
+        <source>Profile</source>
+        <translation>Profil</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Level</translation>
+    </message>
+    <message>
+        <source>Sample aspect</source>
+        <translation>Pixelverhältnis</translation>
+    </message>
+    <message>
+        <source>Bitrate</source>
+        <translation>Bitrate</translation>
+    </message>
+    <message>
+        <source>Highest bitrate</source>
+        <translation>Höchste Bitrate</translation>
+    </message>
+    <message>
+        <source>Lowest bitrate</source>
+        <translation>Niedrigste Bitrate</translation>
+    </message>
+    <message>
+        <source>Bitrate mode</source>
+        <translation>Bitratenmodus</translation>
+    </message>
+    <message>
+        <source>Codec tag</source>
+        <translation>Codeckennung</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation>Abtastrate</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>Sample format</source>
+        <translation>Abtastformat</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation>Ton</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Container</source>
+        <translation>Container</translation>
+    </message>
+    <message>
+        <source>the preset&apos;s</source>
+        <translation>aus der Vorgabe</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Size of the file</source>
+        <translation>Dateigröße</translation>
+    </message>
+    <message>
+        <source>predicted from the bitrates: %1</source>
+        <translation>aus den Bitraten vorhergesagt: %1</translation>
+    </message>
+    <message>
+        <source>%1: none in the source</source>
+        <translation>%1: in der Quelle nicht vorhanden</translation>
+    </message>
+    <message>
+        <source>Codec</source>
+        <translation>Codec</translation>
+    </message>
+    <message>
+        <source>left out</source>
+        <translation>ausgelassen</translation>
+    </message>
+    <message>
+        <source>the preset has no codec for it</source>
+        <translation>die Vorgabe hat keinen Codec dafür</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::OutcomeView</name>
+    <message>
+        <source>Source and output</source>
+        <translation>Quelle und Ausgabe</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::PresetActions</name>
+    <message>
+        <source>Chec&amp;k</source>
+        <translation>&amp;Prüfen</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <translation>&amp;Importieren …</translation>
+    </message>
+    <message>
+        <source>Import Presets</source>
+        <translation>Vorgaben importieren</translation>
+    </message>
+    <message>
+        <source>Presets of other programs (*.json *.gep);;All files (*)</source>
+        <translation>Vorgaben anderer Programme (*.json *.gep);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::PresetHeader</name>
+    <message>
+        <source>A preset keeps its container: make a new one for another.</source>
+        <translation>Eine Vorgabe behält ihren Container: Für einen anderen legen Sie eine neue an.</translation>
+    </message>
+    <message>
+        <source>Container</source>
+        <translation>Container</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>&amp;Icon</source>
+        <translation>&amp;Symbol</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>&amp;Description</source>
+        <translation>&amp;Beschreibung</translation>
+    </message>
+    <message>
+        <source>description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Eine Vorgabe braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>Unknown icon %1</source>
+        <translation>Unbekanntes Symbol %1</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::PresetPane</name>
+    <message>
+        <source>Pick a preset in the tree to see what it makes of a file, and to change it.</source>
+        <translation>Wählen Sie eine Vorgabe im Baum, um zu sehen, was sie aus einer Datei macht, und um sie zu ändern.</translation>
+    </message>
+    <message>
+        <source>Vide&amp;o</source>
+        <translation>Vide&amp;o</translation>
+    </message>
+    <message>
+        <source>&amp;Audio</source>
+        <translation>&amp;Ton</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::RecentFiles</name>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::SizeDrawing</name>
+    <message>
+        <source>Sizes to scale</source>
+        <translation>Maße im gleichen Maßstab</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::SizeWords</name>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Output</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>höchstens %1</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>mindestens %1</translation>
+    </message>
+    <message>
+        <source>stored as %1</source>
+        <translation>gespeichert als %1</translation>
+    </message>
+    <message>
+        <source>stretched</source>
+        <translation>verzerrt</translation>
+    </message>
+    <message>
+        <source>padded left and right</source>
+        <translation>links und rechts aufgefüllt</translation>
+    </message>
+    <message>
+        <source>padded above and below</source>
+        <translation>oben und unten aufgefüllt</translation>
+    </message>
+    <message>
+        <source>cut off left and right</source>
+        <translation>links und rechts beschnitten</translation>
+    </message>
+    <message>
+        <source>cut off above and below</source>
+        <translation>oben und unten beschnitten</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::SourceBar</name>
+    <message>
+        <source>Open &amp;Media…</source>
+        <translation>&amp;Medium öffnen …</translation>
+    </message>
+    <message>
+        <source>Opens a video or sound file; it can also be dropped here</source>
+        <translation>Öffnet eine Video- oder Tondatei; sie lässt sich auch hierher ziehen</translation>
+    </message>
+    <message>
+        <source>No source</source>
+        <translation>Keine Quelle</translation>
+    </message>
+    <message>
+        <source>Reading %1 …</source>
+        <translation>%1 wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Open Media</source>
+        <translation>Medium öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::StartLine</name>
+    <message>
+        <source>Shows, picks and edits the output presets of a media converter.</source>
+        <translation>Zeigt, wählt und bearbeitet die Ausgabevorgaben eines Medienkonverters.</translation>
+    </message>
+    <message>
+        <source>preset document to open</source>
+        <translation>zu öffnendes Vorgabendokument</translation>
+    </message>
+    <message>
+        <source>select the preset of that path, or the first whose path ends so</source>
+        <translation>die Vorgabe dieses Pfades wählen, oder die erste, deren Pfad so endet</translation>
+    </message>
+    <message>
+        <source>path</source>
+        <translation>Pfad</translation>
+    </message>
+    <message>
+        <source>open that media file</source>
+        <translation>diese Mediendatei öffnen</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>narrow the tree to what has these words</source>
+        <translation>den Baum auf das einengen, was diese Wörter hat</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>look for what is wrong with the document</source>
+        <translation>das Dokument prüfen</translation>
+    </message>
+    <message>
+        <source>light, dark or system</source>
+        <translation>light, dark oder system</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>language of the texts: en or de</source>
+        <translation>Sprache der Texte: en oder de</translation>
+    </message>
+    <message>
+        <source>code</source>
+        <translation>Kürzel</translation>
+    </message>
+    <message>
+        <source>size of the window, as 1400x900</source>
+        <translation>Größe des Fensters, etwa 1400x900</translation>
+    </message>
+    <message>
+        <source>size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>write a picture of the window to that file, and end</source>
+        <translation>ein Bild des Fensters in diese Datei schreiben und enden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no size, as 1400x900 is one.</source>
+        <translation>„%1“ ist keine Größe, wie es 1400x900 ist.</translation>
+    </message>
+    <message>
+        <source>There can be one document at a time.</source>
+        <translation>Es kann nur ein Dokument zugleich geben.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::StreamPage</name>
+    <message>
+        <source>%1 holds no pictures.</source>
+        <translation>%1 enthält keine Bilder.</translation>
+    </message>
+    <message>
+        <source>%1 holds no sound.</source>
+        <translation>%1 enthält keinen Ton.</translation>
+    </message>
+    <message>
+        <source>No codec is offered: outputs have no picture. Add one with “+”.</source>
+        <translation>Kein Codec wird angeboten: Ausgaben haben kein Bild. Fügen Sie mit „+“ einen hinzu.</translation>
+    </message>
+    <message>
+        <source>No codec is offered: outputs have no sound. Add one with “+”.</source>
+        <translation>Kein Codec wird angeboten: Ausgaben haben keinen Ton. Fügen Sie mit „+“ einen hinzu.</translation>
+    </message>
+    <message>
+        <source>No codec is chosen: outputs have no picture. Mark one in the list.</source>
+        <translation>Kein Codec ist gewählt: Ausgaben haben kein Bild. Markieren Sie einen in der Liste.</translation>
+    </message>
+    <message>
+        <source>No codec is chosen: outputs have no sound. Mark one in the list.</source>
+        <translation>Kein Codec ist gewählt: Ausgaben haben keinen Ton. Markieren Sie einen in der Liste.</translation>
+    </message>
+    <message>
+        <source>Auto stands for the first codec of the list that can be used.</source>
+        <translation>Auto steht für den ersten verwendbaren Codec der Liste.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::StudioDocument</name>
+    <message>
+        <source>Built-in presets</source>
+        <translation>Eingebaute Vorgaben</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::StudioWindow</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Open &amp;Media…</source>
+        <translation>&amp;Medium öffnen …</translation>
+    </message>
+    <message>
+        <source>&amp;Convert…</source>
+        <translation>&amp;Umwandeln …</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>R&amp;edo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Find Preset</source>
+        <translation>Vorgabe &amp;suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Presets</source>
+        <translation>&amp;Vorgaben</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Tree</source>
+        <translation>&amp;Baum</translation>
+    </message>
+    <message>
+        <source>&amp;Preset</source>
+        <translation>&amp;Vorgabe</translation>
+    </message>
+    <message>
+        <source>&amp;Outcome</source>
+        <translation>&amp;Ergebnis</translation>
+    </message>
+    <message>
+        <source>&amp;Findings</source>
+        <translation>Be&amp;funde</translation>
+    </message>
+    <message>
+        <source>Co&amp;lours</source>
+        <translation>Fa&amp;rben</translation>
+    </message>
+    <message>
+        <source>&amp;System</source>
+        <translation>&amp;System</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;About VXPresetStudio</source>
+        <translation>&amp;Über VXPresetStudio</translation>
+    </message>
+    <message>
+        <source>About VXPresetStudio</source>
+        <translation>Über VXPresetStudio</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;VXPresetStudio %1&lt;/h3&gt;&lt;p&gt;Shows, picks and edits the output presets of a media converter, and shows what a source becomes with them.&lt;/p&gt;&lt;p&gt;Qt %2&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;VXPresetStudio %1&lt;/h3&gt;&lt;p&gt;Zeigt, wählt und bearbeitet die Ausgabevorgaben eines Medienkonverters, und zeigt, was mit ihnen aus einer Quelle wird.&lt;/p&gt;&lt;p&gt;Qt %2&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Open Recent M&amp;edia</source>
+        <translation>Zuletzt geöffnete M&amp;edien</translation>
+    </message>
+    <message>
+        <source>Saved</source>
+        <translation>Gespeichert</translation>
+    </message>
+    <message>
+        <source>There is no preset &quot;%1&quot;.</source>
+        <translation>Es gibt keine Vorgabe „%1“.</translation>
+    </message>
+    <message>
+        <source>%1[*] - VXPresetStudio</source>
+        <translation>%1[*] - VXPresetStudio</translation>
+    </message>
+    <message>
+        <source>Reading or writing the document…</source>
+        <translation>Das Dokument wird gelesen oder geschrieben …</translation>
+    </message>
+    <message>
+        <source>the built-in presets</source>
+        <translation>den eingebauten Vorgaben</translation>
+    </message>
+    <message>
+        <source>The program ended unexpectedly. Changes of %1 were put by on %2.</source>
+        <translation>Das Programm ist unerwartet abgebrochen. Änderungen an %1 wurden am %2 aufgehoben.</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Conversion</source>
+        <translation>Umwandlung</translation>
+    </message>
+    <message>
+        <source>A conversion is running. Stop it and close?</source>
+        <translation>Eine Umwandlung läuft. Abbrechen und schließen?</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::TreeActions</name>
+    <message>
+        <source>New &amp;Preset</source>
+        <translation>&amp;Neue Vorgabe</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>C&amp;lone into Customised</source>
+        <translation>In „Customised“ &amp;klonen</translation>
+    </message>
+    <message>
+        <source>Move Do&amp;wn</source>
+        <translation>Nach u&amp;nten</translation>
+    </message>
+    <message>
+        <source>New C&amp;ategory</source>
+        <translation>Neue Ka&amp;tegorie</translation>
+    </message>
+    <message>
+        <source>New Category</source>
+        <translation>Neue Kategorie</translation>
+    </message>
+    <message>
+        <source>M&amp;ove Up</source>
+        <translation>Nach &amp;oben</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::TreeEditor</name>
+    <message>
+        <source>A name cannot be empty.</source>
+        <translation>Ein Name kann nicht leer sein.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already.</source>
+        <translation>„%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Delete &quot;%1&quot;</source>
+        <translation>„%1“ löschen</translation>
+    </message>
+    <message>
+        <source>Delete Selection</source>
+        <translation>Auswahl löschen</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Clone</source>
+        <translation>Klonen</translation>
+    </message>
+    <message>
+        <source>New Category</source>
+        <translation>Neue Kategorie</translation>
+    </message>
+    <message>
+        <source>New Preset</source>
+        <translation>Neue Vorgabe</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::TreePane</name>
+    <message>
+        <source>Search presets</source>
+        <translation>Vorgaben suchen</translation>
+    </message>
+    <message>
+        <source>Shows what has all of these words in its name, path or container</source>
+        <translation>Zeigt, was alle diese Wörter in Namen, Pfad oder Container hat</translation>
+    </message>
+    <message>
+        <source>Presets</source>
+        <translation>Vorgaben</translation>
+    </message>
+    <message>
+        <source>No preset has all of these words.
+Press Esc to see all presets.</source>
+        <translation>Keine Vorgabe hat alle diese Wörter.
+Esc zeigt wieder alle Vorgaben.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n preset(s) found</source>
+        <translation>
+            <numerusform>%n Vorgabe gefunden</numerusform>
+            <numerusform>%n Vorgaben gefunden</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>
