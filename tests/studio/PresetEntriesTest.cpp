@@ -251,6 +251,16 @@ TEST_F(PresetEntriesTest, ANumberOutsideTheListStaysSoWhenEntriesGo)
     EXPECT_EQ("640 ", Outline());
 }
 
+TEST_F(PresetEntriesTest, TheEditorBeginsWithTheCurrentEntryInSight)
+{
+    pane.resize(400, 300);
+    EXPECT_EQ(1, Entries("resolution").currentRow());
+    QCoreApplication::processEvents();
+    const auto bottom = Button(Row("resolution"), "reset").mapTo(&pane, QPoint()).y();
+    EXPECT_GT(bottom, 0);
+    EXPECT_LT(bottom, 300);
+}
+
 TEST_F(PresetEntriesTest, EscapeClosesTheEditor)
 {
     auto& input = Input("resolution");

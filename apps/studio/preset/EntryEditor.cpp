@@ -74,6 +74,15 @@ void EntryEditor::SetUpList()
     connect(reset, &QToolButton::clicked, this, &EntryEditor::Reset);
 }
 
+void EntryEditor::Open()
+{
+    Refresh();
+    if (const auto codec = m_session.Codec())
+        m_entries->Select(ValueEntries(*codec, m_family).Current());
+    m_message->Say({});
+    m_input->setFocus();
+}
+
 void EntryEditor::Refresh()
 {
     const auto codec = m_session.Codec();

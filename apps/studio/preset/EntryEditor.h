@@ -23,6 +23,8 @@ public:
     EntryEditor(CodecSession& session, const ListFamily& family, FieldManners& manners,
                 QWidget* parent = nullptr);
 
+    /// Begins with the current entry, and typing.
+    void Open();
     /// Shows the list as it is now.
     void Refresh();
 

@@ -11,6 +11,7 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QScrollArea>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -88,8 +89,16 @@ void ListRow::OpenEditor(bool isOpen)
     m_editor->setVisible(isOpen);
     if (!isOpen)
         return;
-    m_editor->Refresh();
-    m_editor->setFocus();
+    m_editor->Open();
+    // Where it lies is known when the layout has made room.
+    QMetaObject::invokeMethod(this, &ListRow::ScrollToEditor, Qt::QueuedConnection);
+}
+
+void ListRow::ScrollToEditor()
+{
+    for (auto* widget = parentWidget(); widget != nullptr; widget = widget->parentWidget())
+        if (auto* area = qobject_cast<QScrollArea*>(widget))
+            area->ensureWidgetVisible(m_editor);
 }
 
 void ListRow::CloseEditor()

@@ -36,6 +36,7 @@ private:
     void SetUpEditing();
     void Choose(int index);
     void OpenEditor(bool isOpen);
+    void ScrollToEditor();
     void CloseEditor();
 
     CodecSession& m_session;

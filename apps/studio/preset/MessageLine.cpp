@@ -29,7 +29,12 @@ void MessageLine::resizeEvent(QResizeEvent* event)
     KeepHeight();
 }
 
-// Layouts within layouts lose count of the lines that a text of that width takes.
-void MessageLine::KeepHeight() { setMinimumHeight(heightForWidth(width())); }
+// Layouts within layouts lose count of the lines that a text of that width takes. What is the minimum now
+// would be part of the answer.
+void MessageLine::KeepHeight()
+{
+    setMinimumHeight(0);
+    setMinimumHeight(heightForWidth(width()));
+}
 
 } // namespace Vexlor::Studio

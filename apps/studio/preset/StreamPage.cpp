@@ -31,8 +31,8 @@ StreamPage::StreamPage(PresetSession& session, Tool::StreamKind kind, FieldManne
     layout->addLayout(m_sides);
     layout->addWidget(m_limits);
     layout->addStretch(1);
-    m_sides->addWidget(m_codecs, 1, Qt::AlignTop);
-    m_sides->addLayout(side, 2);
+    m_sides->addWidget(m_codecs, 0, Qt::AlignTop);
+    m_sides->addLayout(side);
     connect(m_codecs, &CodecList::Opened, this, &StreamPage::RefreshPage);
 }
 
@@ -105,8 +105,10 @@ void StreamPage::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     const int both = m_codecs->sizeHint().width() + m_page->minimumSizeHint().width() + m_sides->spacing();
-    const bool isWide = contentsRect().width() > both + fontMetrics().averageCharWidth() * 12;
+    const bool isWide = contentsRect().width() > both + fontMetrics().averageCharWidth() * 4;
     m_sides->setDirection(isWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_sides->setStretch(0, isWide ? 1 : 0);
+    m_sides->setStretch(1, isWide ? 2 : 0);
 }
 
 } // namespace Vexlor::Studio
