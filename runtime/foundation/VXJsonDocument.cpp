@@ -4,6 +4,7 @@
 #include "runtime/foundation/VXLargePages.h"
 #include "runtime/foundation/VXPrefetch.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace Vexlor
@@ -251,8 +252,9 @@ simdjson::error_code VXJsonDocument::BuildViews()
 void VXJsonDocument::AppendChildren(std::size_t parent)
 {
     // Most of the time here goes by waiting for the tape, which is larger than the caches.
-    constexpr std::size_t kAhead = 2048;
+    constexpr std::ptrdiff_t kAhead = 256;
     const std::uint64_t* const tape = m_document.tape.get();
+    const std::uint64_t* const behindAll = tape + static_cast<std::uint32_t>(*tape);
     const std::uint64_t* const end = m_views[parent].End();
     const bool isArray = m_views[parent].IsA('[');
     const int name = isArray ? 0 : 1;
@@ -260,7 +262,7 @@ void VXJsonDocument::AppendChildren(std::size_t parent)
     for (const std::uint64_t* word = m_views[parent].m_word + 1; word != end; word = Behind(tape, word))
     {
         word += name;
-        Prefetch(word, kAhead);
+        Prefetch(word + std::min(kAhead, behindAll - word));
         if (isArray || IsContainer(*word))
             m_views.emplace_back(this, word);
     }

@@ -103,7 +103,7 @@ VXJsonMembers::~VXJsonMembers()
 VXJsonMembers::Far& VXJsonMembers::FarPart() const
 {
     Far* far = nullptr;
-    std::memcpy(&far, m_near.data(), sizeof far);
+    std::memcpy(&far, m_near.data(), sizeof(void*));
     return *far;
 }
 
@@ -120,7 +120,7 @@ VXJsonMembers::Far& VXJsonMembers::MakeFar()
         far->names.set(HashOf(member.name));
     m_size = kFar;
     Far* const address = far.release();
-    std::memcpy(m_near.data(), &address, sizeof address);
+    std::memcpy(m_near.data(), &address, sizeof(void*));
     return *address;
 }
 

@@ -49,7 +49,7 @@ void* CutAlone(std::size_t size)
 {
     Block* const block = NewBlock(sizeof(Block) + size);
     void* const piece = Cut(block, size);
-    Release(block, Block::kMost - 1);
+    block->count.store(1, std::memory_order_relaxed);
     return piece;
 }
 
