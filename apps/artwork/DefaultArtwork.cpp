@@ -2,14 +2,9 @@
 
 #include <QResource>
 
-namespace
-{
-
 // A linker takes the bytes out of a static library only where something names them; the macro has to stand in
-// no namespace of its own.
-void Register() { Q_INIT_RESOURCE(DefaultArtwork); }
-
-} // namespace
+// no namespace.
+static void Register() { Q_INIT_RESOURCE(DefaultArtwork); }
 
 namespace Vexlor::Tool
 {
