@@ -17,6 +17,17 @@ TEST_F(ArtworkLookup, FindsTheFirstGroupOfAFaceIdentifier)
     EXPECT_EQ("", Log());
 }
 
+TEST_F(ArtworkLookup, FindsTheFirstGroupInATableOfAnyOrder)
+{
+    FileBytes() =
+        FileOf({{9, BlobOf("nine")}, {5, BlobOf("five")}, {7, BlobOf("seven")}, {5, BlobOf("again")}});
+    const auto manager = Open();
+    EXPECT_EQ("0.0=nine", TextOf(manager->GetArtworkImageGroupByID(9)));
+    EXPECT_EQ("0.0=five", TextOf(manager->GetArtworkImageGroupByID(5)));
+    EXPECT_EQ("0.0=seven", TextOf(manager->GetArtworkImageGroupByID(7)));
+    EXPECT_EQ(nullptr, manager->GetArtworkImageGroupByID(6));
+}
+
 TEST_F(ArtworkLookup, AnUnknownFaceIdentifierIsLogged)
 {
     FileBytes() = FileOfGroups(1);

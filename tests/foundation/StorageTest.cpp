@@ -237,4 +237,14 @@ TEST_F(Storage, SizeFollowsTheFile)
     EXPECT_EQ(14U, reader->Size());
 }
 
+TEST_F(Storage, ReadFollowsAFileThatChangesMeanwhile)
+{
+    const auto reader = IVXStorage::MallocStorage(m_path, kRead);
+    EXPECT_EQ("01", Text(reader->Read(2)));
+    const auto writer = IVXStorage::MallocStorage(m_path, IVXStorage::StorageModeWrite);
+    EXPECT_TRUE(reader->Read(5)->Empty());
+    writer->WriteBytes("abcdefghijklmn", 14);
+    EXPECT_EQ("cdefghijklmn", Text(reader->Read(20)));
+}
+
 } // namespace Vexlor
