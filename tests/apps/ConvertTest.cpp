@@ -474,9 +474,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(std::pair("film.webm", "Video/MP4"), std::pair("film.webm", "Video/MKV"),
                     std::pair("film.webm", "Video/AVI"), std::pair("film.ts", "Video/TS"),
                     std::pair("film.mp4", "MOV ProRes Proxy"), std::pair("film.mp4", "General/For Editing"),
-                    std::pair("film.mp4", "MOV DNxHR LB"), std::pair("music.flac", "Audio/WAV"),
-                    std::pair("music.flac", "Audio/MP3"), std::pair("music.flac", "Audio/FLAC"),
-                    std::pair("music.mp3", "Audio/M4A")));
+                    std::pair("film.mp4", "MOV DNxHR LB"), std::pair("film.mp4", "Audio/WAV"),
+                    std::pair("music.flac", "Audio/WAV"), std::pair("music.flac", "Audio/MP3"),
+                    std::pair("music.flac", "Audio/FLAC"), std::pair("music.mp3", "Audio/M4A")));
 
 TEST(SizeCommand, FailsWhereNoFileCanBeMade)
 {

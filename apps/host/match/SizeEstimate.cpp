@@ -74,9 +74,10 @@ struct Spread
     double least;
     double most;
     double start = 0; ///< seconds of the bitrate that a stream may take beyond it, however short it is
+    double end = 0;   ///< seconds of it that a stream may lack
 };
 
-constexpr Spread kExact{1, 1};
+constexpr Spread kAsLong{1, 1, 0.1, 0.1}; // streams of a source end a packet or two apart
 constexpr Spread kConstant{0.95, 1.03, 0.1};
 constexpr Spread kVariableSound{0.75, 1.06, 0.1};
 constexpr Spread kVariablePicture{0.6, 1.1, 1};
@@ -105,7 +106,7 @@ Spread SpreadOf(const IVXCodecParameter& stream)
     constexpr int kConstantMode = 1;
     const int codec = stream.GetCodecID();
     if (Holds(kStored, codec))
-        return kExact;
+        return kAsLong;
     if (Holds(kOfContent, codec))
         return kLossless;
     if (codec == VXCodecID_ProRes)
@@ -120,7 +121,7 @@ SizeRange RangeOf(const IVXCodecParameter& stream, double seconds)
     const auto spread = SpreadOf(stream);
     const bool isOfProfile = Holds(kProfiled, stream.GetCodecID());
     const double perSecond = (isOfProfile ? TakenBitrate(stream) : stream.GetBitrate()) / kBitsOfByte;
-    return {perSecond * seconds * spread.least, perSecond * seconds,
+    return {perSecond * std::max(seconds * spread.least - spread.end, 0.0), perSecond * seconds,
             perSecond * (seconds * spread.most + spread.start)};
 }
 

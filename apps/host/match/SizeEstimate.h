@@ -32,9 +32,9 @@ struct SizeEstimate
 
 /// Predicts the size of an output from its bitrates.
 ///
-/// The range is that of the encoders' rate control: none for sound that is stored, a few percent for a
-/// constant bitrate, a fifth or more for a variable one, which simple pictures do not use up and short clips
-/// go beyond; lossless streams take what their content needs.
+/// The range is that of the encoders' rate control: a tenth of a second for what is stored, a few percent for
+/// a constant bitrate, a fifth or more for a variable one, which simple pictures do not use up and short
+/// clips go beyond; lossless streams take what their content needs.
 SizeEstimate EstimateSize(const IVXFormatParameter& output, double seconds);
 
 /// Whether the stream becomes smaller with a lower bitrate: what is stored, lossless or decided by a profile
