@@ -124,6 +124,57 @@ TEST_F(PresetPaneTest, EveryFieldHasANameForReadersOfTheScreen)
     }
 }
 
+struct MnemonicCase
+{
+    Qt::Key key;
+    const char* noun;
+};
+
+class Mnemonic : public PresetPaneTest, public testing::WithParamInterface<MnemonicCase>
+{
+};
+
+TEST_P(Mnemonic, LeadsToItsField)
+{
+    Page(0);
+    QTest::keyClick(&pane, GetParam().key, Qt::AltModifier);
+    EXPECT_TRUE(Combo(GetParam().noun).hasFocus());
+}
+
+constexpr MnemonicCase kMnemonics[] = {{Qt::Key_R, "resolution"},
+                                       {Qt::Key_Q, "quality"},
+                                       {Qt::Key_X, "pixel format"},
+                                       {Qt::Key_L, "level"},
+                                       {Qt::Key_S, "sample aspect"}};
+INSTANTIATE_TEST_SUITE_P(Keys, Mnemonic, testing::ValuesIn(kMnemonics),
+                         [](const auto& test) { return std::string(1, static_cast<char>(test.param.key)); });
+
+TEST_F(PresetPaneTest, TabGoesThroughAListAndItsEditor)
+{
+    Combo("resolution").setFocus();
+    QTest::keyClick(&Combo("resolution"), Qt::Key_Tab);
+    auto& edit = Button(Row("resolution"), "edit");
+    EXPECT_TRUE(edit.hasFocus());
+    QTest::keyClick(&edit, Qt::Key_Space);
+    auto& input = Input("resolution");
+    EXPECT_TRUE(input.hasFocus());
+    QTest::keyClick(&input, Qt::Key_Tab);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(Entries("resolution").hasFocus());
+}
+
+TEST_F(PresetPaneTest, TabGoesThroughTheCodecsAsTheyStand)
+{
+    Codecs().setFocus();
+    for (const auto* name : {"add", "remove", "up", "down"})
+    {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(name, QApplication::focusWidget()->objectName());
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(Combo("resolution").hasFocus());
+}
+
 TEST_F(PresetPaneTest, LeavesTakingBackToTheDocument)
 {
     auto& name = *pane.findChild<QLineEdit*>("name");

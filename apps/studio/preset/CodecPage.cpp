@@ -13,8 +13,7 @@ namespace Vexlor::Studio
 {
 
 CodecPage::CodecPage(CodecSession& session, FieldManners& manners, QWidget* parent)
-    : QWidget(parent), m_session(session), m_form(new QFormLayout(this)),
-      m_bitrate(new CustomBitrate(session, manners, this))
+    : QWidget(parent), m_session(session), m_form(new QFormLayout(this))
 {
     m_form->setContentsMargins(0, 0, 0, 0);
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
@@ -28,15 +27,26 @@ void CodecPage::AddRow(const ListFamily& family, FieldManners& manners)
 {
     auto* row = new ListRow(m_session, family, manners, this);
     if (family.kind == Tool::PresetListKind::Quality)
+    {
+        m_bitrate = new CustomBitrate(m_session, manners, row);
         row->AddBelow(*m_bitrate);
-    m_form->addRow(Label(family), row);
+    }
+    AddField(Label(family), *row);
     m_rows.push_back(row);
 }
 
 void CodecPage::AddAspect(FieldManners& manners)
 {
     m_aspect = new AspectRow(m_session, manners, this);
-    m_form->addRow(tr("&Sample aspect"), m_aspect);
+    AddField(tr("&Sample aspect"), *m_aspect);
+}
+
+// A mnemonic leads to no buddy that takes no focus of its own.
+void CodecPage::AddField(const QString& label, QWidget& field)
+{
+    m_form->addRow(label, &field);
+    if (auto* shown = qobject_cast<QLabel*>(m_form->labelForField(&field)))
+        shown->setBuddy(field.focusProxy());
 }
 
 void CodecPage::Refresh()

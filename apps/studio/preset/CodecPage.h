@@ -30,11 +30,12 @@ public:
 private:
     void AddRow(const ListFamily& family, FieldManners& manners);
     void AddAspect(FieldManners& manners);
+    void AddField(const QString& label, QWidget& field);
 
     CodecSession& m_session;
     QFormLayout* m_form;
     std::vector<ListRow*> m_rows;
-    CustomBitrate* m_bitrate;
+    CustomBitrate* m_bitrate = nullptr;
     AspectRow* m_aspect = nullptr;
 };
 

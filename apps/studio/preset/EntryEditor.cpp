@@ -42,6 +42,8 @@ EntryEditor::EntryEditor(CodecSession& session, const ListFamily& family, FieldM
     add->setFocusPolicy(Qt::StrongFocus);
     line->addWidget(add);
     connect(add, &QToolButton::clicked, this, &EntryEditor::Add);
+    setTabOrder(m_input, add);
+    setTabOrder(add, &m_entries->List());
     SetUpInput(manners);
     SetUpList();
     setFocusProxy(m_input);

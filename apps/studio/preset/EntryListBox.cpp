@@ -59,6 +59,10 @@ void EntryListBox::Select(int row)
 void EntryListBox::AddButton(QWidget& button, bool isFirst)
 {
     m_buttons->insertWidget(isFirst ? 0 : -1, &button);
+    if (!isFirst)
+        return;
+    setTabOrder(m_list, &button);
+    setTabOrder(&button, m_remove);
 }
 
 QToolButton& EntryListBox::NewButton(const char* name, const QString& tip)

@@ -19,8 +19,8 @@ namespace Vexlor::Studio
 {
 
 ListRow::ListRow(CodecSession& session, const ListFamily& family, FieldManners& manners, QWidget* parent)
-    : QWidget(parent), m_session(session), m_family(family), m_manners(manners),
-      m_layout(new QVBoxLayout(this)), m_entries(new QComboBox(this)), m_edit(new QToolButton(this))
+    : QWidget(parent), m_session(session), m_family(family), m_layout(new QVBoxLayout(this)),
+      m_entries(new QComboBox(this)), m_edit(new QToolButton(this))
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     auto* line = new QHBoxLayout;
@@ -35,6 +35,8 @@ ListRow::ListRow(CodecSession& session, const ListFamily& family, FieldManners& 
     manners.Teach(*m_entries);
     connect(m_entries, &QComboBox::activated, this, &ListRow::Choose);
     SetUpEditing();
+    if (family.IsEditable())
+        SetUpEditor(manners);
 }
 
 void ListRow::SetUpEditing()
@@ -50,7 +52,15 @@ void ListRow::SetUpEditing()
     m_edit->setFocusPolicy(Qt::StrongFocus);
     m_edit->setToolTip(tr("Add, remove and move the entries of this list"));
     m_edit->setAccessibleName(tr("Edit entries of %1").arg(Noun(m_family)));
+}
+
+void ListRow::SetUpEditor(FieldManners& manners)
+{
+    m_editor = new EntryEditor(m_session, m_family, manners, this);
+    m_editor->hide();
+    m_layout->addWidget(m_editor);
     connect(m_edit, &QToolButton::toggled, this, &ListRow::OpenEditor);
+    connect(m_editor, &EntryEditor::Closed, this, &ListRow::CloseEditor);
 }
 
 void ListRow::Refresh()
@@ -80,12 +90,6 @@ void ListRow::Choose(int index)
 
 void ListRow::OpenEditor(bool isOpen)
 {
-    if (m_editor == nullptr)
-    {
-        m_editor = new EntryEditor(m_session, m_family, m_manners, this);
-        m_layout->insertWidget(1, m_editor);
-        connect(m_editor, &EntryEditor::Closed, this, &ListRow::CloseEditor);
-    }
     m_editor->setVisible(isOpen);
     if (!isOpen)
         return;

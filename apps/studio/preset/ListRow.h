@@ -34,6 +34,7 @@ public:
 
 private:
     void SetUpEditing();
+    void SetUpEditor(FieldManners& manners);
     void Choose(int index);
     void OpenEditor(bool isOpen);
     void ScrollToEditor();
@@ -41,7 +42,6 @@ private:
 
     CodecSession& m_session;
     const ListFamily& m_family;
-    FieldManners& m_manners;
     QVBoxLayout* m_layout;
     QComboBox* m_entries;
     QToolButton* m_edit;
