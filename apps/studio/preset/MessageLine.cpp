@@ -2,6 +2,8 @@
 
 #include <QAccessible>
 
+#include <algorithm>
+
 namespace Vexlor::Studio
 {
 
@@ -34,7 +36,7 @@ void MessageLine::resizeEvent(QResizeEvent* event)
 void MessageLine::KeepHeight()
 {
     setMinimumHeight(0);
-    setMinimumHeight(heightForWidth(width()));
+    setMinimumHeight(std::max(0, heightForWidth(width())));
 }
 
 } // namespace Vexlor::Studio
