@@ -80,7 +80,8 @@ TEST_F(Edit, RemoveTakesSeveralOut)
 
 TEST_F(Edit, RemoveOfACategoryThatIsNotEmptyWantsToBeTold)
 {
-    EXPECT_EQ("\"Phones\" is not empty: 3 presets, 0 categories; --recursive removes them too\n", Refused({"remove", "Phones"}));
+    EXPECT_EQ("\"Phones\" is not empty: 3 presets, 0 categories; --recursive removes them too\n",
+              Refused({"remove", "Phones"}));
     EXPECT_EQ("removed Phones\n", Said({"remove", "Phones", "--recursive"}));
     EXPECT_EQ(R"({ "version": 7, "name": "Mine",
   "childList": [

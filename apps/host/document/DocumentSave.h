@@ -21,8 +21,8 @@ struct DocumentSaving
 void ChangeDocument(const std::string& path, const DocumentSaving& saving,
                     const std::function<std::string(const std::string& text)>& change);
 
-/// Writes a document that is not there yet. Throws Failure, among others where a file of that path is there or
-/// comes about meanwhile, which stays as it is.
+/// Writes a document that is not there yet. Throws Failure, among others where a file of that path is there
+/// or comes about meanwhile, which stays as it is.
 void MakeDocument(const std::string& path, const std::string& text);
 
 } // namespace Vexlor::Tool
