@@ -31,7 +31,7 @@ protected:
 
 private:
     std::optional<int> ValueOf(const QString& text) const;
-    QString NoneText() const { return tr("None"); }
+    static QString NoneText() { return tr("None"); }
 
     Unit m_unit;
 };

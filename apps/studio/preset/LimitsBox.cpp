@@ -101,7 +101,10 @@ void LimitsBox::AddRow(QFormLayout& form, const LimitPair& row, FieldManners& ma
     auto* line = new QHBoxLayout;
     auto& first = AddField(row, row.limits[0], manners);
     line->addWidget(&first, 1);
-    line->addWidget(new QLabel(QString::fromUtf8(row.between), this));
+    auto* between = new QLabel(QString::fromUtf8(row.between), this);
+    between->setAlignment(Qt::AlignCenter);
+    between->setFixedWidth(fontMetrics().averageCharWidth() * 2);
+    line->addWidget(between);
     line->addWidget(&AddField(row, row.limits[1], manners), 1);
     auto* label = new QLabel(Translated(row.label), this);
     label->setBuddy(&first);
