@@ -184,7 +184,6 @@ void BitrateBar::DrawMarks(QPainter& painter, const BitrateGeometry& geometry) c
 
 void BitrateBar::paintEvent(QPaintEvent*)
 {
-    constexpr int kBounds = 2;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const auto geometry = Geometry();
@@ -192,8 +191,10 @@ void BitrateBar::paintEvent(QPaintEvent*)
     DrawSource(painter, geometry);
     DrawBar(painter, geometry);
     DrawMarks(painter, geometry);
-    DrawLabels(painter, GradeLabels(geometry), LabelTop(0), false);
-    DrawLabels(painter, BoundLabels(geometry), LabelTop(kBounds), true);
+    const auto grades = GradeLabels(geometry);
+    const auto lines = grades.empty() ? 0 : static_cast<int>(grades.front().lines.size());
+    DrawLabels(painter, grades, LabelTop(0), false);
+    DrawLabels(painter, BoundLabels(geometry), LabelTop(lines), true);
     DrawFocus(*this, painter);
 }
 

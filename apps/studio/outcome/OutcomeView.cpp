@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QStringList>
 
@@ -58,7 +59,7 @@ void OutcomeView::AddActions()
 {
     auto* copy = new QAction(tr("Copy"), this);
     copy->setShortcut(QKeySequence::Copy);
-    connect(copy, &QAction::triggered, this, [this] { QApplication::clipboard()->setText(Text()); });
+    connect(copy, &QAction::triggered, this, &OutcomeView::Copy);
     auto* all = new QAction(tr("Select All"), this);
     all->setShortcut(QKeySequence::SelectAll);
     connect(all, &QAction::triggered, this, &OutcomeView::selectAll);
@@ -68,6 +69,27 @@ void OutcomeView::AddActions()
         addAction(action);
     }
     setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void OutcomeView::Copy() const { QApplication::clipboard()->setText(Text()); }
+
+// The window's own shortcuts leave these keys to the table that has the focus.
+bool OutcomeView::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy))
+    {
+        event->accept();
+        return true;
+    }
+    return QTableView::event(event);
+}
+
+void OutcomeView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy))
+        return Copy(); // the table itself would copy a single cell
+    QTableView::keyPressEvent(event);
 }
 
 QString OutcomeView::Text() const
@@ -104,6 +126,8 @@ void OutcomeView::Arrange()
     for (int column = 0; column < OutcomeModel::ColumnCount; ++column)
         setColumnHidden(column, column > OutcomeModel::Source && !m_model.HasOutput());
     const int width = viewport()->width();
+    if (!m_model.HasOutput())
+        return ShowSourceAlone(width);
     std::array<int, kValues.size()> widths{};
     std::ranges::transform(kValues, widths.begin(), [this](int column) { return WantedWidth(column); });
     const int reasons = width - std::accumulate(widths.begin(), widths.end(), 0);
@@ -114,9 +138,15 @@ void OutcomeView::Arrange()
         PutReasonsBelow(width);
     else
         setColumnWidth(OutcomeModel::Why, reasons);
-    SpanHeadings();
     FitRows();
-    updateGeometry();
+}
+
+void OutcomeView::ShowSourceAlone(int width)
+{
+    const int names = std::min(WantedWidth(OutcomeModel::Name), width / 2);
+    setColumnWidth(OutcomeModel::Name, names);
+    setColumnWidth(OutcomeModel::Source, width - names);
+    FitRows();
 }
 
 void OutcomeView::PutReasonsBelow(int width)
@@ -130,9 +160,11 @@ void OutcomeView::PutReasonsBelow(int width)
 void OutcomeView::FitRows()
 {
     constexpr int kBetween = 3; // so that lines of one row are nearer than rows
+    SpanHeadings();
     resizeRowsToContents();
     for (int row = 0; row < m_model.rowCount(); ++row)
         setRowHeight(row, rowHeight(row) + kBetween);
+    updateGeometry();
 }
 
 int OutcomeView::HeightOfRows() const { return horizontalHeader()->height() + verticalHeader()->length(); }

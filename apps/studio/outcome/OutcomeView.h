@@ -27,15 +27,19 @@ signals:
     void CurrentMoved(const QRect& row);
 
 protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 
 private:
     void AddActions();
+    void Copy() const;
     void Arrange();
     void SpanHeadings();
     void FitRows();
+    void ShowSourceAlone(int width);
     void PutReasonsBelow(int width);
     int WantedWidth(int column) const;
     int HeightOfRows() const;
