@@ -89,6 +89,14 @@ TEST_F(TreeEditorTest, NeverMovesACategoryIntoItself)
     EXPECT_EQ(0, document.Undo().count());
 }
 
+TEST_F(TreeEditorTest, MakesNoStepOfWhatStaysWhereItIs)
+{
+    editor.Move({Preset(0, 1)}, {At(0), 0, 1});
+    editor.Move({Preset(0, 2)}, {At(0)});
+    editor.Remove({});
+    EXPECT_EQ(0, document.Undo().count());
+}
+
 TEST_F(TreeEditorTest, NumbersANameThatIsTakenWhereItMovesTo)
 {
     SetName(Preset(1, 0), "a1");

@@ -45,6 +45,9 @@ DocumentContent ReadContent(const std::string& path)
     if (basis->text.find_first_not_of(" \t\r\n") != basis->text.find('{'))
         throw Tool::Failure(path + ": is not a preset document");
     auto root = IVXFormatNode::MallocFormatNode(json);
+    const bool isEmpty = root->ChildCount() + root->FormatPresetCount() == 0;
+    if (isEmpty && json->GetValueArray("PresetList")->Size() > 0)
+        throw Tool::Failure(path + ": holds presets of another program, which can be imported");
     Tool::TakeUpQualities(*root, *json);
     basis->plan = PlanOf(root, [](const auto&) { return true; });
     return {std::move(root), std::move(basis)};

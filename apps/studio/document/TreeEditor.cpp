@@ -55,6 +55,8 @@ QString TreeEditor::Rename(const TreeItem& item, const QString& name)
 
 void TreeEditor::Remove(const Items& items)
 {
+    if (items.empty())
+        return;
     const UndoMacro macro(m_document.Undo(), items.size() == 1
                                                  ? tr("Delete \"%1\"").arg(NameOf(items.front()))
                                                  : tr("Delete Selection"));
@@ -68,10 +70,19 @@ bool TreeEditor::Move(const Items& items, DropPlace to)
     const auto isInside = [&to](const TreeItem& item) { return item.category && Holds(item, to.parent); };
     if (std::ranges::any_of(items, isInside))
         return false;
+    if (items.empty() || (items.size() == 1 && IsThere(items.front(), to)))
+        return true;
     const UndoMacro macro(m_document.Undo(), tr("Move"));
     for (const auto& item : items)
         MoveOne(item, to);
     return true;
+}
+
+bool TreeEditor::IsThere(const TreeItem& item, DropPlace place) const
+{
+    const auto from = m_document.Tree().PlaceOf(item);
+    const int index = std::min(IndexFor(item, place), CountLike(*place.parent, item));
+    return from.parent == place.parent && (index == from.index || index == from.index + 1);
 }
 
 void TreeEditor::MoveOne(const TreeItem& item, DropPlace& to)

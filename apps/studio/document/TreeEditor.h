@@ -56,6 +56,7 @@ public:
 private:
     TreeItem OwnCategory();
     void Insert(const TreeItem& item, const TreePlace& place);
+    bool IsThere(const TreeItem& item, DropPlace place) const;
     void MoveOne(const TreeItem& item, DropPlace& to);
     void Absorb(const std::shared_ptr<IVXFormatNode>& into, IVXFormatNode& node, Items& presets);
 

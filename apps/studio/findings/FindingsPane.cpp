@@ -7,10 +7,19 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace Vexlor::Studio
 {
+
+namespace
+{
+
+constexpr int kRowMargin = 8;
+constexpr int kMostCharacters = 60; // of a path, beside which there has to be room for what is wrong
+
+} // namespace
 
 FindingsPane::FindingsPane(QWidget* parent)
     : QWidget(parent), m_model(new FindingsModel(this)), m_summary(new QLabel(this)),
@@ -27,6 +36,7 @@ FindingsPane::FindingsPane(QWidget* parent)
     m_view->setTabKeyNavigation(false);
     m_view->setWordWrap(false);
     m_view->verticalHeader()->hide();
+    m_view->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowMargin);
     m_view->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_view->horizontalHeader()->setStretchLastSection(true);
     m_view->horizontalHeader()->setHighlightSections(false);
@@ -46,8 +56,9 @@ void FindingsPane::Show(const QString& summary, Findings findings)
     m_model->SetFindings(std::move(findings));
     m_view->resizeColumnToContents(FindingsModel::KindColumn);
     m_view->resizeColumnToContents(FindingsModel::WhereColumn);
+    const int most = fontMetrics().averageCharWidth() * kMostCharacters;
     m_view->setColumnWidth(FindingsModel::WhereColumn,
-                           std::min(m_view->columnWidth(FindingsModel::WhereColumn), width() / 2));
+                           std::min(m_view->columnWidth(FindingsModel::WhereColumn), most));
 }
 
 void FindingsPane::Clear()

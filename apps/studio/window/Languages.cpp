@@ -12,7 +12,9 @@ Languages::Languages(const QString& code)
     const auto locale = code.isEmpty() ? QLocale::system() : QLocale(code);
     if (!code.isEmpty())
         QLocale::setDefault(locale);
-    if (m_ours.load(locale, "vxpresetstudio", "_", ":/translations"))
+    const auto load = [this](const QLocale& wanted)
+    { return m_ours.load(wanted, "vxpresetstudio", "_", ":/translations"); };
+    if (load(locale) || load(QLocale::English)) // which has plurals
         QCoreApplication::installTranslator(&m_ours);
     if (m_qt.load(locale, "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&m_qt);

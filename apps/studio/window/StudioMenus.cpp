@@ -47,7 +47,7 @@ void StudioWindow::MakeEditMenu()
     auto* undo = m_document.Undo().createUndoAction(this, tr("&Undo"));
     undo->setShortcut(QKeySequence::Undo);
     auto* redo = m_document.Undo().createRedoAction(this, tr("R&edo"));
-    redo->setShortcuts({QKeySequence(QKeySequence::Redo), QKeySequence("Ctrl+Y")});
+    redo->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
     menu.addActions({undo, redo});
     menu.addSeparator();
     m_treeActions->AddTo(menu);

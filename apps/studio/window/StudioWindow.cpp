@@ -24,6 +24,7 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace Vexlor::Studio
@@ -58,6 +59,7 @@ StudioWindow::StudioWindow(QWidget* parent)
     Connect();
     RestoreState();
     ShowState();
+    m_tree->View().setFocus();
 }
 
 // The panes look at the document, which goes first otherwise.
@@ -161,7 +163,11 @@ void StudioWindow::ShowState()
 // Nothing may be changed while a document is read or written.
 void StudioWindow::SetBusy(bool isBusy)
 {
+    if (isBusy)
+        m_focus = focusWidget();
     centralWidget()->setEnabled(!isBusy);
+    if (!isBusy && m_focus)
+        m_focus->setFocus();
     if (isBusy)
         statusBar()->showMessage(tr("Reading or writing the document…"));
     else

@@ -6,6 +6,7 @@
 #include "apps/studio/tree/FaceIcons.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
 class QDockWidget;
 class QSplitter;
@@ -84,6 +85,7 @@ private:
     FileActions* m_files;
     PresetActions* m_presets;
     TreeActions* m_treeActions;
+    QPointer<QWidget> m_focus; // where the keyboard was before the panes were locked
     bool m_mayClose = false;
 };
 

@@ -1,6 +1,7 @@
 #include "Themes.h"
 
 #include <QApplication>
+#include <QPalette>
 #include <QStyle>
 
 #include <array>
@@ -57,13 +58,14 @@ QPalette PaletteOf(bool isDark)
 
 } // namespace
 
-Themes::Themes() : m_systemPalette(QApplication::palette()), m_systemStyle(QApplication::style()->name()) {}
+Themes::Themes() : m_systemStyle(QApplication::style()->name()) {}
 
 void Themes::Use(Theme theme) const
 {
     const bool isSystem = theme == Theme::System;
     QApplication::setStyle(isSystem ? m_systemStyle : QStringLiteral("fusion"));
-    QApplication::setPalette(isSystem ? m_systemPalette : PaletteOf(theme == Theme::Dark));
+    // An empty palette is the system's, and follows it.
+    QApplication::setPalette(isSystem ? QPalette() : PaletteOf(theme == Theme::Dark));
 }
 
 Theme Themes::ThemeOf(const QString& name)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QPalette>
 #include <QString>
 
 namespace Vexlor::Studio
@@ -17,7 +16,7 @@ enum class Theme
 class Themes
 {
 public:
-    /// Keeps what the system has set, which Theme::System brings back. Made after the QApplication.
+    /// Keeps the style that the system has set, which Theme::System brings back. Made after the QApplication.
     Themes();
 
     void Use(Theme theme) const;
@@ -27,7 +26,6 @@ public:
     static QString NameOf(Theme theme);
 
 private:
-    QPalette m_systemPalette;
     QString m_systemStyle;
 };
 

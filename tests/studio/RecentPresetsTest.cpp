@@ -1,0 +1,96 @@
+#include "apps/studio/document/RecentPresets.h"
+
+#include "apps/studio/document/StudioDocument.h"
+#include "apps/studio/document/TreeEditor.h"
+
+#include "IVXArtworkImageMgr.h"
+#include "IVXFormatNode.h"
+#include "IVXFormatPreset.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace Vexlor;
+using namespace Vexlor::Studio;
+
+std::shared_ptr<IVXFormatPreset> Named(const std::string& name)
+{
+    auto preset = IVXFormatPreset::MallocFormatPreset("WAV", "");
+    preset->SetName(name);
+    return preset;
+}
+
+std::string NamesIn(IVXFormatNode& category)
+{
+    std::string names;
+    for (int i = 0; i < category.FormatPresetCount(); ++i)
+        names += category.GetFormatPreset(i)->Name() + ' ';
+    return names;
+}
+
+class RecentPresetsTest : public testing::Test
+{
+protected:
+    std::string Recent() { return NamesIn(*document.Root()->FindChild("Recently Used")); }
+
+    StudioDocument document;
+};
+
+TEST_F(RecentPresetsTest, HaveTheNewestFirst)
+{
+    document.NoteUsed(*Named("a"));
+    document.NoteUsed(*Named("b"));
+    EXPECT_EQ("b a ", Recent());
+}
+
+TEST_F(RecentPresetsTest, HaveNothingTwice)
+{
+    for (const auto* name : {"a", "b", "a"})
+        document.NoteUsed(*Named(name));
+    EXPECT_EQ("a b ", Recent());
+}
+
+TEST_F(RecentPresetsTest, AreCopies)
+{
+    const auto preset = Named("a");
+    document.NoteUsed(*preset);
+    EXPECT_NE(preset, document.Root()->FindChild("Recently Used")->FirstFormatPreset());
+}
+
+TEST_F(RecentPresetsTest, AreNotMoreThanTheBound)
+{
+    for (int i = 0; i < kMostRecentPresets + 3; ++i)
+        document.NoteUsed(*Named(std::to_string(i)));
+    const auto category = document.Root()->FindChild("Recently Used");
+    EXPECT_EQ(kMostRecentPresets, category->FormatPresetCount());
+    EXPECT_EQ(std::to_string(3), category->LastFormatPreset()->Name());
+}
+
+TEST_F(RecentPresetsTest, GetTheirCategoryWhereThereIsNone)
+{
+    document.Tree().Remove({document.Root()->FindChild("Recently Used")}, document.Root());
+    document.NoteUsed(*Named("a"));
+    EXPECT_EQ(IVXArtworkImageMgr::CategoryFaceIDRecentList,
+              document.Root()->FindChild("Recently Used")->FaceID());
+}
+
+TEST_F(RecentPresetsTest, AreNoStepAndNothingToLoseInTheBuiltInPresets)
+{
+    document.NoteUsed(*Named("a"));
+    EXPECT_EQ(0, document.Undo().count());
+    EXPECT_FALSE(document.IsModified());
+}
+
+TEST_F(RecentPresetsTest, OutliveTheUndoingOfAStep)
+{
+    TreeEditor editor(document);
+    document.NoteUsed(*Named("a"));
+    editor.Remove({{{}, document.Root()->FindChild("Recently Used")->FirstFormatPreset()}});
+    document.NoteUsed(*Named("b"));
+    document.Undo().undo();
+    EXPECT_EQ("a b ", Recent());
+}
+
+} // namespace

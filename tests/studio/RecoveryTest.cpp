@@ -1,0 +1,138 @@
+#include "apps/studio/document/Recovery.h"
+
+#include "apps/studio/document/StudioDocument.h"
+#include "apps/studio/document/TreeEditor.h"
+
+#include "IVXFormatNode.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace Vexlor;
+using namespace Vexlor::Studio;
+
+class RecoveryTest : public testing::Test
+{
+protected:
+    RecoveryTest() { QDir(Recovery::Folder()).removeRecursively(); }
+
+    static void Change(StudioDocument& document)
+    {
+        TreeEditor(document).AddCategory(document.Root(), "Precious");
+    }
+
+    static void KeepNow(Recovery& recovery)
+    {
+        QSignalSpy kept(&recovery, &Recovery::Kept);
+        recovery.Keep();
+        ASSERT_TRUE(kept.wait());
+    }
+
+    static QStringList Copies() { return QDir(Recovery::Folder()).entryList({"*.json"}); }
+
+    /// What is left when a program with that change does not end in order: its files but for the lock.
+    static void Crash()
+    {
+        StudioDocument document;
+        Recovery recovery(document);
+        Change(document);
+        KeepNow(recovery);
+        const QDir folder(Recovery::Folder());
+        for (const auto& copy : folder.entryInfoList({"*.json", "*.path"}))
+            QFile::copy(copy.filePath(), folder.filePath("crashed." + copy.suffix()));
+    }
+};
+
+TEST_F(RecoveryTest, KeepsACopyAfterAChange)
+{
+    StudioDocument document;
+    Recovery recovery(document);
+    QSignalSpy kept(&recovery, &Recovery::Kept);
+    recovery.SetDelay(1);
+    EXPECT_TRUE(Copies().isEmpty());
+    Change(document);
+    ASSERT_TRUE(kept.wait());
+    EXPECT_EQ(1, Copies().size());
+}
+
+TEST_F(RecoveryTest, RemovesTheCopyWhenThereIsNothingToLose)
+{
+    StudioDocument document;
+    Recovery recovery(document);
+    Change(document);
+    KeepNow(recovery);
+    document.Undo().undo();
+    EXPECT_TRUE(Copies().isEmpty());
+}
+
+TEST_F(RecoveryTest, LeavesNothingWhenItEndsInOrder)
+{
+    {
+        StudioDocument document;
+        Recovery recovery(document);
+        Change(document);
+        KeepNow(recovery);
+    }
+    EXPECT_TRUE(Copies().isEmpty());
+    EXPECT_FALSE(Recovery::FindLost());
+}
+
+TEST_F(RecoveryTest, DoesNotTakeTheCopyOfAProgramThatRuns)
+{
+    StudioDocument document;
+    Recovery recovery(document);
+    Change(document);
+    KeepNow(recovery);
+    EXPECT_FALSE(Recovery::FindLost());
+}
+
+TEST_F(RecoveryTest, FindsWhatACrashHasLeft)
+{
+    Crash();
+    const auto lost = Recovery::FindLost();
+    ASSERT_TRUE(lost);
+    EXPECT_EQ("", lost->path);
+    EXPECT_LT(lost->saved.secsTo(QDateTime::currentDateTime()), 60);
+}
+
+TEST_F(RecoveryTest, RestoresItAsChangesThatAreToBeSaved)
+{
+    Crash();
+    StudioDocument document;
+    Recovery recovery(document);
+    EXPECT_EQ("", recovery.Recover(*Recovery::FindLost()));
+    EXPECT_TRUE(document.Root()->FindChild("Precious"));
+    EXPECT_TRUE(document.IsModified());
+    EXPECT_FALSE(Recovery::FindLost());
+}
+
+TEST_F(RecoveryTest, DiscardsIt)
+{
+    Crash();
+    Recovery::Discard(*Recovery::FindLost());
+    EXPECT_FALSE(Recovery::FindLost());
+    EXPECT_TRUE(Copies().isEmpty());
+}
+
+TEST_F(RecoveryTest, TellsWhyACopyCannotBeRestored)
+{
+    Crash();
+    const auto lost = Recovery::FindLost();
+    QFile file(lost->recovery);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("{");
+    file.close();
+    StudioDocument document;
+    Recovery recovery(document);
+    EXPECT_NE("", recovery.Recover(*lost));
+    EXPECT_FALSE(document.Root()->FindChild("Precious"));
+}
+
+} // namespace

@@ -1,0 +1,293 @@
+#include "apps/studio/window/StudioWindow.h"
+
+#include "apps/studio/outcome/OutcomePane.h"
+#include "apps/studio/tree/TreePane.h"
+#include "apps/studio/window/FileActions.h"
+#include "apps/studio/window/PresetActions.h"
+#include "apps/studio/window/StartOptions.h"
+#include "tests/media/MediaMaker.h"
+
+#include "IVXFormatNode.h"
+#include "IVXFormatPreset.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QTreeView>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace Vexlor;
+using namespace Vexlor::Studio;
+
+/// The main stories, told with keys and clicks.
+class StudioWindowTest : public testing::Test
+{
+protected:
+    StudioWindowTest()
+    {
+        QSettings().clear();
+        QDir(Recovery::Folder()).removeRecursively();
+        window = std::make_unique<StudioWindow>();
+        window->show();
+        window->activateWindow(); // or shortcuts lead nowhere
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    }
+
+    template <typename Widget>
+    Widget& The(const char* name)
+    {
+        auto* widget = window->findChild<Widget*>(name);
+        EXPECT_NE(nullptr, widget) << name;
+        return *widget;
+    }
+
+    /// Answers the next message box with that button.
+    void AnswerNext(QMessageBox::StandardButton button)
+    {
+        QTimer::singleShot(50, window.get(),
+                           [button]
+                           {
+                               auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                               ASSERT_NE(nullptr, box);
+                               QTest::mouseClick(box->button(button), Qt::LeftButton);
+                           });
+    }
+
+    void Open(const QString& path)
+    {
+        QSignalSpy opened(&window->Files().Files(), &DocumentFiles::Opened);
+        window->Files().Open(path);
+        ASSERT_TRUE(opened.wait());
+    }
+
+    void SaveTo(const QString& path)
+    {
+        QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
+        window->Files().Files().Save(path, true);
+        ASSERT_TRUE(saved.wait());
+    }
+
+    void FindAndSelect(const QString& text)
+    {
+        QTest::keyClicks(&The<QLineEdit>("search"), text);
+        QTest::keyClick(&The<QLineEdit>("search"), Qt::Key_Return);
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<StudioWindow> window;
+};
+
+TEST_F(StudioWindowTest, FindsAPresetAndShowsIt)
+{
+    FindAndSelect("more webm");
+    const auto current = window->Tree().Current();
+    ASSERT_TRUE(current.IsPreset());
+    EXPECT_EQ("WEBM", current.preset->FormatName());
+}
+
+TEST_F(StudioWindowTest, EditsANameUndoesAndRedoesIt)
+{
+    FindAndSelect("mkv");
+    const auto preset = window->Tree().Current().preset;
+    const auto before = preset->Name();
+    window->Document().EditPreset(preset, "Name", [](IVXFormatPreset& changed) { changed.SetName("Mine"); });
+    EXPECT_TRUE(window->isWindowModified());
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(before, preset->Name());
+    EXPECT_FALSE(window->isWindowModified());
+    QTest::keyClick(window.get(), Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ("Mine", preset->Name());
+}
+
+TEST_F(StudioWindowTest, MatchesAClip)
+{
+    QSignalSpy opened(&window->Outcome(), &OutcomePane::SourceOpened);
+    const auto clip = QString::fromStdString(Media::Clip("film.mp4"));
+    window->Outcome().OpenSource(clip);
+    ASSERT_TRUE(opened.wait(30000));
+    window->Tree().SelectByPath("Video/MP4");
+    auto* view = window->Outcome().findChild<QAbstractItemView*>();
+    ASSERT_NE(nullptr, view);
+    EXPECT_TRUE(QTest::qWaitFor([view] { return view->model()->rowCount() > 10; }));
+}
+
+TEST_F(StudioWindowTest, SavesAndOpensAgain)
+{
+    const auto path = folder.filePath("mine.json");
+    window->Tree().SelectByPath("Video/MP4");
+    window->Document().EditPreset(window->Tree().Current().preset, "Bounds",
+                                  [](IVXFormatPreset& preset) { preset.SetMaxWidth(640); });
+    SaveTo(path);
+    EXPECT_FALSE(window->isWindowModified());
+    EXPECT_TRUE(window->windowTitle().startsWith("mine.json"));
+    Open(path);
+    window->Tree().SelectByPath("Video/MP4");
+    EXPECT_EQ(640, window->Tree().Current().preset->MaxWidth());
+}
+
+TEST_F(StudioWindowTest, AsksBeforeChangesAreLost)
+{
+    window->Tree().SelectByPath("Video/MP4");
+    QTest::keyClick(&window->Tree().View(), Qt::Key_Delete);
+    AnswerNext(QMessageBox::Cancel);
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(window->isVisible());
+    AnswerNext(QMessageBox::Discard);
+    window->close();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }));
+}
+
+TEST_F(StudioWindowTest, SavesOnCloseWhenToldTo)
+{
+    const auto path = folder.filePath("mine.json");
+    SaveTo(path);
+    window->Tree().SelectByPath("Video/MP4");
+    QTest::keyClick(&window->Tree().View(), Qt::Key_Delete);
+    AnswerNext(QMessageBox::Save);
+    window->close();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }));
+    const auto root = ReadContent(path.toStdString()).root;
+    EXPECT_FALSE(root->FindChild("Video")->FindFormatPreset("MP4"));
+}
+
+TEST_F(StudioWindowTest, OffersWhatACrashHasLeft)
+{
+    window->Tree().SelectByPath("Video/MP4");
+    QTest::keyClick(&window->Tree().View(), Qt::Key_Delete);
+    QSignalSpy kept(&window->Lost(), &Recovery::Kept);
+    window->Lost().Keep();
+    ASSERT_TRUE(kept.wait());
+    const QDir recovery(Recovery::Folder());
+    for (const auto& copy : recovery.entryInfoList({"*.json", "*.path"}))
+        QFile::copy(copy.filePath(), recovery.filePath("crashed." + copy.suffix()));
+
+    StudioWindow next;
+    next.show();
+    next.Start({});
+    auto& bar = *next.findChild<QWidget*>("messageBar");
+    ASSERT_TRUE(bar.isVisible());
+    for (auto* button : bar.findChildren<QPushButton*>())
+        if (button->text() == "&Restore")
+            QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_FALSE(next.Document().Root()->FindChild("Video")->FindFormatPreset("MP4"));
+    EXPECT_TRUE(next.isWindowModified());
+    next.Document().SetContent(BuiltInContent(), {});
+}
+
+TEST_F(StudioWindowTest, LeadsFromAFindingToItsPreset)
+{
+    window->Tree().SelectByPath("Video/MKV");
+    const auto preset = window->Tree().Current().preset;
+    window->Document().EditPreset(preset, "Bounds",
+                                  [](IVXFormatPreset& changed)
+                                  {
+                                      changed.SetMaxWidth(100);
+                                      changed.SetMinWidth(200);
+                                  });
+    window->Tree().SelectByPath("Video/MP4");
+    QSignalSpy found(&window->Presets(), &PresetActions::Found);
+    QTest::keyClick(window.get(), Qt::Key_F7);
+    ASSERT_TRUE(found.wait());
+    auto& view = The<QTableView>("findings");
+    ASSERT_TRUE(QTest::qWaitFor([&view] { return view.isVisible() && view.model()->rowCount() > 0; }));
+    view.setCurrentIndex(view.model()->index(0, 0));
+    QTest::keyClick(&view, Qt::Key_Return);
+    EXPECT_EQ(preset, window->Tree().Current().preset);
+}
+
+TEST_F(StudioWindowTest, ImportsPresetsAndSelectsThem)
+{
+    QSignalSpy imported(&window->Presets(), &PresetActions::Imported);
+    const auto path = folder.filePath("theirs.json");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(
+        R"({"PresetList": [{"PresetName": "Theirs", "FileFormat": "av_mp4", "VideoEncoder": "x264"}]})");
+    file.close();
+    window->Presets().Import(path);
+    ASSERT_TRUE(imported.wait());
+    EXPECT_EQ("Theirs", NameOf(window->Tree().Current()));
+    EXPECT_EQ("Import", window->Document().Undo().undoText());
+}
+
+TEST_F(StudioWindowTest, KeepsWhatWasConvertedAsRecentlyUsed)
+{
+    window->Tree().SelectByPath("Video/MKV");
+    emit window->Outcome().ConversionDone(window->Tree().Current().preset);
+    const auto recent = window->Document().Root()->FindChild("Recently Used");
+    ASSERT_EQ(1, recent->FormatPresetCount());
+    EXPECT_EQ("MKV", recent->FirstFormatPreset()->Name());
+}
+
+TEST_F(StudioWindowTest, CopiesByTheKeyboard)
+{
+    window->Tree().SelectByPath("Video/MP4");
+    QTest::keyClick(&window->Tree().View(), Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(&window->Tree().View(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ("MP4 2", NameOf(window->Tree().Current()));
+    QTest::keyClick(&window->Tree().View(), Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ("Customised", window->Document().Tree().ParentOf(window->Tree().Current())->Name());
+}
+
+TEST_F(StudioWindowTest, MovesByTheKeyboard)
+{
+    window->Tree().SelectByPath("Video/MP4");
+    const auto item = window->Tree().Current();
+    QTest::keyClick(&window->Tree().View(), Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(1, window->Document().Tree().PlaceOf(item).index);
+    EXPECT_EQ(item, window->Tree().Current());
+}
+
+TEST_F(StudioWindowTest, HasNoShortcutTwice)
+{
+    QStringList shortcuts;
+    for (const auto* action : window->findChildren<QAction*>())
+        if (action->shortcutContext() == Qt::WindowShortcut) // others work where the keyboard is
+            for (const auto& shortcut : action->shortcuts())
+                shortcuts.append(shortcut.toString());
+    auto once = shortcuts;
+    once.removeDuplicates();
+    shortcuts.sort();
+    EXPECT_EQ(once.size(), shortcuts.size()) << qPrintable(shortcuts.join(' '));
+}
+
+TEST_F(StudioWindowTest, HasAMnemonicOfItsOwnForEachEntryOfAMenu)
+{
+    for (const auto* bar : window->menuBar()->actions())
+    {
+        QStringList letters;
+        for (const auto* action : bar->menu()->actions())
+            if (const auto at = action->text().indexOf('&'); at >= 0)
+                letters.append(action->text().mid(at + 1, 1).toLower());
+        auto once = letters;
+        once.removeDuplicates();
+        EXPECT_EQ(once, letters) << qPrintable(bar->text());
+    }
+}
+
+TEST_F(StudioWindowTest, KeepsItsSize)
+{
+    window->resize(1111, 777);
+    window->close();
+    const StudioWindow next;
+    EXPECT_EQ(QSize(1111, 777), next.size());
+}
+
+} // namespace

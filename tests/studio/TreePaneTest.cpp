@@ -1,0 +1,134 @@
+#include "apps/studio/tree/TreePane.h"
+
+#include "apps/studio/document/StudioDocument.h"
+#include "apps/studio/tree/FaceIcons.h"
+#include "apps/studio/tree/FormatFilterModel.h"
+
+#include "IVXFormatNode.h"
+#include "IVXFormatPreset.h"
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTreeView>
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace Vexlor;
+using namespace Vexlor::Studio;
+
+class TreePaneTest : public testing::Test
+{
+protected:
+    TreePaneTest()
+    {
+        pane.resize(300, 600);
+        pane.show();
+    }
+
+    QLineEdit& Search() { return *pane.findChild<QLineEdit*>("search"); }
+    QLabel& Count() { return *pane.findChild<QLabel*>("searchCount"); }
+    QAbstractItemModel& Shown() { return *pane.View().model(); }
+
+    StudioDocument document;
+    FaceIcons icons;
+    TreePane pane{document, icons};
+};
+
+TEST_F(TreePaneTest, NarrowsAsOneTypes)
+{
+    const int all = Shown().rowCount();
+    QTest::keyClicks(&Search(), "webm");
+    EXPECT_LT(Shown().rowCount(), all);
+    EXPECT_TRUE(Count().isVisible());
+    Search().clear();
+    EXPECT_EQ(all, Shown().rowCount());
+    EXPECT_FALSE(Count().isVisible());
+}
+
+TEST_F(TreePaneTest, FindsWordsOfThePathToo)
+{
+    QTest::keyClicks(&Search(), "mp4 video more");
+    ASSERT_EQ(1, Shown().rowCount());
+    EXPECT_EQ("Video", Shown().index(0, 0).data().toString());
+    EXPECT_EQ("More MP4", Shown().index(0, 0, Shown().index(0, 0)).data().toString());
+}
+
+TEST_F(TreePaneTest, SelectsTheFirstFoundPresetWithReturn)
+{
+    const QSignalSpy spy(&pane, &TreePane::CurrentChanged);
+    QTest::keyClicks(&Search(), "mkv");
+    QTest::keyClick(&Search(), Qt::Key_Return);
+    ASSERT_TRUE(pane.Current().IsPreset());
+    EXPECT_EQ("MKV", QString::fromStdString(pane.Current().preset->FormatName()));
+    EXPECT_EQ(1, spy.count());
+}
+
+TEST_F(TreePaneTest, SaysWhatToDoWhereNothingIsFound)
+{
+    QTest::keyClicks(&Search(), "no such thing");
+    EXPECT_EQ(0, Shown().rowCount());
+    EXPECT_TRUE(Count().text().contains("Esc"));
+    QTest::keyClick(&Search(), Qt::Key_Escape);
+    EXPECT_EQ("", Search().text());
+}
+
+TEST_F(TreePaneTest, SelectsByTheEndOfAPath)
+{
+    EXPECT_TRUE(pane.SelectByPath("video/mp4"));
+    EXPECT_EQ("MP4", NameOf(pane.Current()));
+    EXPECT_FALSE(pane.SelectByPath("no/such/preset"));
+}
+
+TEST_F(TreePaneTest, EndsASearchThatHidesWhatIsSelected)
+{
+    QTest::keyClicks(&Search(), "webm");
+    EXPECT_TRUE(pane.SelectByPath("video/mp4"));
+    EXPECT_EQ("", Search().text());
+    EXPECT_EQ("MP4", NameOf(pane.Current()));
+}
+
+TEST_F(TreePaneTest, EditsANameInPlace)
+{
+    pane.SelectByPath("video/mp4");
+    pane.EditName();
+    auto* editor = pane.View().viewport()->findChild<QLineEdit*>();
+    ASSERT_NE(nullptr, editor);
+    QTest::keyClicks(editor, "Film");
+    QTest::keyClick(editor, Qt::Key_Return);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return NameOf(pane.Current()) == "Film"; }));
+}
+
+TEST_F(TreePaneTest, HasNoCurrentItemAfterAnotherDocument)
+{
+    pane.SelectByPath("video/mp4");
+    document.SetContent(BuiltInContent(), {});
+    EXPECT_FALSE(pane.Current());
+    EXPECT_EQ(document.Root(), pane.CurrentCategory());
+}
+
+TEST_F(TreePaneTest, SearchesTwentyThousandPresetsWithoutAHang)
+{
+    const auto category = IVXFormatNode::MallocFormatNode(document.Root());
+    category->SetName("Many");
+    const auto preset = IVXFormatPreset::MallocFormatPreset("WAV", "");
+    for (int i = 0; i < 20000; ++i)
+    {
+        category->AddFormatPreset(preset->Clone());
+        category->LastFormatPreset()->SetName("preset " + std::to_string(i));
+    }
+    document.SetContent({document.Root(), std::make_shared<DocumentBasis>()}, {});
+    QElapsedTimer timer;
+    timer.start();
+    QTest::keyClicks(&Search(), "preset 77");
+    RecordProperty("milliseconds", static_cast<int>(timer.elapsed()));
+    EXPECT_LT(timer.elapsed(), 5000) << "for nine keys";
+    EXPECT_TRUE(Count().text().startsWith("560 ")) << qPrintable(Count().text()); // numbers with "77" in them
+}
+
+} // namespace
