@@ -1,6 +1,5 @@
 #include "ConversionJob.h"
 
-#include <QMetaObject>
 #include <QThread>
 
 #include <exception>
@@ -39,6 +38,7 @@ ConversionJob::~ConversionJob()
         m_thread->wait();
 }
 
+// What is emitted beside the user's thread reaches those who listen in theirs.
 void ConversionJob::Start(const Tool::FfmpegCommand& command, const Tool::ConversionTarget& target)
 {
     if (m_thread)
@@ -46,17 +46,12 @@ void ConversionJob::Start(const Tool::FfmpegCommand& command, const Tool::Conver
     m_isCancelled = false;
     const auto watch = [this](const Tool::ConversionProgress& progress)
     {
-        QMetaObject::invokeMethod(
-            this, [this, progress] { emit Progressed(progress); }, Qt::QueuedConnection);
+        emit Progressed(progress);
         return !m_isCancelled;
     };
-    const auto run = [this, command, target, watch]
-    {
-        const auto end = EndOf(command, target, watch);
-        QMetaObject::invokeMethod(
-            this, [this, end] { Finish(end); }, Qt::QueuedConnection);
-    };
-    m_thread.reset(QThread::create(run));
+    const auto end = std::make_shared<ConversionEnd>();
+    m_thread.reset(QThread::create([command, target, watch, end] { *end = EndOf(command, target, watch); }));
+    connect(m_thread.get(), &QThread::finished, this, [this, end] { Finish(*end); });
     m_thread->start();
 }
 

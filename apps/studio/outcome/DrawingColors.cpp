@@ -30,9 +30,10 @@ double Luminance(const QColor& color)
 /// The colour, brought towards the text's until it stands out from the ground.
 QColor Visible(const QColor& color, const QColor& text, const QColor& ground)
 {
-    constexpr double kStep = 0.1;
-    for (double share = 0; share < 1; share += kStep)
-        if (const auto mixed = Mixed(color, text, share); Contrast(mixed, ground) >= kOfGraphics)
+    constexpr int kSteps = 10;
+    for (int step = 0; step < kSteps; ++step)
+        if (const auto mixed = Mixed(color, text, double(step) / kSteps);
+            Contrast(mixed, ground) >= kOfGraphics)
             return mixed;
     return text;
 }

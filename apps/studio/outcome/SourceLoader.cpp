@@ -1,7 +1,5 @@
 #include "SourceLoader.h"
 
-#include <QMetaObject>
-
 #include <exception>
 #include <string>
 
@@ -30,7 +28,12 @@ VXMediaFile Read(const std::string& path)
 
 } // namespace
 
-SourceLoader::SourceLoader(QObject* parent) : QObject(parent) { m_threads.setMaxThreadCount(kAtOnce); }
+// What is emitted beside the user's thread arrives in it.
+SourceLoader::SourceLoader(QObject* parent) : QObject(parent)
+{
+    m_threads.setMaxThreadCount(kAtOnce);
+    connect(this, &SourceLoader::HasRead, this, &SourceLoader::Tell);
+}
 
 SourceLoader::~SourceLoader()
 {
@@ -42,17 +45,13 @@ void SourceLoader::Load(const QString& path)
 {
     const int number = ++m_number;
     m_threads.clear();
-    m_threads.start(
-        [this, path, number]
-        {
-            const auto media = Read(path.toStdString());
-            const auto tell = [this, path, number, media]
-            {
-                if (number == m_number)
-                    emit Loaded(path, media);
-            };
-            QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
-        });
+    m_threads.start([this, path, number] { emit HasRead(number, path, Read(path.toStdString()), {}); });
+}
+
+void SourceLoader::Tell(int number, const QString& path, const VXMediaFile& media)
+{
+    if (number == m_number)
+        emit Loaded(path, media);
 }
 
 } // namespace Vexlor::Studio

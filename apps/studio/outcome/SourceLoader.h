@@ -22,14 +22,15 @@ public:
 
     /// Begins to read the file of that path.
     void Load(const QString& path);
-    /// Wants nothing more of what is being read.
-    void Forget() { ++m_number; }
 
 signals:
     /// The file was read; one that could not be has no parameters, but a reason.
     void Loaded(const QString& path, const Vexlor::VXMediaFile& media);
+    /// The file of that number was read.
+    void HasRead(int number, const QString& path, const Vexlor::VXMediaFile& media, QPrivateSignal);
 
 private:
+    void Tell(int number, const QString& path, const VXMediaFile& media);
     int m_number = 0; ///< of the latest that was asked for
     QThreadPool m_threads;
 };
