@@ -1,5 +1,6 @@
 #include "PresetPaneFixture.h"
 
+#include "IVXCodecQualityPreset.h"
 #include "VXMediaCodecs.h"
 
 #include <QMenu>
@@ -144,6 +145,17 @@ TEST_F(PresetCodecsTest, SaysThatNoCodecIsChosen)
     pane.ShowPreset(none);
     EXPECT_TRUE(Messages(Page(0)).contains("No codec is chosen: outputs have no picture."));
     EXPECT_EQ(-1, Marked(Codecs()));
+}
+
+TEST_F(PresetCodecsTest, ShowsACodecThatIsNotKnown)
+{
+    const auto add = [](IVXFormatPreset& changed) { changed.AddVideoCodecPreset(987'654); };
+    document.EditPreset(preset, "Prepare", add);
+    Codecs().setCurrentRow(6);
+    EXPECT_EQ("Unknown codec 987654", Codecs().currentItem()->text());
+    EXPECT_EQ("No entries", Combo("resolution").placeholderText());
+    Pick(Combo("quality"), "Custom");
+    EXPECT_TRUE(preset->VideoCodecPreset(6)->CurrentCodecQuality()->IsCustom());
 }
 
 TEST_F(PresetCodecsTest, TakingBackARemovalOpensNoOtherPage)

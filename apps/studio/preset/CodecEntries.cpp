@@ -38,6 +38,15 @@ constexpr StreamFamily kAudio{Tool::StreamKind::Audio,
                               &Preset::MoveAudioCodecPreset,
                               &IVXFormat::AudioCodecIDs};
 
+// A document may hold a codec that the library does not know.
+QString NameOf(const IVXCodecPreset& codec)
+{
+    const auto name = ShownText(codec.Name());
+    return name.isEmpty()
+               ? QCoreApplication::translate("StreamFamily", "Unknown codec %1").arg(codec.CodecID())
+               : name;
+}
+
 } // namespace
 
 const StreamFamily& StreamOf(Tool::StreamKind kind)
@@ -51,7 +60,7 @@ QStringList CodecEntries::Texts() const
 {
     QStringList texts;
     for (int i = 0; i < (m_preset.*m_family.count)(); ++i)
-        texts.append(ShownText(At(i)->Name()));
+        texts.append(NameOf(*At(i)));
     return texts;
 }
 

@@ -61,6 +61,8 @@ void ListRow::SetUpEditor(FieldManners& manners)
     m_layout->addWidget(m_editor);
     connect(m_edit, &QToolButton::toggled, this, &ListRow::OpenEditor);
     connect(m_editor, &EntryEditor::Closed, this, &ListRow::CloseEditor);
+    m_toScroll.setSingleShot(true);
+    connect(&m_toScroll, &QTimer::timeout, this, &ListRow::ScrollToEditor);
 }
 
 void ListRow::Refresh()
@@ -95,7 +97,7 @@ void ListRow::OpenEditor(bool isOpen)
         return;
     m_editor->Open();
     // Where it lies is known when the layout has made room.
-    QMetaObject::invokeMethod(this, &ListRow::ScrollToEditor, Qt::QueuedConnection);
+    m_toScroll.start(0);
 }
 
 void ListRow::ScrollToEditor()

@@ -2,6 +2,7 @@
 
 #include "ListFamilies.h"
 
+#include <QTimer>
 #include <QWidget>
 
 class QComboBox;
@@ -46,6 +47,7 @@ private:
     QComboBox* m_entries;
     QToolButton* m_edit;
     EntryEditor* m_editor = nullptr;
+    QTimer m_toScroll;
 };
 
 } // namespace Vexlor::Studio
