@@ -140,10 +140,6 @@
         <translation>1440x1080</translation>
     </message>
     <message>
-        <source>Fra&amp;me rate</source>
-        <translation>Bildra&amp;te</translation>
-    </message>
-    <message>
         <source>frame rate</source>
         <translation>Bildrate</translation>
     </message>
@@ -184,11 +180,15 @@
         <translation>Stereo, 5.1 oder 0x3</translation>
     </message>
     <message>
-        <source>Sa&amp;mple format</source>
-        <translation>Abtast&amp;format</translation>
+        <source>sample format</source>
+        <translation>Abtastformat</translation>
     </message>
     <message>
-        <source>sample format</source>
+        <source>Frame rate</source>
+        <translation>Bildrate</translation>
+    </message>
+    <message>
+        <source>Sample format</source>
         <translation>Abtastformat</translation>
     </message>
 </context>
@@ -201,6 +201,10 @@
     <message>
         <source>audio codec</source>
         <translation>Audiocodec</translation>
+    </message>
+    <message>
+        <source>Unknown codec %1</source>
+        <translation>Unbekannter Codec %1</translation>
     </message>
 </context>
 <context>
