@@ -68,6 +68,8 @@ void ConvertPanel::Lay()
     lines->addWidget(m_size);
     lines->addLayout(line);
     lines->addWidget(m_status);
+    setTabOrder(m_size, m_fit);
+    setTabOrder(m_fit, m_convert);
 }
 
 void ConvertPanel::ConnectStatus()

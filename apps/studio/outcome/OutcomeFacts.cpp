@@ -26,7 +26,7 @@ constexpr int kNoBitrate = -1;
 
 QSizeF DisplayedSize(const IVXCodecParameter& stream)
 {
-    return QSizeF(std::max(stream.GetDisplayWidth(), 0), std::max(stream.GetDisplayHeight(), 0));
+    return {double(std::max(stream.GetDisplayWidth(), 0)), double(std::max(stream.GetDisplayHeight(), 0))};
 }
 
 /// A size in an output's own pixels as it is displayed.

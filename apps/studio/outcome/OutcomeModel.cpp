@@ -75,7 +75,7 @@ QVariant OutcomeModel::data(const QModelIndex& index, int role) const
     if (role == Qt::ToolTipRole && !row.why.isEmpty())
         return row.why;
     if (role == Qt::TextAlignmentRole)
-        return QVariant(Qt::AlignLeft | Qt::AlignTop); // reasons may take some lines
+        return (Qt::AlignLeft | Qt::AlignTop).toInt(); // reasons may take some lines
     const bool isStrong = row.isHeading || (index.column() == Output && row.IsChanged());
     if (role == Qt::FontRole && isStrong)
     {
@@ -89,7 +89,7 @@ QVariant OutcomeModel::data(const QModelIndex& index, int role) const
 QVariant OutcomeModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (role == Qt::TextAlignmentRole)
-        return QVariant(Qt::AlignLeft | Qt::AlignVCenter);
+        return (Qt::AlignLeft | Qt::AlignVCenter).toInt();
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount)
         return {};
     const std::array<QString, ColumnCount> titles{tr("Value"), tr("Source"), tr("Output"), tr("Why")};
