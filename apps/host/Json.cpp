@@ -1,5 +1,7 @@
 #include "Json.h"
 
+#include "Failure.h"
+
 #include "runtime/foundation/VXJson.h"
 
 namespace Vexlor::Tool
@@ -46,7 +48,13 @@ Json JsonPair(int first, int second)
     return Shared(*box);
 }
 
-std::string JsonDocument(const IVXJsonValue& value) { return JsonText(value, JsonStyle::Indented) + '\n'; }
+std::string JsonDocument(const IVXJsonValue& value)
+{
+    auto text = JsonText(value, JsonStyle::Indented);
+    if (text.empty())
+        throw Failure("nested too deeply to be written as a document that can be read again");
+    return text += '\n';
+}
 
 std::string JsonDocument(const std::vector<Json>& elements)
 {
