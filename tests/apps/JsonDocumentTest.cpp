@@ -18,6 +18,7 @@ constexpr int kDeepest = 1024; // levels that the parser takes
 Json Nested(int levels)
 {
     auto value = IVXJsonValue::JsonValueNull();
+    value->SetValueInt("innermost", 1);
     for (int i = 1; i < levels; ++i)
     {
         const auto outer = IVXJsonValue::JsonValueNull();
