@@ -22,7 +22,7 @@ void SetBounds(IVXFormatPreset& preset, int width, int height)
     preset.SetMaxHeight(height);
 }
 
-TEST_F(OutcomePaneTest, SaysWhatToDoWithoutASource)
+TEST_F(OutcomePaneTest, InvitesASource)
 {
     EXPECT_TRUE(Text("outcomeEmpty").contains("Drop a video or sound file here"));
     pane.ShowPreset(preset);
