@@ -14,6 +14,7 @@
 #include <QStandardPaths>
 #include <QUuid>
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -24,6 +25,7 @@ namespace
 {
 
 constexpr int kDelay = 5000; // milliseconds
+constexpr int kRest = 10;    // times as long as a copy takes, until the next one
 constexpr auto* kTextEnding = ".json";
 constexpr auto* kPathEnding = ".path"; // a file with the path of the document in it
 constexpr auto* kLockEnding = ".lock";
@@ -105,6 +107,7 @@ void Recovery::Keep()
     m_timer.stop();
     m_isStale = false;
     m_isKeeping = true;
+    m_clock.start();
     const auto work = [plan = m_document.Plan(), basis = m_document.Basis(),
                        document = m_document.Path().toStdString(),
                        pathFile = PathOf(kPathEnding).toStdString(),
@@ -118,6 +121,7 @@ void Recovery::Keep()
 void Recovery::EndKeeping()
 {
     m_isKeeping = false;
+    m_timer.setInterval(std::max(m_timer.interval(), static_cast<int>(m_clock.elapsed()) * kRest));
     if (!m_document.IsModified())
         Forget();
     else if (m_isStale)

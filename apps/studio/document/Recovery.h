@@ -3,6 +3,7 @@
 #include "DocumentContent.h"
 
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QLockFile>
 #include <QObject>
 #include <QString>
@@ -64,6 +65,7 @@ private:
     QString m_name;
     std::unique_ptr<QLockFile> m_lock;
     QTimer m_timer;
+    QElapsedTimer m_clock;
     bool m_isStale = false;   // the copy lacks changes
     bool m_isKeeping = false; // a copy is being made
 };
