@@ -148,6 +148,13 @@ TEST(ArtworkImageGroup, KeepsTheFirstPictureOfAKeyThatABlobRepeats)
     EXPECT_EQ("0.1=first", TextOf(group));
 }
 
+TEST(ArtworkImageGroup, WritesAKeyThatABlobRepeatsOnce)
+{
+    const auto group = NewGroup();
+    group->FromData(DataOf(BlobOf({{1, StoredPicture("first")}, {1, StoredPicture("second")}})));
+    EXPECT_EQ(BlobOf({{1, StoredPicture("first")}}), BytesOf(*group->ToData()));
+}
+
 TEST(ArtworkImageGroup, ReadingReplacesAllPictures)
 {
     const auto group = GroupOf("old");
