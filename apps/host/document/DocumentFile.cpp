@@ -5,10 +5,11 @@
 #include "IVXJsonValue.h"
 #include "runtime/foundation/VXJson.h"
 
-#include <array>
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <system_error>
 
@@ -34,6 +35,10 @@ std::string ReadToEnd(std::FILE* file, const std::string& path)
     constexpr std::size_t kStep = std::size_t{4} << 20U;
     constexpr std::size_t kMostBytes = std::size_t{1} << 32U;
     std::string text;
+    std::error_code unknown;
+    if (const auto known = std::filesystem::file_size(path, unknown); !unknown)
+        text.reserve(std::min<std::size_t>(known, kMostBytes) +
+                     kStep); // or a long text is copied as it grows
     std::size_t size = 0;
     for (std::size_t count = 1; count > 0 && size <= kMostBytes; size += count)
     {
