@@ -24,13 +24,6 @@ void Name()
         QIcon::fromTheme("org.vexlor.vxpresetstudio", QIcon(":/icons/org.vexlor.vxpresetstudio.svg")));
 }
 
-/// The value behind "--language", which the texts of everything else need.
-QString LanguageIn(const QStringList& arguments)
-{
-    const auto start = StartLine::Read(arguments);
-    return start.options ? start.options->language : QString();
-}
-
 int Run(const StartOptions& options)
 {
     StudioWindow window;
@@ -48,7 +41,7 @@ int main(int argc, char** argv)
     const QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C"); // Qt takes the desktop's, but the ffmpeg program reads and writes points
     Name();
-    const Languages languages(LanguageIn(QApplication::arguments()));
+    const Languages languages(StartLine::LanguageIn(QApplication::arguments()));
     const auto start = StartLine::Read(QApplication::arguments());
     if (start.options)
         return Run(*start.options);

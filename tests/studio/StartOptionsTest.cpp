@@ -38,6 +38,13 @@ TEST(StartOptions, RefuseWhatIsUnknown)
     EXPECT_EQ(2, Read({"one.json", "two.json"}).exitCode);
 }
 
+TEST(StartOptions, TellTheLanguageEvenWhereTheProgramEndsAtOnce)
+{
+    EXPECT_EQ("de", StartLine::LanguageIn({"vxpresetstudio", "--help", "--language", "de"}));
+    EXPECT_EQ("de", StartLine::LanguageIn({"vxpresetstudio", "--language=de"}));
+    EXPECT_EQ("", StartLine::LanguageIn({"vxpresetstudio", "--language"}));
+}
+
 class StartSize : public testing::TestWithParam<const char*>
 {
 };

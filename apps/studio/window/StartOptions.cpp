@@ -17,7 +17,19 @@ QSize SizeOf(const QString& text)
                                                                                                   : QSize();
 }
 
+constexpr auto* kLanguage = "--language";
+
 } // namespace
+
+QString StartLine::LanguageIn(const QStringList& arguments)
+{
+    for (int i = 1; i < arguments.size(); ++i)
+        if (arguments[i].startsWith(QString(kLanguage) + '='))
+            return arguments[i].section('=', 1);
+        else if (arguments[i] == kLanguage)
+            return arguments.value(i + 1);
+    return {};
+}
 
 StartResult StartLine::Read(const QStringList& arguments)
 {

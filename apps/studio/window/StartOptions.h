@@ -40,6 +40,8 @@ class StartLine
 public:
     /// Reads the arguments, the first of which is the program.
     static StartResult Read(const QStringList& arguments);
+    /// The language among the arguments, which everything else is to be told in; empty for the system's.
+    static QString LanguageIn(const QStringList& arguments);
 };
 
 } // namespace Vexlor::Studio
