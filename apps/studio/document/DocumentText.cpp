@@ -84,8 +84,8 @@ private:
     void WriteAnew(const PlannedNode& node, DocumentPosition position, DocumentChanges& changes) const;
     void Write(const PlannedNode& node, DocumentPosition position, const DocumentTree& tree,
                DocumentChanges& changes) const;
-    void Write(const PlannedPreset& preset, DocumentPosition position, const DocumentTree& tree,
-               DocumentChanges& changes) const;
+    static void Write(const PlannedPreset& preset, DocumentPosition position, const DocumentTree& tree,
+                      DocumentChanges& changes);
     template <typename Entry>
     void WriteList(const PlannedNode& node, const std::vector<Entry>& entries, const char* list,
                    DocumentPosition position, const DocumentTree& tree, DocumentChanges& changes) const;
@@ -136,7 +136,7 @@ void PlanWriter::Write(const PlannedNode& node, DocumentPosition position, const
 }
 
 void PlanWriter::Write(const PlannedPreset& preset, DocumentPosition position, const DocumentTree&,
-                       DocumentChanges& changes) const
+                       DocumentChanges& changes)
 {
     if (preset.text.empty())
         return;
@@ -168,6 +168,7 @@ void PlanWriter::WriteList(const PlannedNode& node, const std::vector<Entry>& en
         return;
     }
     std::vector<std::string> texts;
+    texts.reserve(entries.size());
     for (const auto& entry : entries)
         texts.push_back(TextOf(entry));
     const auto array = tree.Find(position, list);

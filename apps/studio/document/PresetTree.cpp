@@ -58,7 +58,7 @@ Node PresetTree::ParentOf(const TreeItem& item) const
     std::vector<Node> pending{m_root};
     while (!pending.empty())
     {
-        const auto node = std::move(pending.back());
+        auto node = std::move(pending.back());
         pending.pop_back();
         if (node->IndexOfFormatPreset(item.preset) >= 0)
             return node;
