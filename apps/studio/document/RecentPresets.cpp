@@ -21,7 +21,7 @@ Node RecentCategory(PresetTree& tree)
     for (const auto& child : tree.Root()->GetChildList())
         if (child->FaceID() == IVXArtworkImageMgr::CategoryFaceIDRecentList)
             return child;
-    if (const auto child = tree.Root()->FindChild(kRecentCategory))
+    if (auto child = tree.Root()->FindChild(kRecentCategory))
         return child;
     auto made = IVXFormatNode::MallocFormatNode(Node());
     made->SetName(kRecentCategory);

@@ -122,11 +122,11 @@ void Recovery::EndKeeping()
 {
     m_isKeeping = false;
     m_timer.setInterval(std::max(m_timer.interval(), static_cast<int>(m_clock.elapsed()) * kRest));
+    emit Kept();
     if (!m_document.IsModified())
         Forget();
     else if (m_isStale)
         m_timer.start();
-    emit Kept();
 }
 
 void Recovery::Forget()

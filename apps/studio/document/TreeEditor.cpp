@@ -153,7 +153,7 @@ TreeItem TreeEditor::OwnCategory()
 
 TreeItem TreeEditor::AddCategory(const Node& parent, const QString& name)
 {
-    const TreeItem item{IVXFormatNode::MallocFormatNode(Node())};
+    TreeItem item{IVXFormatNode::MallocFormatNode(Node())};
     SetName(item, FreeName(*parent, item, name));
     const UndoMacro macro(m_document.Undo(), tr("New Category"));
     Insert(item, {parent, parent->ChildCount()});
@@ -162,7 +162,7 @@ TreeItem TreeEditor::AddCategory(const Node& parent, const QString& name)
 
 TreeItem TreeEditor::AddPreset(const Node& parent, const QString& container)
 {
-    const TreeItem item{{}, IVXFormatPreset::MallocFormatPreset(container.toStdString(), {})};
+    TreeItem item{{}, IVXFormatPreset::MallocFormatPreset(container.toStdString(), {})};
     if (!item)
         return {};
     SetName(item, FreeName(*parent, item, container));
