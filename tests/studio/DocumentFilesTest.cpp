@@ -201,4 +201,28 @@ TEST_F(DocumentFilesTest, IsNotSurprisedByWhatItSavedItself)
     EXPECT_EQ(0, changes.count());
 }
 
+TEST_F(DocumentFilesTest, LeavesAWriteProtectedFile)
+{
+    Open();
+    RenameFirst("two");
+    ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadUser));
+    Save();
+    EXPECT_EQ(1, failures.count());
+    EXPECT_EQ(kText, Read());
+    EXPECT_TRUE(document.IsModified());
+}
+
+TEST_F(DocumentFilesTest, HasChangesWaitUntilItIsFree)
+{
+    Open();
+    int changes = 0;
+    files.WhenFree([&changes] { ++changes; });
+    EXPECT_EQ(1, changes);
+    files.Save(path, false);
+    files.WhenFree([&changes] { ++changes; });
+    EXPECT_EQ(1, changes);
+    Wait();
+    EXPECT_TRUE(QTest::qWaitFor([&changes] { return changes == 2; }));
+}
+
 } // namespace

@@ -1,5 +1,7 @@
 #include "PresetPaneFixture.h"
 
+#include "IVXFormatNode.h"
+
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -66,6 +68,21 @@ TEST_F(PresetPaneTest, KeepsTheOldNameInPlaceOfNone)
     QTest::keyClick(&name, Qt::Key_Return);
     EXPECT_EQ("Phone", name.text());
     EXPECT_FALSE(Messages(pane).contains("needs a name"));
+}
+
+TEST_F(PresetPaneTest, KeepsTheOldNameInPlaceOfOneThatIsThere)
+{
+    const auto video = document.Root()->FindChild("Video");
+    const auto mkv = video->FindFormatPreset("MKV");
+    pane.ShowPreset(mkv);
+    auto& name = *pane.findChild<QLineEdit*>("name");
+    name.setFocus();
+    name.selectAll();
+    QTest::keyClicks(&name, "MP4");
+    EXPECT_EQ("MP", mkv->Name());
+    EXPECT_TRUE(Messages(pane).contains("is there already"));
+    QTest::keyClicks(&name, "x");
+    EXPECT_EQ("MP4x", mkv->Name());
 }
 
 TEST_F(PresetPaneTest, TypingADescriptionIsOneStep)

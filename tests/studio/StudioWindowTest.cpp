@@ -1,8 +1,6 @@
-#include "apps/studio/window/StudioWindow.h"
+#include "StudioWindowFixture.h"
 
 #include "apps/studio/outcome/OutcomePane.h"
-#include "apps/studio/tree/TreePane.h"
-#include "apps/studio/window/FileActions.h"
 #include "apps/studio/window/PresetActions.h"
 #include "apps/studio/window/StartOptions.h"
 #include "tests/media/MediaMaker.h"
@@ -11,87 +9,20 @@
 #include "IVXFormatPreset.h"
 
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QAccessible>
 #include <QAction>
-#include <QDir>
 #include <QFile>
-#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QSettings>
-#include <QSignalSpy>
 #include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
 #include <QTreeView>
-
-#include <gtest/gtest.h>
 
 namespace
 {
 
 using namespace Vexlor;
 using namespace Vexlor::Studio;
-
-/// The main stories, told with keys and clicks.
-class StudioWindowTest : public testing::Test
-{
-protected:
-    StudioWindowTest()
-    {
-        QSettings().clear();
-        QDir(Recovery::Folder()).removeRecursively();
-        window = std::make_unique<StudioWindow>();
-        window->show();
-        window->activateWindow(); // or shortcuts lead nowhere
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    }
-
-    template <typename Widget>
-    Widget& The(const char* name)
-    {
-        auto* widget = window->findChild<Widget*>(name);
-        EXPECT_NE(nullptr, widget) << name;
-        return *widget;
-    }
-
-    /// Answers the next message box with that button.
-    void AnswerNext(QMessageBox::StandardButton button)
-    {
-        QTimer::singleShot(50, window.get(),
-                           [button]
-                           {
-                               auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                               ASSERT_NE(nullptr, box);
-                               QTest::mouseClick(box->button(button), Qt::LeftButton);
-                           });
-    }
-
-    void Open(const QString& path)
-    {
-        QSignalSpy opened(&window->Files().Files(), &DocumentFiles::Opened);
-        window->Files().Open(path);
-        ASSERT_TRUE(opened.wait());
-    }
-
-    void SaveTo(const QString& path)
-    {
-        QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
-        window->Files().Files().Save(path, true);
-        ASSERT_TRUE(saved.wait());
-    }
-
-    void FindAndSelect(const QString& text)
-    {
-        QTest::keyClicks(&The<QLineEdit>("search"), text);
-        QTest::keyClick(&The<QLineEdit>("search"), Qt::Key_Return);
-    }
-
-    QTemporaryDir folder;
-    std::unique_ptr<StudioWindow> window;
-};
 
 TEST_F(StudioWindowTest, FindsAPresetAndShowsIt)
 {
@@ -288,6 +219,23 @@ TEST_F(StudioWindowTest, KeepsItsSize)
     window->close();
     const StudioWindow next;
     EXPECT_EQ(QSize(1111, 777), next.size());
+}
+
+TEST_F(StudioWindowTest, HasANameForEveryControl)
+{
+    window->Tree().SelectByPath("Video/MP4");
+    for (auto* widget : window->findChildren<QWidget*>())
+    {
+        const bool isPart = widget->parentWidget()->focusProxy() == widget ||
+                            qobject_cast<QAbstractSpinBox*>(widget->parentWidget()) ||
+                            widget->parentWidget()->inherits("QComboBoxPrivateContainer");
+        if (!(widget->focusPolicy() & Qt::TabFocus) || isPart)
+            continue;
+        auto* control = QAccessible::queryAccessibleInterface(widget);
+        ASSERT_NE(nullptr, control);
+        EXPECT_NE("", control->text(QAccessible::Name))
+            << widget->metaObject()->className() << ' ' << qPrintable(widget->objectName());
+    }
 }
 
 } // namespace

@@ -32,6 +32,15 @@ bool Exists(const std::string& path)
     return std::filesystem::exists(path, ignored);
 }
 
+bool IsProtected(const std::string& path)
+{
+    using std::filesystem::perms;
+    std::error_code ignored;
+    const auto status = std::filesystem::status(path, ignored);
+    return (status.permissions() & (perms::owner_write | perms::group_write | perms::others_write)) ==
+           perms::none;
+}
+
 } // namespace
 
 DocumentContent ReadContent(const std::string& path)
@@ -62,6 +71,8 @@ bool WriteOver(const std::string& path, const std::string& expected, const std::
         WriteAnyway(path, text);
         return true;
     }
+    if (IsProtected(path)) // a new file in its place would be written all the same
+        throw Tool::Failure(path + ": is write-protected");
     const auto change = [&](const std::string& before)
     {
         if (before != expected)

@@ -30,6 +30,16 @@ DocumentFiles::DocumentFiles(StudioDocument& document, QObject* parent)
     connect(&document.Tree(), &PresetTree::Reset, this, &DocumentFiles::Watch);
 }
 
+void DocumentFiles::WhenFree(const std::function<void()>& change)
+{
+    if (!m_isBusy)
+        return change();
+    // Whoever hears first that nothing is done any more may begin with something else.
+    connect(
+        this, &DocumentFiles::BusyChanged, this, [this, change] { WhenFree(change); },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
 void DocumentFiles::Open(const QString& path)
 {
     if (m_isBusy)

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QTimer>
 
+#include <functional>
+
 class QFileSystemWatcher;
 
 namespace Vexlor::Studio
@@ -24,6 +26,8 @@ public:
 
     /// True while a document is being read or written; nothing may be changed then, or opened, or saved.
     bool IsBusy() const { return m_isBusy; }
+    /// Changes the document by that when nothing is read or written, which may be at once.
+    void WhenFree(const std::function<void()>& change);
 
     /// Reads the file of that path, which then is the document.
     void Open(const QString& path);

@@ -75,7 +75,7 @@ void StudioDocument::SetRecovered(DocumentContent content, const QString& path, 
 
 PlannedNode StudioDocument::Plan() const
 {
-    return PlanOf(Root(), [this](const IVXFormatPreset& preset) { return m_asRead.contains(&preset); });
+    return PlanOf(Root(), [this](const IVXFormatPreset& preset) { return IsAsRead(preset); });
 }
 
 void StudioDocument::SetSaved(const QString& path, std::shared_ptr<const DocumentBasis> basis)

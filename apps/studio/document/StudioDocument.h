@@ -45,6 +45,8 @@ public:
     /// Takes up what was found after a crash: a document of that file with changes that are not in it.
     void SetRecovered(DocumentContent content, const QString& path, std::string textOfFile);
 
+    /// True where the preset is as its text in the file is.
+    bool IsAsRead(const IVXFormatPreset& preset) const { return m_asRead.contains(&preset); }
     /// The tree as it is to be written.
     PlannedNode Plan() const;
     /// What it is written over.

@@ -85,12 +85,19 @@ void PresetHeader::Refresh()
 
 void PresetHeader::StoreName(const QString& name, int run)
 {
-    const bool isName = !name.trimmed().isEmpty();
-    m_nameMessage->Say(isName ? QString() : tr("A preset needs a name."));
-    if (isName)
+    const auto reason = ReasonAgainst(name.trimmed());
+    m_nameMessage->Say(reason);
+    if (reason.isEmpty())
         m_session.Edit(
             ChangeText(tr("name")), [&](IVXFormatPreset& preset) { preset.SetName(name.toStdString()); },
             run);
+}
+
+QString PresetHeader::ReasonAgainst(const QString& name) const
+{
+    if (name.isEmpty())
+        return tr("A preset needs a name.");
+    return m_session.IsNameTaken(name) ? tr("\"%1\" is there already.").arg(name) : QString();
 }
 
 void PresetHeader::FinishName()

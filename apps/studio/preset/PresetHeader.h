@@ -31,6 +31,7 @@ private:
     void SetUpFace(QFormLayout& form, FieldManners& manners);
     void SetUpDescription(QFormLayout& form);
     void StoreName(const QString& name, int run);
+    QString ReasonAgainst(const QString& name) const;
     void FinishName();
     void StoreFace(int index);
     void ShowFace(int faceID);

@@ -58,6 +58,7 @@ QWidget* PresetPane::NewEditor()
     m_tabs->addTab(m_video, tr("Vide&o"));
     m_tabs->addTab(m_audio, tr("&Audio"));
     m_tabs->setObjectName(QStringLiteral("streams"));
+    m_tabs->setAccessibleName(tr("Codecs"));
 
     auto* scroll = new QScrollArea;
     scroll->setFrameShape(QFrame::NoFrame);

@@ -5,6 +5,13 @@
 namespace Vexlor::Studio
 {
 
+bool PresetSession::IsNameTaken(const QString& name) const
+{
+    const TreeItem item{{}, m_preset};
+    const auto category = m_preset ? m_document.Tree().ParentOf(item) : nullptr;
+    return category && Studio::IsNameTaken(*category, item, name);
+}
+
 void PresetSession::Edit(const QString& what, const std::function<void(IVXFormatPreset&)>& change, int run)
 {
     if (m_preset)

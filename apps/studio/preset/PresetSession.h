@@ -22,6 +22,8 @@ public:
     void Show(std::shared_ptr<IVXFormatPreset> preset) { m_preset = std::move(preset); }
     /// The preset that is shown; empty for none.
     const std::shared_ptr<IVXFormatPreset>& Preset() const { return m_preset; }
+    /// True when another preset of its category has that name.
+    bool IsNameTaken(const QString& name) const;
     /// Changes it as StudioDocument::EditPreset does; nothing where none is shown.
     void Edit(const QString& what, const std::function<void(IVXFormatPreset&)>& change, int run = 0);
 

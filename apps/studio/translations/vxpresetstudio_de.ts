@@ -960,6 +960,16 @@
     </message>
 </context>
 <context>
+    <name>Vexlor::Studio::OwnBitrates</name>
+    <message numerus="yes">
+        <source>Documents cannot hold a bitrate of one&apos;s own: in the file, %n preset(s) have Auto instead, &quot;%1&quot; among them. Limits are kept.</source>
+        <translation>
+            <numerusform>Dokumente können keine eigene Bitrate halten: In der Datei hat %n Vorgabe, „%1“, stattdessen Auto. Grenzen bleiben erhalten.</numerusform>
+            <numerusform>Dokumente können keine eigene Bitrate halten: In der Datei haben %n Vorgaben, darunter „%1“, stattdessen Auto. Grenzen bleiben erhalten.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Vexlor::Studio::PresetActions</name>
     <message>
         <source>Chec&amp;k</source>
@@ -1024,6 +1034,10 @@
         <source>Unknown icon %1</source>
         <translation>Unbekanntes Symbol %1</translation>
     </message>
+    <message>
+        <source>&quot;%1&quot; is there already.</source>
+        <translation>„%1“ gibt es schon.</translation>
+    </message>
 </context>
 <context>
     <name>Vexlor::Studio::PresetPane</name>
@@ -1038,6 +1052,10 @@
     <message>
         <source>&amp;Audio</source>
         <translation>&amp;Ton</translation>
+    </message>
+    <message>
+        <source>Codecs</source>
+        <translation>Codecs</translation>
     </message>
 </context>
 <context>

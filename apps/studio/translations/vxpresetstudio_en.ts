@@ -40,6 +40,16 @@
     </message>
 </context>
 <context>
+    <name>Vexlor::Studio::OwnBitrates</name>
+    <message numerus="yes">
+        <source>Documents cannot hold a bitrate of one&apos;s own: in the file, %n preset(s) have Auto instead, &quot;%1&quot; among them. Limits are kept.</source>
+        <translation>
+            <numerusform>Documents cannot hold a bitrate of one&apos;s own: in the file, %n preset, &quot;%1&quot;, has Auto instead. Limits are kept.</numerusform>
+            <numerusform>Documents cannot hold a bitrate of one&apos;s own: in the file, %n presets have Auto instead, &quot;%1&quot; among them. Limits are kept.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>Vexlor::Studio::TreePane</name>
     <message numerus="yes">
         <source>%n preset(s) found</source>

@@ -1,6 +1,7 @@
 #include "FileActions.h"
 
 #include "MessageBar.h"
+#include "OwnBitrates.h"
 #include "RecentFiles.h"
 #include "apps/studio/document/StudioDocument.h"
 
@@ -36,6 +37,7 @@ void FileActions::Connect()
     connect(m_saveAs, &QAction::triggered, this, &FileActions::SaveAs);
     connect(m_recent, &RecentFiles::Chosen, this, &FileActions::Open);
     connect(&m_files, &DocumentFiles::Opened, m_recent, &RecentFiles::Add);
+    connect(&m_files, &DocumentFiles::Opened, this, [this] { m_next = nullptr; });
     connect(&m_files, &DocumentFiles::Saved, m_recent, &RecentFiles::Add);
     connect(&m_files, &DocumentFiles::Saved, this, &FileActions::AfterSaving);
     connect(&m_files, &DocumentFiles::SaveRefused, this, &FileActions::TellOfRefusal);
@@ -95,10 +97,16 @@ void FileActions::SaveAs()
         SaveTo(path, true); // the dialog has asked
 }
 
-void FileActions::SaveTo(const QString& path, bool overwrites) { m_files.Save(path, overwrites); }
+void FileActions::SaveTo(const QString& path, bool overwrites)
+{
+    m_note = OwnBitrates::NoteOf(m_document);
+    m_files.Save(path, overwrites);
+}
 
 void FileActions::AfterSaving()
 {
+    if (const auto note = std::exchange(m_note, {}); !note.isEmpty())
+        m_messages.Say(note);
     if (const auto next = std::exchange(m_next, nullptr))
         next();
 }
@@ -111,6 +119,7 @@ void FileActions::WhenNothingIsLost(const std::function<void()>& next)
                     tr("Save the changes of \"%1\" first?").arg(m_document.Title()),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_window);
     box.setObjectName("unsavedChanges");
+    box.setInformativeText(OwnBitrates::NoteOf(m_document)); // before it is too late
     box.setDefaultButton(QMessageBox::Save);
     const int answer = box.exec();
     if (answer == QMessageBox::Discard)

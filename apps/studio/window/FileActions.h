@@ -58,6 +58,7 @@ private:
     QAction* m_save;
     QAction* m_saveAs;
     std::function<void()> m_next; // when the document is saved
+    QString m_note;               // to be told then
 };
 
 } // namespace Vexlor::Studio

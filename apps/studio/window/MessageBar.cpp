@@ -5,6 +5,8 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include <utility>
+
 namespace Vexlor::Studio
 {
 
@@ -26,7 +28,12 @@ MessageBar::MessageBar(QWidget* parent)
 
 void MessageBar::Say(const QString& text)
 {
-    qDeleteAll(m_buttons);
+    for (auto* button : std::as_const(m_buttons))
+    {
+        m_layout->removeWidget(button);
+        button->hide();
+        button->deleteLater(); // it may be the one that is being pressed
+    }
     m_buttons.clear();
     m_text->setText(text);
     Offer(tr("&Close"), [] {});

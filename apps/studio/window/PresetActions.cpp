@@ -2,6 +2,7 @@
 
 #include "MessageBar.h"
 #include "apps/host/import/Import.h"
+#include "apps/studio/document/DocumentFiles.h"
 #include "apps/studio/document/StudioDocument.h"
 #include "apps/studio/document/TreeEditor.h"
 #include "apps/studio/findings/FindingsPane.h"
@@ -18,10 +19,10 @@
 namespace Vexlor::Studio
 {
 
-PresetActions::PresetActions(StudioDocument& document, FindingsPane& findings, MessageBar& messages,
-                             QWidget* window)
-    : QObject(window), m_document(document), m_findings(findings), m_messages(messages), m_window(window),
-      m_check(new QAction(tr("Chec&k"), this)), m_import(new QAction(tr("&Import…"), this))
+PresetActions::PresetActions(StudioDocument& document, DocumentFiles& files, FindingsPane& findings,
+                             MessageBar& messages, QWidget* window)
+    : QObject(window), m_document(document), m_files(files), m_findings(findings), m_messages(messages),
+      m_window(window), m_check(new QAction(tr("Chec&k"), this)), m_import(new QAction(tr("&Import…"), this))
 {
     m_check->setShortcut(Qt::Key_F7);
     m_import->setShortcut(Qt::CTRL | Qt::Key_I);
@@ -36,8 +37,10 @@ void PresetActions::Check()
 {
     const auto work = [plan = m_document.Plan(), basis = m_document.Basis()]
     { return CheckPlan(plan, *basis); };
-    const auto done = [this](AsideResult<CheckResult> result)
+    const auto done = [this, root = m_document.Root()](AsideResult<CheckResult> result)
     {
+        if (root != m_document.Root())
+            return; // another document is open
         if (!result.value)
             return m_messages.Say(result.error);
         const auto summary = FindingTexts::SummaryOf(*result.value);
@@ -59,7 +62,8 @@ void PresetActions::Import(const QString& path)
 {
     RunAside<Tool::Import>(
         this, [file = path.toStdString()] { return Tool::ImportFile(file); },
-        [this, path](const auto& result) { TakeImport(path, result); });
+        [this, path](const auto& result)
+        { m_files.WhenFree([this, path, result] { TakeImport(path, result); }); });
 }
 
 void PresetActions::TakeImport(const QString& path, const AsideResult<Tool::Import>& result)

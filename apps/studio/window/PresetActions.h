@@ -12,6 +12,7 @@ class QWidget;
 namespace Vexlor::Studio
 {
 
+class DocumentFiles;
 class FindingsPane;
 class MessageBar;
 class StudioDocument;
@@ -22,7 +23,8 @@ class PresetActions : public QObject
     Q_OBJECT
 
 public:
-    PresetActions(StudioDocument& document, FindingsPane& findings, MessageBar& messages, QWidget* window);
+    PresetActions(StudioDocument& document, DocumentFiles& files, FindingsPane& findings,
+                  MessageBar& messages, QWidget* window);
 
     void AddTo(QMenu& menu) const;
     /// Adds the presets of that file, which another program has written.
@@ -42,6 +44,7 @@ private:
     void TakeImport(const QString& path, const AsideResult<Tool::Import>& result);
 
     StudioDocument& m_document;
+    DocumentFiles& m_files;
     FindingsPane& m_findings;
     MessageBar& m_messages;
     QWidget* m_window;

@@ -19,6 +19,7 @@
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QLocale>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSettings>
@@ -49,7 +50,7 @@ StudioWindow::StudioWindow(QWidget* parent)
       m_splitter(new QSplitter(this)), m_findingsDock(new QDockWidget(tr("Findings"), this)),
       m_recentMedia(new RecentFiles(tr("Open Recent M&edia"), "recentMedia", this)),
       m_files(new FileActions(m_document, *m_messages, this)),
-      m_presets(new PresetActions(m_document, *m_findings, *m_messages, this)),
+      m_presets(new PresetActions(m_document, m_files->Files(), *m_findings, *m_messages, this)),
       m_treeActions(new TreeActions(m_document, *m_tree, this))
 {
     setObjectName("studio");
@@ -116,7 +117,8 @@ void StudioWindow::Connect()
             [this](const TreeItem& item) { m_tree->Select({item}); });
     connect(m_outcome, &OutcomePane::SourceOpened, m_recentMedia, &RecentFiles::Add);
     connect(m_outcome, &OutcomePane::ConversionDone, this,
-            [this](const auto& preset) { m_document.NoteUsed(*preset); });
+            [this](const auto& preset)
+            { m_files->Files().WhenFree([this, preset] { m_document.NoteUsed(*preset); }); });
     connect(m_recentMedia, &RecentFiles::Chosen, m_outcome, &OutcomePane::OpenSource);
 }
 
@@ -166,6 +168,7 @@ void StudioWindow::SetBusy(bool isBusy)
     if (isBusy)
         m_focus = focusWidget();
     centralWidget()->setEnabled(!isBusy);
+    menuBar()->setEnabled(!isBusy); // and its shortcuts with it
     if (!isBusy && m_focus)
         m_focus->setFocus();
     if (isBusy)

@@ -1,0 +1,86 @@
+#include "StudioWindowFixture.h"
+
+#include "apps/studio/document/TreeEditor.h"
+#include "apps/studio/outcome/OutcomePane.h"
+#include "apps/studio/preset/QualityBitrate.h"
+
+#include "IVXCodecPreset.h"
+#include "IVXCodecQualityPreset.h"
+#include "IVXFormatNode.h"
+#include "IVXFormatPreset.h"
+
+#include <QLabel>
+
+namespace
+{
+
+using namespace Vexlor;
+using namespace Vexlor::Studio;
+
+/// What happens while a document is written, and after.
+class StudioSavingTest : public StudioWindowTest
+{
+};
+
+TEST_F(StudioSavingTest, LocksEveryWayToChangeWhatIsBeingSaved)
+{
+    const auto path = folder.filePath("mine.json");
+    SaveTo(path);
+    TreeEditor(window->Document()).AddCategory(window->Document().Root(), "Mine");
+    QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
+    window->Files().Save();
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    ASSERT_TRUE(saved.wait());
+    EXPECT_TRUE(window->Document().Root()->FindChild("Mine"));
+    QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_FALSE(window->Document().Root()->FindChild("Mine"));
+}
+
+TEST_F(StudioSavingTest, KeepsWhatWasConvertedWhileItWasSavedAsAChange)
+{
+    SaveTo(folder.filePath("mine.json"));
+    window->Tree().SelectByPath("Video/MKV");
+    QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
+    window->Files().Save();
+    emit window->Outcome().ConversionDone(window->Tree().Current().preset);
+    ASSERT_TRUE(saved.wait());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window->isWindowModified(); }));
+    EXPECT_EQ(1, window->Document().Root()->FindChild("Recently Used")->FormatPresetCount());
+}
+
+TEST_F(StudioSavingTest, ShowsARecentlyUsedPresetThatIsConvertedStill)
+{
+    for (const auto* path : {"Video/MKV", "Video/MP4"})
+    {
+        window->Tree().SelectByPath(path);
+        emit window->Outcome().ConversionDone(window->Tree().Current().preset);
+    }
+    window->Tree().SelectByPath("Recently Used/MKV");
+    const auto shown = window->Tree().Current();
+    emit window->Outcome().ConversionDone(shown.preset);
+    EXPECT_EQ(shown, window->Tree().Current());
+    EXPECT_EQ(0, window->Document().Tree().PlaceOf(shown).index);
+}
+
+TEST_F(StudioSavingTest, TellsOfABitrateOfOnesOwnThatTheFileDoesNotHold)
+{
+    SaveTo(folder.filePath("mine.json"));
+    window->Tree().SelectByPath("Video/MP4");
+    const auto chooseOwn = [](IVXFormatPreset& preset)
+    {
+        const auto codec = preset.VideoCodecPreset(1);
+        for (int i = 0; i < codec->CodecQualityPresetCount(); ++i)
+            if (codec->CodecQualityPresetAt(i)->IsCustom())
+                codec->SetIndexForQualityPresets(i);
+    };
+    window->Document().EditPreset(window->Tree().Current().preset, "Bitrate", chooseOwn);
+    ASSERT_TRUE(HasOwnBitrate(*window->Tree().Current().preset->VideoCodecPreset(1)));
+    QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
+    window->Files().Save();
+    ASSERT_TRUE(saved.wait());
+    EXPECT_TRUE(The<QLabel>("message").text().contains("\"MP4\""))
+        << qPrintable(The<QLabel>("message").text());
+    EXPECT_TRUE(The<QWidget>("messageBar").isVisible());
+}
+
+} // namespace
