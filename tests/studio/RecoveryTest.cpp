@@ -1,5 +1,6 @@
 #include "apps/studio/document/Recovery.h"
 
+#include "apps/studio/document/DocumentFiles.h"
 #include "apps/studio/document/StudioDocument.h"
 #include "apps/studio/document/TreeEditor.h"
 
@@ -8,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -38,9 +40,11 @@ protected:
     static QStringList Copies() { return QDir(Recovery::Folder()).entryList({"*.json"}); }
 
     /// What is left when a program with that change does not end in order: its files but for the lock.
-    static void Crash()
+    static void Crash(const QString& path = {})
     {
         StudioDocument document;
+        if (!path.isEmpty())
+            document.SetContent(ReadContent(path.toStdString()), path);
         Recovery recovery(document);
         Change(document);
         KeepNow(recovery);
@@ -133,6 +137,47 @@ TEST_F(RecoveryTest, TellsWhyACopyCannotBeRestored)
     Recovery recovery(document);
     EXPECT_NE("", recovery.Recover(*lost));
     EXPECT_FALSE(document.Root()->FindChild("Precious"));
+}
+
+TEST_F(RecoveryTest, DoesNotOverwriteWhatAnotherProgramHasWrittenSinceTheCrash)
+{
+    const QTemporaryDir folder;
+    const auto path = folder.filePath("mine.json");
+    WriteAnyway(path.toStdString(), R"({"name": "before"})");
+    Crash(path);
+    WriteAnyway(path.toStdString(), R"({"name": "of another"})");
+    StudioDocument document;
+    Recovery recovery(document);
+    ASSERT_EQ("", recovery.Recover(*Recovery::FindLost()));
+    DocumentFiles files(document);
+    QSignalSpy refused(&files, &DocumentFiles::SaveRefused);
+    files.Save(path, false);
+    EXPECT_TRUE(refused.wait());
+}
+
+TEST_F(RecoveryTest, SavesOverTheFileThatIsAsItWasBeforeTheCrash)
+{
+    const QTemporaryDir folder;
+    const auto path = folder.filePath("mine.json");
+    WriteAnyway(path.toStdString(), R"({"name": "before"})");
+    Crash(path);
+    StudioDocument document;
+    Recovery recovery(document);
+    ASSERT_EQ("", recovery.Recover(*Recovery::FindLost()));
+    DocumentFiles files(document);
+    QSignalSpy saved(&files, &DocumentFiles::Saved);
+    files.Save(path, false);
+    ASSERT_TRUE(saved.wait());
+    EXPECT_TRUE(ReadContent(path.toStdString()).root->FindChild("Precious"));
+}
+
+TEST_F(RecoveryTest, HasTheRestoredCopyAtEveryMoment)
+{
+    Crash();
+    StudioDocument document;
+    Recovery recovery(document);
+    ASSERT_EQ("", recovery.Recover(*Recovery::FindLost()));
+    EXPECT_EQ(1, Copies().size());
 }
 
 } // namespace

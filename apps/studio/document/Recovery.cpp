@@ -8,6 +8,7 @@
 #include "apps/host/document/DocumentFile.h"
 #include "runtime/foundation/VXAtomicFile.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -27,7 +28,7 @@ namespace
 constexpr int kDelay = 5000; // milliseconds
 constexpr int kRest = 10;    // times as long as a copy takes, until the next one
 constexpr auto* kTextEnding = ".json";
-constexpr auto* kPathEnding = ".path"; // a file with the path of the document in it
+constexpr auto* kPathEnding = ".path"; // a file that tells of the document's own file
 constexpr auto* kLockEnding = ".lock";
 
 QString Sibling(const QString& recovery, const char* ending)
@@ -44,10 +45,25 @@ bool IsInUse(const QString& recovery)
     return !lock.tryLock(0);
 }
 
-QString PathIn(const QString& recovery)
+/// What is known of the document's own file: the hash of its text as it is expected to be, and its path.
+struct Original
+{
+    QByteArray hash;
+    QString path;
+};
+
+QByteArray HashOf(const std::string& text)
+{
+    return QCryptographicHash::hash(QByteArrayView(text), QCryptographicHash::Sha256).toHex();
+}
+
+Original OriginalOf(const QString& recovery)
 {
     QFile file(Sibling(recovery, kPathEnding));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const auto hash = file.readLine().trimmed();
+    return {hash, QString::fromUtf8(file.readAll())};
 }
 
 std::string TextOfFile(const QString& path)
@@ -108,11 +124,16 @@ void Recovery::Keep()
     m_isStale = false;
     m_isKeeping = true;
     m_clock.start();
-    const auto work = [plan = m_document.Plan(), basis = m_document.Basis(),
-                       document = m_document.Path().toStdString(),
+    const bool isBasis = &m_document.TextOfFile() == &m_document.Basis()->text; // which is not copied
+    const auto work = [plan = m_document.Plan(), basis = m_document.Basis(), isBasis,
+                       other = isBasis ? std::string() : m_document.TextOfFile(),
+                       document = '\n' + m_document.Path().toStdString(),
                        pathFile = PathOf(kPathEnding).toStdString(),
-                       textFile = PathOf(kTextEnding).toStdString()] {
-        return WriteFileAtomically(pathFile, document) && WriteFileAtomically(textFile, TextOf(plan, *basis));
+                       textFile = PathOf(kTextEnding).toStdString()]
+    {
+        const auto hash = HashOf(isBasis ? basis->text : other).toStdString();
+        return WriteFileAtomically(pathFile, hash + document) &&
+               WriteFileAtomically(textFile, TextOf(plan, *basis));
     };
     RunAside<bool>(this, work, [this](const auto&) { EndKeeping(); });
 }
@@ -144,7 +165,7 @@ std::optional<LostDocument> Recovery::FindLost()
         folder.entryInfoList({QString("*") + kTextEnding}, QDir::Files, QDir::Time); // the newest first
     for (const auto& copy : copies)
         if (!IsInUse(copy.filePath()))
-            return LostDocument{PathIn(copy.filePath()), copy.lastModified(), copy.filePath()};
+            return LostDocument{OriginalOf(copy.filePath()).path, copy.lastModified(), copy.filePath()};
     return {};
 }
 
@@ -152,14 +173,18 @@ QString Recovery::Recover(const LostDocument& lost)
 {
     try
     {
-        m_document.SetRecovered(ReadContent(lost.recovery.toStdString()), lost.path, TextOfFile(lost.path));
+        auto text = TextOfFile(lost.path);
+        if (HashOf(text) != OriginalOf(lost.recovery).hash)
+            text.clear(); // so that what others have written since is not overwritten unasked
+        m_document.SetRecovered(ReadContent(lost.recovery.toStdString()), lost.path, std::move(text));
     }
     catch (const std::exception& failure)
     {
         return QString::fromUtf8(failure.what());
     }
+    for (const auto* ending : {kTextEnding, kPathEnding})
+        QFile::rename(Sibling(lost.recovery, ending), PathOf(ending));
     Discard(lost);
-    Keep();
     return {};
 }
 

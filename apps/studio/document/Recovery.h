@@ -47,7 +47,7 @@ public:
 
     /// The newest copy whose program has gone without removing it.
     static std::optional<LostDocument> FindLost();
-    /// Makes that copy the document; answers why not, in words.
+    /// Makes that copy the document, and this program's own; answers why not, in words.
     QString Recover(const LostDocument& lost);
     /// Removes that copy.
     static void Discard(const LostDocument& lost);
