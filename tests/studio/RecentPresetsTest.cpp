@@ -93,4 +93,14 @@ TEST_F(RecentPresetsTest, OutliveTheUndoingOfAStep)
     EXPECT_EQ("a b ", Recent());
 }
 
+TEST_F(RecentPresetsTest, MoveToTheFrontWhenTheyAreUsedThemselves)
+{
+    for (const auto* name : {"a", "b"})
+        document.NoteUsed(*Named(name));
+    const auto used = document.Root()->FindChild("Recently Used")->LastFormatPreset();
+    document.NoteUsed(*used);
+    EXPECT_EQ("a b ", Recent());
+    EXPECT_EQ(used, document.Root()->FindChild("Recently Used")->FirstFormatPreset());
+}
+
 } // namespace

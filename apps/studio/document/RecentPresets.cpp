@@ -40,11 +40,16 @@ bool IsSame(const IVXFormatPreset& one, const IVXFormatPreset& other)
 void NoteRecentPreset(PresetTree& tree, const IVXFormatPreset& preset)
 {
     const auto category = RecentCategory(tree);
-    const auto copy = preset.Clone();
+    std::shared_ptr<IVXFormatPreset> own;
     for (int i = category->FormatPresetCount() - 1; i >= 0; --i)
-        if (const auto old = category->GetFormatPreset(i); IsSame(*old, *copy))
+        if (const auto old = category->GetFormatPreset(i); old.get() == &preset)
+            own = old; // it stays the one that is shown, and that steps are about
+        else if (IsSame(*old, preset))
             tree.Remove({{}, old}, category);
-    tree.Insert({{}, copy}, {category, 0});
+    if (own)
+        tree.Move({{}, own}, category, {category, 0});
+    else
+        tree.Insert({{}, preset.Clone()}, {category, 0});
     while (category->FormatPresetCount() > kMostRecentPresets)
         tree.Remove({{}, category->LastFormatPreset()}, category);
 }
