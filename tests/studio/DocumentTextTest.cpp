@@ -2,6 +2,7 @@
 #include "apps/studio/document/StudioDocument.h"
 #include "apps/studio/document/TreeEditor.h"
 
+#include "apps/host/Failure.h"
 #include "apps/host/document/Qualities.h"
 #include "runtime/foundation/VXJson.h"
 
@@ -150,6 +151,18 @@ TEST(DocumentText, FindsAgainWhatStandsWhereInIt)
     const auto positions = PositionsOf(document.Plan(), tree);
     const auto position = positions.at(Preset(document, 0, 1).preset.get());
     EXPECT_EQ(2, tree.FindInteger(position, "secret"));
+}
+
+TEST(DocumentTextDepth, IsThatOfWhatCanBeReadAgain)
+{
+    PlannedNode plan;
+    for (int i = 0; i < 600; ++i)
+    {
+        PlannedNode above;
+        above.children.push_back(std::move(plan));
+        plan = std::move(above);
+    }
+    EXPECT_THROW(static_cast<void>(TextOf(plan, {})), Tool::Failure);
 }
 
 } // namespace

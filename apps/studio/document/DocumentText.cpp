@@ -1,5 +1,6 @@
 #include "DocumentText.h"
 
+#include "apps/host/Failure.h"
 #include "apps/host/document/DocumentChanges.h"
 #include "apps/host/document/DocumentMerge.h"
 #include "apps/host/document/DocumentNames.h"
@@ -22,6 +23,8 @@ using Tool::DocumentPosition;
 using Tool::DocumentTree;
 using Tool::JsonQuoted;
 
+// Each category is an object in a list. Deeper ones could not be read again, and take long to write.
+constexpr int kMostLevels = kJsonMaxDepth / 2;
 constexpr const char* kName = "name";
 constexpr const char* kDescription = "description";
 constexpr const char* kFaceID = "faceID";
@@ -208,6 +211,15 @@ void Collect(const PlannedNode& plan, DocumentPosition position, const DocumentT
         Collect(plan.children[i], children[i], tree, positions);
 }
 
+// As deep as it may be.
+void RequireReadable(const PlannedNode& plan, int levels)
+{
+    if (levels == 0)
+        throw Tool::Failure("categories are nested too deep for a document");
+    for (const auto& child : plan.children)
+        RequireReadable(child, levels - 1);
+}
+
 } // namespace
 
 ObjectPositions PositionsOf(const PlannedNode& plan, const DocumentTree& tree)
@@ -219,6 +231,7 @@ ObjectPositions PositionsOf(const PlannedNode& plan, const DocumentTree& tree)
 
 std::string TextOf(const PlannedNode& plan, const DocumentBasis& basis)
 {
+    RequireReadable(plan, kMostLevels);
     if (!basis.text.empty())
         return PlanWriter(basis).WholeText(plan);
     const DocumentBasis nothing{"{}"};
