@@ -1,12 +1,14 @@
 #include "apps/studio/tree/TreePane.h"
 
 #include "apps/studio/document/StudioDocument.h"
+#include "apps/studio/document/TreeEditor.h"
 #include "apps/studio/tree/FaceIcons.h"
 #include "apps/studio/tree/FormatFilterModel.h"
 
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
 
+#include <QAbstractItemModelTester>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
@@ -34,6 +36,21 @@ protected:
     QLineEdit& Search() { return *pane.findChild<QLineEdit*>("search"); }
     QLabel& Count() { return *pane.findChild<QLabel*>("searchCount"); }
     QAbstractItemModel& Shown() { return *pane.View().model(); }
+
+    /// A category with so many presets.
+    std::shared_ptr<IVXFormatNode> AddMany(int count)
+    {
+        const auto category = IVXFormatNode::MallocFormatNode(document.Root());
+        category->SetName("Many");
+        const auto preset = IVXFormatPreset::MallocFormatPreset("WAV", "");
+        for (int i = 0; i < count; ++i)
+        {
+            category->AddFormatPreset(preset->Clone());
+            category->LastFormatPreset()->SetName("preset " + std::to_string(i));
+        }
+        document.SetContent({document.Root(), std::make_shared<DocumentBasis>()}, {});
+        return category;
+    }
 
     StudioDocument document;
     FaceIcons icons;
@@ -114,21 +131,41 @@ TEST_F(TreePaneTest, HasNoCurrentItemAfterAnotherDocument)
 
 TEST_F(TreePaneTest, SearchesTwentyThousandPresetsWithoutAHang)
 {
-    const auto category = IVXFormatNode::MallocFormatNode(document.Root());
-    category->SetName("Many");
-    const auto preset = IVXFormatPreset::MallocFormatPreset("WAV", "");
-    for (int i = 0; i < 20000; ++i)
-    {
-        category->AddFormatPreset(preset->Clone());
-        category->LastFormatPreset()->SetName("preset " + std::to_string(i));
-    }
-    document.SetContent({document.Root(), std::make_shared<DocumentBasis>()}, {});
+    AddMany(20000);
     QElapsedTimer timer;
     timer.start();
     QTest::keyClicks(&Search(), "preset 77");
     RecordProperty("milliseconds", static_cast<int>(timer.elapsed()));
     EXPECT_LT(timer.elapsed(), 5000) << "for nine keys";
     EXPECT_TRUE(Count().text().startsWith("560 ")) << qPrintable(Count().text()); // numbers with "77" in them
+}
+
+TEST_F(TreePaneTest, ShowsNothingOnTheWayWhereManyPresetsGo)
+{
+    const auto video = document.Root()->FindChild("Video");
+    std::vector<TreeItem> items;
+    for (int i = 0; i < video->FormatPresetCount(); ++i)
+        items.push_back({{}, video->GetFormatPreset(i)});
+    pane.Select(items);
+    const QAbstractItemModelTester tester(&Shown(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const QSignalSpy spy(&pane, &TreePane::CurrentChanged);
+    TreeEditor(document).Remove(items);
+    EXPECT_EQ(1, spy.count());
+    EXPECT_EQ(TreeItem{video}, pane.Current());
+    document.Undo().undo();
+    EXPECT_EQ(static_cast<int>(items.size()), video->FormatPresetCount());
+}
+
+TEST_F(TreePaneTest, StaysWhereItIsWhenSomethingIsAskedForThatIsGone)
+{
+    const auto video = document.Root()->FindChild("Video");
+    const TreeItem inside{video->GetChild(0)};
+    TreeEditor(document).Remove({{video}});
+    pane.SelectByPath("Audio/MP3");
+    QTest::keyClicks(&Search(), "mp3");
+    pane.Select({inside});
+    EXPECT_EQ("MP3", NameOf(pane.Current()));
+    EXPECT_EQ("mp3", Search().text());
 }
 
 } // namespace

@@ -68,11 +68,24 @@ Node PresetTree::ParentOf(const TreeItem& item) const
     return {};
 }
 
+// What is removed keeps its own categories, and they their parents.
+bool PresetTree::IsHere(Node node) const
+{
+    while (node != m_root)
+    {
+        const auto parent = node->Parent();
+        if (!parent || parent->IndexOfChild(node) < 0)
+            return false;
+        node = parent;
+    }
+    return true;
+}
+
 TreePlace PresetTree::PlaceOf(const TreeItem& item) const
 {
     const auto parent = ParentOf(item);
     const int index = parent ? IndexOf(*parent, item) : -1;
-    return index < 0 ? TreePlace{} : TreePlace{parent, index};
+    return index < 0 || !IsHere(parent) ? TreePlace{} : TreePlace{parent, index};
 }
 
 void PresetTree::Insert(const TreeItem& item, const TreePlace& place)

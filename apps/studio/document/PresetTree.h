@@ -54,6 +54,8 @@ signals:
     void Renamed(const Vexlor::Studio::TreeItem& item);
 
 private:
+    bool IsHere(std::shared_ptr<IVXFormatNode> node) const;
+
     std::shared_ptr<IVXFormatNode> m_root;
 };
 

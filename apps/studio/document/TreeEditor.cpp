@@ -9,6 +9,7 @@
 #include "IVXFormatPreset.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace Vexlor::Studio
 {
@@ -60,9 +61,16 @@ void TreeEditor::Remove(const Items& items)
     const UndoMacro macro(m_document.Undo(), items.size() == 1
                                                  ? tr("Delete \"%1\"").arg(NameOf(items.front()))
                                                  : tr("Delete Selection"));
-    for (const auto& item : items)
-        if (const auto place = m_document.Tree().PlaceOf(item); place.parent)
+    TreePlace place;
+    // From the end, so that no list moves up each time.
+    for (const auto& item : std::views::reverse(items))
+    {
+        // Most are in the category of the one before; to look for each in the whole tree takes long.
+        const int index = place.parent ? IndexOf(*place.parent, item) : -1;
+        place = index >= 0 ? TreePlace{place.parent, index} : m_document.Tree().PlaceOf(item);
+        if (place.parent)
             m_document.Undo().push(new RemoveEdit(m_document.Tree(), item, place));
+    }
 }
 
 bool TreeEditor::Move(const Items& items, DropPlace to)

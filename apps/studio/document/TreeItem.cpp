@@ -3,6 +3,8 @@
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
 
+#include <string>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -26,6 +28,23 @@ void AdoptDescendants(const std::shared_ptr<IVXFormatNode>& root)
             pending.push_back(child);
         }
     }
+}
+
+/// The names of the other items of the same kind there.
+std::unordered_set<std::string> NamesBeside(IVXFormatNode& parent, const TreeItem& item)
+{
+    std::unordered_set<std::string> names;
+    if (item.preset)
+        for (int i = 0; i < parent.FormatPresetCount(); ++i)
+        {
+            if (const auto other = parent.GetFormatPreset(i); other != item.preset)
+                names.insert(other->Name());
+        }
+    else
+        for (const auto& other : parent.GetChildList())
+            if (other != item.category)
+                names.insert(other->Name());
+    return names;
 }
 
 } // namespace
@@ -62,25 +81,14 @@ int CountLike(const IVXFormatNode& parent, const TreeItem& item)
 
 bool IsNameTaken(IVXFormatNode& parent, const TreeItem& item, const QString& name)
 {
-    const auto text = name.toStdString();
-    if (item.preset)
-        for (int i = 0; i < parent.FormatPresetCount(); ++i)
-        {
-            const auto other = parent.GetFormatPreset(i);
-            if (other != item.preset && other->Name() == text)
-                return true;
-        }
-    else
-        for (const auto& other : parent.GetChildList())
-            if (other != item.category && other->Name() == text)
-                return true;
-    return false;
+    return NamesBeside(parent, item).contains(name.toStdString());
 }
 
 QString FreeName(IVXFormatNode& parent, const TreeItem& item, const QString& name)
 {
+    const auto taken = NamesBeside(parent, item);
     auto free = name;
-    for (int number = 2; IsNameTaken(parent, item, free); ++number)
+    for (int number = 2; taken.contains(free.toStdString()); ++number)
         free = name + ' ' + QString::number(number);
     return free;
 }

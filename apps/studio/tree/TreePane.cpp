@@ -18,6 +18,17 @@ namespace Vexlor::Studio
 namespace
 {
 
+/// One range for rows that follow one another: each range costs something at every change of the tree.
+void Append(const QModelIndex& index, QItemSelection& selection)
+{
+    const bool follows = !selection.isEmpty() && selection.last().parent() == index.parent() &&
+                         selection.last().bottom() + 1 == index.row();
+    if (follows)
+        selection.last() = QItemSelectionRange(selection.last().topLeft(), index);
+    else
+        selection.append(QItemSelectionRange(index));
+}
+
 constexpr int kMostExpanded = 2000; // presets that are found and shown with all that is above them
 
 } // namespace
@@ -27,6 +38,8 @@ TreePane::TreePane(StudioDocument& document, const FaceIcons& icons, QWidget* pa
       m_filter(new FormatFilterModel(document, this)), m_search(new QLineEdit(this)),
       m_count(new QLabel(this)), m_view(new QTreeView(this))
 {
+    // Before the view hears of it.
+    connect(m_model, &QAbstractItemModel::rowsAboutToBeRemoved, this, &TreePane::LeaveRows);
     m_filter->setSourceModel(m_model);
     MakeSearch();
     MakeView();
@@ -98,14 +111,14 @@ std::shared_ptr<IVXFormatNode> TreePane::CurrentCategory() const
 
 void TreePane::Select(const std::vector<TreeItem>& items)
 {
-    if (items.empty())
+    if (items.empty() || !m_model->IndexOfItem(items.front()).isValid())
         return;
     if (!ShownIndexOf(items.front()).isValid())
         m_search->clear();
     QItemSelection selection;
     for (const auto& item : items)
         if (const auto index = ShownIndexOf(item); index.isValid())
-            selection.select(index, index);
+            Append(index, selection);
     const auto first = ShownIndexOf(items.front());
     m_view->setCurrentIndex(first);
     m_view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
@@ -164,6 +177,17 @@ void TreePane::ShowFound()
         m_view->expandAll();
     else
         m_view->expandToDepth(0);
+}
+
+// Where many rows go one by one, the next one is not worth being shown each time.
+void TreePane::LeaveRows(const QModelIndex& parent, int first, int last)
+{
+    auto index = m_filter->mapToSource(m_view->currentIndex());
+    while (index.isValid() && index.parent() != parent)
+        index = index.parent();
+    if (index.isValid() && index.row() >= first && index.row() <= last)
+        m_view->selectionModel()->setCurrentIndex(m_filter->mapFromSource(parent),
+                                                  QItemSelectionModel::NoUpdate);
 }
 
 void TreePane::KeepCurrent()

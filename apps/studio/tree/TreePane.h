@@ -58,6 +58,7 @@ private:
     void MakeView();
     void Narrow(const QString& text);
     void ShowFound();
+    void LeaveRows(const QModelIndex& parent, int first, int last);
     void KeepCurrent();
     QModelIndex ShownIndexOf(const TreeItem& item) const;
     TreeItem FirstFoundPreset(const QModelIndex& parent) const;
