@@ -127,12 +127,12 @@ void Recovery::Keep()
     const bool isBasis = &m_document.TextOfFile() == &m_document.Basis()->text; // which is not copied
     const auto work = [plan = m_document.Plan(), basis = m_document.Basis(), isBasis,
                        other = isBasis ? std::string() : m_document.TextOfFile(),
-                       document = '\n' + m_document.Path().toStdString(),
+                       document = m_document.Path().toStdString(),
                        pathFile = PathOf(kPathEnding).toStdString(),
                        textFile = PathOf(kTextEnding).toStdString()]
     {
         const auto hash = HashOf(isBasis ? basis->text : other).toStdString();
-        return WriteFileAtomically(pathFile, hash + document) &&
+        return WriteFileAtomically(pathFile, hash + '\n' + document) &&
                WriteFileAtomically(textFile, TextOf(plan, *basis));
     };
     RunAside<bool>(this, work, [this](const auto&) { EndKeeping(); });
