@@ -35,14 +35,8 @@ using Stream = std::shared_ptr<IVXCodecParameter>;
 
 bool IsVideo(const IVXCodecParameter& stream) { return stream.GetCodecType() == VXCodecTypeVideo; }
 
-// All encode a whole second but two, which work half a second on a frame of 2160p and have no quicker way.
-int FramesOfASecond(const IVXCodecParameter& stream, const std::string& encoder)
+int FramesOfASecond(const IVXCodecParameter& stream)
 {
-    constexpr int kLargest = 1920 * 1088;
-    constexpr int kFewFrames = 6;
-    const bool isSlow = encoder == "prores_ks" || encoder == "libtheora";
-    if (isSlow && stream.GetWidth() * stream.GetHeight() > kLargest)
-        return kFewFrames;
     return std::max(2, static_cast<int>(std::ceil(stream.GetFrameRate()->GetDoubleValue())));
 }
 
@@ -147,7 +141,7 @@ EncodedStream Trial::Encode(const IVXCodecParameter& stream)
     TellChanges(setup, stream);
     if (!setup.context)
         return Refused("not opened: " + setup.complaint);
-    return IsVideo(stream) ? EncodePictures(*setup.context, FramesOfASecond(stream, names.front()))
+    return IsVideo(stream) ? EncodePictures(*setup.context, FramesOfASecond(stream))
                            : EncodeSound(*setup.context);
 }
 

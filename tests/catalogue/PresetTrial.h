@@ -22,10 +22,9 @@ struct TriedPreset
     Findings notKept;  ///< read back as something else, for a reason that is known
 };
 
-/// Matches the preset with each of the first sources, opens the preferred encoders, encodes a second (of
-/// ProRes and Theora above 1080p a tenth), writes the file as the preset's container and reads it back. Every
-/// so many-th of the sources that leave anything to write is tried, beginning with another one for another
-/// turn.
+/// Matches the preset with each of the first sources, opens the preferred encoders, encodes a second, writes
+/// the file as the preset's container and reads it back. Every so many-th of the sources that leave anything
+/// to write is tried, beginning with another one for another turn.
 TriedPreset TryPreset(const PlacedPreset& placed, std::size_t turn, std::size_t step);
 
 } // namespace Vexlor
