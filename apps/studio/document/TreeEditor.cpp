@@ -9,7 +9,6 @@
 #include "IVXFormatPreset.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace Vexlor::Studio
 {
@@ -63,13 +62,13 @@ void TreeEditor::Remove(const Items& items)
                                                  : tr("Delete Selection"));
     TreePlace place;
     // From the end, so that no list moves up each time.
-    for (const auto& item : std::views::reverse(items))
+    for (auto item = items.rbegin(); item != items.rend(); ++item)
     {
         // Most are in the category of the one before; to look for each in the whole tree takes long.
-        const int index = place.parent ? IndexOf(*place.parent, item) : -1;
-        place = index >= 0 ? TreePlace{place.parent, index} : m_document.Tree().PlaceOf(item);
+        const int index = place.parent ? IndexOf(*place.parent, *item) : -1;
+        place = index >= 0 ? TreePlace{place.parent, index} : m_document.Tree().PlaceOf(*item);
         if (place.parent)
-            m_document.Undo().push(new RemoveEdit(m_document.Tree(), item, place));
+            m_document.Undo().push(new RemoveEdit(m_document.Tree(), *item, place));
     }
 }
 
