@@ -5,6 +5,7 @@
 #include "apps/studio/outcome/OutputName.h"
 #include "tests/media/MediaMaker.h"
 #include "tests/studio/OutcomeSources.h"
+#include "tests/studio/Patience.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -22,8 +23,6 @@ namespace
 
 using Kind = ConversionEnd::Kind;
 using testing::HasSubstr;
-
-constexpr int kPatience = 60'000;
 
 /// A folder with a conversion of a clip.
 class Conversion

@@ -2,6 +2,7 @@
 
 #include "apps/studio/document/StudioDocument.h"
 #include "apps/studio/document/TreeEditor.h"
+#include "tests/studio/Patience.h"
 
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
@@ -59,7 +60,7 @@ protected:
 
     void Wait()
     {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return !files.IsBusy(); }));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !files.IsBusy(); }, kPatience));
     }
 
     void RenameFirst(const QString& name)
@@ -188,7 +189,7 @@ TEST_F(DocumentFilesTest, TellsThatTheFileWasChangedByAnotherProgram)
     QSignalSpy changes(&files, &DocumentFiles::ChangedOnDisk);
     Open();
     Write("{\"name\": \"theirs\"}");
-    EXPECT_TRUE(changes.wait());
+    EXPECT_TRUE(changes.wait(kPatience));
 }
 
 TEST_F(DocumentFilesTest, IsNotSurprisedByWhatItSavedItself)
@@ -222,7 +223,7 @@ TEST_F(DocumentFilesTest, HasChangesWaitUntilItIsFree)
     files.WhenFree([&changes] { ++changes; });
     EXPECT_EQ(1, changes);
     Wait();
-    EXPECT_TRUE(QTest::qWaitFor([&changes] { return changes == 2; }));
+    EXPECT_TRUE(QTest::qWaitFor([&changes] { return changes == 2; }, kPatience));
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "tests/studio/OutcomePaneFixture.h"
+#include "tests/studio/Patience.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -11,8 +12,6 @@ namespace Vexlor::Studio
 
 namespace
 {
-
-constexpr int kPatience = 60'000;
 
 /// Conversions into a folder of their own.
 class OutcomeConvert : public OutcomePaneTest
@@ -140,7 +139,7 @@ TEST(OutcomePaneEnd, CancelsWhatItConverts)
         pane.ShowPreset(PresetOf("MKV", VXCodecID_VP9, VXCodecID_None));
         QSignalSpy opened(&pane, &OutcomePane::SourceOpened);
         pane.OpenSource(QString::fromStdString(Media::Clip("film.mp4")));
-        ASSERT_TRUE(opened.wait());
+        ASSERT_TRUE(opened.wait(kPatience));
         pane.ConvertTo(QString::fromStdString(folder.Path("out.mkv")));
         ASSERT_TRUE(pane.IsConverting());
         QTest::qWait(200);

@@ -5,6 +5,7 @@
 #include "apps/studio/outcome/OutcomePane.h"
 #include "tests/media/MediaMaker.h"
 #include "tests/studio/OutcomeSources.h"
+#include "tests/studio/Patience.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -34,7 +35,7 @@ protected:
     {
         QSignalSpy opened(&pane, &OutcomePane::SourceOpened);
         pane.OpenSource(path);
-        EXPECT_TRUE(opened.wait());
+        EXPECT_TRUE(opened.wait(kPatience));
     }
 
     /// The output's value of that name, of the picture where both have one.

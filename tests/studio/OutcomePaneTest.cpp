@@ -1,6 +1,7 @@
 #include "tests/studio/OutcomePaneFixture.h"
 
 #include "apps/studio/outcome/OutcomeView.h"
+#include "tests/studio/Patience.h"
 
 #include <QAccessible>
 #include <QComboBox>
@@ -57,9 +58,9 @@ TEST_F(OutcomePaneTest, FollowsAnEditAndItsUndo)
     pane.ShowPreset(preset);
     Open("film.mp4");
     document.EditPreset(preset, "Bounds", [](IVXFormatPreset& it) { SetBounds(it, 640, 360); });
-    EXPECT_TRUE(QTest::qWaitFor([this] { return Output("Size") == "640 x 360"; }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Output("Size") == "640 x 360"; }, kPatience));
     document.Undo().undo();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return Output("Size") == "1920 x 1080"; }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Output("Size") == "1920 x 1080"; }, kPatience));
 }
 
 TEST_F(OutcomePaneTest, TakesManyEditsAtOnce)
@@ -72,7 +73,7 @@ TEST_F(OutcomePaneTest, TakesManyEditsAtOnce)
                      { changes += first.siblingAtColumn(OutcomeModel::Name).data().toString() == "Size"; });
     for (int side = 100; side < 300; side += 2)
         document.EditPreset(preset, "Bounds", [side](IVXFormatPreset& it) { SetBounds(it, side, side); });
-    EXPECT_TRUE(QTest::qWaitFor([this] { return Output("Size") == "298 x 298"; }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Output("Size") == "298 x 298"; }, kPatience));
     EXPECT_LE(changes, 2);
 }
 
@@ -106,7 +107,7 @@ TEST_F(OutcomePaneTest, TakesAFileThatIsDropped)
     QSignalSpy opened(&pane, &OutcomePane::SourceOpened);
     QDropEvent drop({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&pane, &drop);
-    ASSERT_TRUE(opened.wait());
+    ASSERT_TRUE(opened.wait(kPatience));
     EXPECT_EQ(Path("film.mkv"), opened.front().front().toString());
     EXPECT_EQ("640 x 360", Cell("Size", OutcomeModel::Source));
 }
@@ -126,7 +127,7 @@ TEST_F(OutcomePaneTest, ShowsTheNewerOfTwoSourcesAlone)
     QSignalSpy opened(&pane, &OutcomePane::SourceOpened);
     pane.OpenSource(Path("film.mp4"));
     pane.OpenSource(Path("film.mkv"));
-    ASSERT_TRUE(opened.wait());
+    ASSERT_TRUE(opened.wait(kPatience));
     EXPECT_FALSE(opened.wait(200));
     EXPECT_EQ(Path("film.mkv"), opened.front().front().toString());
     EXPECT_EQ("film.mkv", Text("sourceName"));
@@ -138,7 +139,7 @@ TEST_F(OutcomePaneTest, TellsWhyAFileCannotBeReadAndKeepsWhatItShows)
     const auto broken = QString::fromStdString(folder.Write("broken.mp4", "no film at all"));
     Open("film.mp4");
     pane.OpenSource(broken);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return Text("sourceState").contains("broken.mp4: "); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Text("sourceState").contains("broken.mp4: "); }, kPatience));
     EXPECT_TRUE(IsShown("sourceState"));
     EXPECT_EQ("film.mp4", Text("sourceName"));
     EXPECT_EQ("1920 x 1080", Cell("Size", OutcomeModel::Source));
@@ -149,7 +150,8 @@ TEST_F(OutcomePaneTest, TellsWhyAFileCannotBeReadAndKeepsWhatItShows)
 TEST_F(OutcomePaneTest, TellsWhyTheFirstFileCannotBeRead)
 {
     pane.OpenSource("/nowhere/at all.mp4");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return Text("sourceState").contains("there is no such file"); }));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return Text("sourceState").contains("there is no such file"); }, kPatience));
     EXPECT_TRUE(IsShown("outcomeEmpty"));
 }
 
@@ -228,7 +230,7 @@ TEST_F(OutcomePaneTest, OpensAFileThatIsChosenInADialog)
     ASSERT_TRUE(dialog);
     QSignalSpy opened(&pane, &OutcomePane::SourceOpened);
     emit dialog->fileSelected(Path("film.mkv"));
-    EXPECT_TRUE(opened.wait());
+    EXPECT_TRUE(opened.wait(kPatience));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "apps/studio/document/DocumentFiles.h"
 #include "apps/studio/document/StudioDocument.h"
 #include "apps/studio/document/TreeEditor.h"
+#include "tests/studio/Patience.h"
 
 #include "IVXFormatNode.h"
 
@@ -34,7 +35,7 @@ protected:
     {
         QSignalSpy kept(&recovery, &Recovery::Kept);
         recovery.Keep();
-        ASSERT_TRUE(kept.wait());
+        ASSERT_TRUE(kept.wait(kPatience));
     }
 
     static QStringList Copies() { return QDir(Recovery::Folder()).entryList({"*.json"}); }
@@ -62,7 +63,7 @@ TEST_F(RecoveryTest, KeepsACopyAfterAChange)
     recovery.SetDelay(1);
     EXPECT_TRUE(Copies().isEmpty());
     Change(document);
-    ASSERT_TRUE(kept.wait());
+    ASSERT_TRUE(kept.wait(kPatience));
     EXPECT_EQ(1, Copies().size());
 }
 
@@ -152,7 +153,7 @@ TEST_F(RecoveryTest, DoesNotOverwriteWhatAnotherProgramHasWrittenSinceTheCrash)
     DocumentFiles files(document);
     QSignalSpy refused(&files, &DocumentFiles::SaveRefused);
     files.Save(path, false);
-    EXPECT_TRUE(refused.wait());
+    EXPECT_TRUE(refused.wait(kPatience));
 }
 
 TEST_F(RecoveryTest, SavesOverTheFileThatIsAsItWasBeforeTheCrash)
@@ -167,7 +168,7 @@ TEST_F(RecoveryTest, SavesOverTheFileThatIsAsItWasBeforeTheCrash)
     DocumentFiles files(document);
     QSignalSpy saved(&files, &DocumentFiles::Saved);
     files.Save(path, false);
-    ASSERT_TRUE(saved.wait());
+    ASSERT_TRUE(saved.wait(kPatience));
     EXPECT_TRUE(ReadContent(path.toStdString()).root->FindChild("Precious"));
 }
 

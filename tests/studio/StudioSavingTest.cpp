@@ -3,6 +3,7 @@
 #include "apps/studio/document/TreeEditor.h"
 #include "apps/studio/outcome/OutcomePane.h"
 #include "apps/studio/preset/QualityBitrate.h"
+#include "tests/studio/Patience.h"
 
 #include "IVXCodecPreset.h"
 #include "IVXCodecQualityPreset.h"
@@ -30,7 +31,7 @@ TEST_F(StudioSavingTest, LocksEveryWayToChangeWhatIsBeingSaved)
     QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
     window->Files().Save();
     QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
-    ASSERT_TRUE(saved.wait());
+    ASSERT_TRUE(saved.wait(kPatience));
     EXPECT_TRUE(window->Document().Root()->FindChild("Mine"));
     QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_FALSE(window->Document().Root()->FindChild("Mine"));
@@ -43,8 +44,8 @@ TEST_F(StudioSavingTest, KeepsWhatWasConvertedWhileItWasSavedAsAChange)
     QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
     window->Files().Save();
     emit window->Outcome().ConversionDone(window->Tree().Current().preset);
-    ASSERT_TRUE(saved.wait());
-    EXPECT_TRUE(QTest::qWaitFor([this] { return window->isWindowModified(); }));
+    ASSERT_TRUE(saved.wait(kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window->isWindowModified(); }, kPatience));
     EXPECT_EQ(1, window->Document().Root()->FindChild("Recently Used")->FormatPresetCount());
 }
 
@@ -77,7 +78,7 @@ TEST_F(StudioSavingTest, TellsOfABitrateOfOnesOwnThatTheFileDoesNotHold)
     ASSERT_TRUE(HasOwnBitrate(*window->Tree().Current().preset->VideoCodecPreset(1)));
     QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
     window->Files().Save();
-    ASSERT_TRUE(saved.wait());
+    ASSERT_TRUE(saved.wait(kPatience));
     EXPECT_TRUE(The<QLabel>("message").text().contains("\"MP4\""))
         << qPrintable(The<QLabel>("message").text());
     EXPECT_TRUE(The<QWidget>("messageBar").isVisible());

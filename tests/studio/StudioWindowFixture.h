@@ -3,6 +3,7 @@
 #include "apps/studio/tree/TreePane.h"
 #include "apps/studio/window/FileActions.h"
 #include "apps/studio/window/StudioWindow.h"
+#include "tests/studio/Patience.h"
 
 #include <QDir>
 #include <QLineEdit>
@@ -59,14 +60,14 @@ protected:
     {
         QSignalSpy opened(&window->Files().Files(), &DocumentFiles::Opened);
         window->Files().Open(path);
-        ASSERT_TRUE(opened.wait());
+        ASSERT_TRUE(opened.wait(kPatience));
     }
 
     void SaveTo(const QString& path)
     {
         QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
         window->Files().Files().Save(path, true);
-        ASSERT_TRUE(saved.wait());
+        ASSERT_TRUE(saved.wait(kPatience));
     }
 
     void FindAndSelect(const QString& text)

@@ -4,6 +4,7 @@
 #include "apps/studio/window/PresetActions.h"
 #include "apps/studio/window/StartOptions.h"
 #include "tests/media/MediaMaker.h"
+#include "tests/studio/Patience.h"
 
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
@@ -55,7 +56,7 @@ TEST_F(StudioWindowTest, MatchesAClip)
     window->Tree().SelectByPath("Video/MP4");
     auto* view = window->Outcome().findChild<QAbstractItemView*>();
     ASSERT_NE(nullptr, view);
-    EXPECT_TRUE(QTest::qWaitFor([view] { return view->model()->rowCount() > 10; }));
+    EXPECT_TRUE(QTest::qWaitFor([view] { return view->model()->rowCount() > 10; }, kPatience));
 }
 
 TEST_F(StudioWindowTest, SavesAndOpensAgain)
@@ -81,7 +82,7 @@ TEST_F(StudioWindowTest, AsksBeforeChangesAreLost)
     EXPECT_TRUE(window->isVisible());
     AnswerNext(QMessageBox::Discard);
     window->close();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }, kPatience));
 }
 
 TEST_F(StudioWindowTest, SavesOnCloseWhenToldTo)
@@ -92,7 +93,7 @@ TEST_F(StudioWindowTest, SavesOnCloseWhenToldTo)
     QTest::keyClick(&window->Tree().View(), Qt::Key_Delete);
     AnswerNext(QMessageBox::Save);
     window->close();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }, kPatience));
     const auto root = ReadContent(path.toStdString()).root;
     EXPECT_FALSE(root->FindChild("Video")->FindFormatPreset("MP4"));
 }
@@ -103,7 +104,7 @@ TEST_F(StudioWindowTest, OffersWhatACrashHasLeft)
     QTest::keyClick(&window->Tree().View(), Qt::Key_Delete);
     QSignalSpy kept(&window->Lost(), &Recovery::Kept);
     window->Lost().Keep();
-    ASSERT_TRUE(kept.wait());
+    ASSERT_TRUE(kept.wait(kPatience));
     const QDir recovery(Recovery::Folder());
     for (const auto& copy : recovery.entryInfoList({"*.json", "*.path"}))
         QFile::copy(copy.filePath(), recovery.filePath("crashed." + copy.suffix()));
@@ -135,9 +136,10 @@ TEST_F(StudioWindowTest, LeadsFromAFindingToItsPreset)
     window->Tree().SelectByPath("Video/MP4");
     QSignalSpy found(&window->Presets(), &PresetActions::Found);
     QTest::keyClick(window.get(), Qt::Key_F7);
-    ASSERT_TRUE(found.wait());
+    ASSERT_TRUE(found.wait(kPatience));
     auto& view = The<QTableView>("findings");
-    ASSERT_TRUE(QTest::qWaitFor([&view] { return view.isVisible() && view.model()->rowCount() > 0; }));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&view] { return view.isVisible() && view.model()->rowCount() > 0; }, kPatience));
     view.setCurrentIndex(view.model()->index(0, 0));
     QTest::keyClick(&view, Qt::Key_Return);
     EXPECT_EQ(preset, window->Tree().Current().preset);
@@ -153,7 +155,7 @@ TEST_F(StudioWindowTest, ImportsPresetsAndSelectsThem)
         R"({"PresetList": [{"PresetName": "Theirs", "FileFormat": "av_mp4", "VideoEncoder": "x264"}]})");
     file.close();
     window->Presets().Import(path);
-    ASSERT_TRUE(imported.wait());
+    ASSERT_TRUE(imported.wait(kPatience));
     EXPECT_EQ("Theirs", NameOf(window->Tree().Current()));
     EXPECT_EQ("Import", window->Document().Undo().undoText());
 }

@@ -23,7 +23,7 @@ double Luminance(const QColor& colour)
 /// As the guidelines for accessible content reckon it, from 1 to 21.
 double Contrast(const QColor& one, const QColor& other)
 {
-    const auto [dark, light] = std::minmax(Luminance(one), Luminance(other));
+    const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
     return (light + 0.05) / (dark + 0.05);
 }
 

@@ -4,6 +4,7 @@
 #include "apps/studio/document/TreeEditor.h"
 #include "apps/studio/tree/FaceIcons.h"
 #include "apps/studio/tree/FormatFilterModel.h"
+#include "tests/studio/Patience.h"
 
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
@@ -118,7 +119,7 @@ TEST_F(TreePaneTest, EditsANameInPlace)
     ASSERT_NE(nullptr, editor);
     QTest::keyClicks(editor, "Film");
     QTest::keyClick(editor, Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return NameOf(pane.Current()) == "Film"; }));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return NameOf(pane.Current()) == "Film"; }, kPatience));
 }
 
 TEST_F(TreePaneTest, HasNoCurrentItemAfterAnotherDocument)
