@@ -1,31 +1,15 @@
 #include "apps/studio/window/Themes.h"
+#include "apps/studio/outcome/DrawingColors.h"
 
 #include <QApplication>
 #include <QPalette>
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace
 {
 
 using namespace Vexlor::Studio;
-
-double Luminance(const QColor& colour)
-{
-    const auto linear = [](double part)
-    { return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
-}
-
-/// As the guidelines for accessible content reckon it, from 1 to 21.
-double Contrast(const QColor& one, const QColor& other)
-{
-    const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
-    return (light + 0.05) / (dark + 0.05);
-}
 
 class ThemesTest : public testing::TestWithParam<Theme>
 {
