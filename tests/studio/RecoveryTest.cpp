@@ -140,20 +140,30 @@ TEST_F(RecoveryTest, TellsWhyACopyCannotBeRestored)
     EXPECT_FALSE(document.Root()->FindChild("Precious"));
 }
 
+/// Restores a document after a crash and saves it over its file, which holds that text by then; whether it
+/// was saved.
+bool IsSavedOver(const QString& path, const std::string& text)
+{
+    WriteAnyway(path.toStdString(), text);
+    StudioDocument document;
+    Recovery recovery(document);
+    EXPECT_EQ("", recovery.Recover(*Recovery::FindLost()));
+    DocumentFiles files(document);
+    QSignalSpy saved(&files, &DocumentFiles::Saved);
+    QSignalSpy refused(&files, &DocumentFiles::SaveRefused);
+    files.Save(path, false);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return saved.count() + refused.count() > 0; }, kPatience));
+    return saved.count() > 0;
+}
+
 TEST_F(RecoveryTest, DoesNotOverwriteWhatAnotherProgramHasWrittenSinceTheCrash)
 {
     const QTemporaryDir folder;
     const auto path = folder.filePath("mine.json");
     WriteAnyway(path.toStdString(), R"({"name": "before"})");
     Crash(path);
-    WriteAnyway(path.toStdString(), R"({"name": "of another"})");
-    StudioDocument document;
-    Recovery recovery(document);
-    ASSERT_EQ("", recovery.Recover(*Recovery::FindLost()));
-    DocumentFiles files(document);
-    QSignalSpy refused(&files, &DocumentFiles::SaveRefused);
-    files.Save(path, false);
-    EXPECT_TRUE(refused.wait(kPatience));
+    EXPECT_FALSE(IsSavedOver(path, R"({"name": "of another"})"));
+    EXPECT_EQ("of another", ReadContent(path.toStdString()).root->Name());
 }
 
 TEST_F(RecoveryTest, SavesOverTheFileThatIsAsItWasBeforeTheCrash)
@@ -162,13 +172,7 @@ TEST_F(RecoveryTest, SavesOverTheFileThatIsAsItWasBeforeTheCrash)
     const auto path = folder.filePath("mine.json");
     WriteAnyway(path.toStdString(), R"({"name": "before"})");
     Crash(path);
-    StudioDocument document;
-    Recovery recovery(document);
-    ASSERT_EQ("", recovery.Recover(*Recovery::FindLost()));
-    DocumentFiles files(document);
-    QSignalSpy saved(&files, &DocumentFiles::Saved);
-    files.Save(path, false);
-    ASSERT_TRUE(saved.wait(kPatience));
+    EXPECT_TRUE(IsSavedOver(path, R"({"name": "before"})"));
     EXPECT_TRUE(ReadContent(path.toStdString()).root->FindChild("Precious"));
 }
 
