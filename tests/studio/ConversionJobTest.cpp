@@ -183,7 +183,8 @@ TEST(OutputName, IsOneThatIsNotThere)
     const auto source = QString::fromStdString(folder.Write("clip.mp4", "x"));
     EXPECT_EQ("clip.mkv", QFileInfo(FreeOutputName(source, "mkv")).fileName());
     EXPECT_EQ("clip 2.mp4", QFileInfo(FreeOutputName(source, "mp4")).fileName());
-    EXPECT_EQ("/elsewhere/clip.mp4", FreeOutputName(source, "mp4", "/elsewhere"));
+    EXPECT_EQ("/clip.mp4", FreeOutputName(source, "mp4", "/"));
+    EXPECT_EQ(FreeOutputName(source, "mp4"), FreeOutputName(source, "mp4", "/a folder that is gone"));
 }
 
 } // namespace

@@ -128,6 +128,8 @@ TEST_F(OutcomeConvert, GoesOnAsItBeganWhileThePresetIsEdited)
                         [](IVXFormatPreset& it) { it.SetMaxWidth(16), it.SetMaxHeight(16); });
     ASSERT_TRUE(done.wait(kPatience));
     EXPECT_EQ(160, ReadMediaFile(folder.Path("out.mkv")).parameter->GetVideoCodecParameter()->GetWidth());
+    EXPECT_EQ(0, done.front().back().value<std::shared_ptr<IVXFormatPreset>>()->MaxWidth());
+    EXPECT_EQ(preset, done.front().front().value<std::shared_ptr<IVXFormatPreset>>());
 }
 
 TEST(OutcomePaneEnd, CancelsWhatItConverts)

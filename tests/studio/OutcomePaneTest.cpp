@@ -187,7 +187,9 @@ TEST_F(OutcomePaneTest, WarnsWithTheWaysOut)
     pane.ShowPreset(preset);
     Open("film.mp4");
     EXPECT_TRUE(IsShown("outcomeNotices"));
-    EXPECT_TRUE(Text("outcomeNotices").contains("<li>raise the level to 4</li>"));
+    EXPECT_TRUE(Text("outcomeNotices").contains("level 1 is too low"));
+    EXPECT_FALSE(Text("outcomeNotices").contains("<li>"));
+    EXPECT_EQ("Raise the level to 4", Find<QPushButton>("remedy0")->text());
 }
 
 TEST_F(OutcomePaneTest, SaysWhyItCannotConvert)

@@ -142,7 +142,7 @@ TEST_F(PresetCodecsTest, SaysThatNoCodecIsChosen)
     const auto none = IVXFormatPreset::MallocFormatPreset(std::shared_ptr<const IVXJsonValue>());
     none->InsertVideoCodecPreset(IVXCodecPreset::MallocCodecPreset(VXCodecID_H264), 0);
     ASSERT_FALSE(none->CurrentVideoCodec()) << none->IndexForVideoCodecPresets();
-    pane.ShowPreset(none);
+    pane.ShowItem({{}, none});
     EXPECT_TRUE(Messages(Page(0)).contains("No codec is chosen: outputs have no picture."));
     EXPECT_EQ(-1, Marked(Codecs()));
 }
@@ -172,7 +172,7 @@ TEST_F(PresetCodecsTest, AnotherPresetOpensWithItsOwnCodec)
 {
     const auto other = IVXFormatPreset::MallocFormatPreset("MP4", "");
     other->SetIndexForVideoCodecPresets(3);
-    pane.ShowPreset(other);
+    pane.ShowItem({{}, other});
     EXPECT_EQ(3, Codecs().currentRow());
 }
 

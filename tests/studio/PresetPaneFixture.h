@@ -34,7 +34,7 @@ protected:
         preset->SetIndexForVideoCodecPresets(1);
         preset->SetIndexForAudioCodecPresets(1);
         pane.resize(700, 900);
-        pane.ShowPreset(preset);
+        pane.ShowItem({{}, preset});
         pane.show();
         QApplication::setActiveWindow(&pane);
         QCoreApplication::processEvents();

@@ -14,7 +14,7 @@ namespace
 
 TEST_F(PresetPaneTest, SaysWhatToDoWithoutAPreset)
 {
-    pane.ShowPreset(nullptr);
+    pane.ShowItem({});
     EXPECT_TRUE(pane.findChild<QLabel*>("empty")->isVisible());
     EXPECT_FALSE(pane.findChild<QLineEdit*>("name")->isVisible());
 }
@@ -74,7 +74,7 @@ TEST_F(PresetPaneTest, KeepsTheOldNameInPlaceOfOneThatIsThere)
 {
     const auto video = document.Root()->FindChild("Video");
     const auto mkv = video->FindFormatPreset("MKV");
-    pane.ShowPreset(mkv);
+    pane.ShowItem({{}, mkv});
     auto& name = *pane.findChild<QLineEdit*>("name");
     name.setFocus();
     name.selectAll();
@@ -121,7 +121,7 @@ TEST_F(PresetPaneTest, ShowsWhatOthersChange)
 TEST_F(PresetPaneTest, OpensAPresetOfSoundWithItsSound)
 {
     Page(0);
-    pane.ShowPreset(IVXFormatPreset::MallocFormatPreset("MP3", ""));
+    pane.ShowItem({{}, IVXFormatPreset::MallocFormatPreset("MP3", "")});
     EXPECT_EQ(1, pane.findChild<QTabWidget*>("streams")->currentIndex());
     EXPECT_TRUE(Messages(Page(0)).contains("MP3 holds no pictures."));
 }
@@ -217,7 +217,7 @@ TEST_F(PresetPaneTest, TheWheelChangesNothingThatIsNotBeingEdited)
 TEST_F(PresetPaneTest, GoesWhileAFieldIsBeingEdited)
 {
     auto other = std::make_unique<PresetPane>(document);
-    other->ShowPreset(preset);
+    other->ShowItem({{}, preset});
     other->show();
     QApplication::setActiveWindow(other.get());
     other->findChild<QLineEdit*>("name")->setFocus();

@@ -33,6 +33,7 @@ std::string NamesIn(IVXFormatNode& category)
 class RecentPresetsTest : public testing::Test
 {
 protected:
+    void Use(const IVXFormatPreset& preset) { document.NoteUsed(preset, preset); }
     std::string Recent() { return NamesIn(*document.Root()->FindChild("Recently Used")); }
 
     StudioDocument document;
@@ -40,29 +41,47 @@ protected:
 
 TEST_F(RecentPresetsTest, HaveTheNewestFirst)
 {
-    document.NoteUsed(*Named("a"));
-    document.NoteUsed(*Named("b"));
+    Use(*Named("a"));
+    Use(*Named("b"));
     EXPECT_EQ("b a ", Recent());
 }
 
 TEST_F(RecentPresetsTest, HaveNothingTwice)
 {
     for (const auto* name : {"a", "b", "a"})
-        document.NoteUsed(*Named(name));
+        Use(*Named(name));
     EXPECT_EQ("a b ", Recent());
 }
 
 TEST_F(RecentPresetsTest, AreCopies)
 {
     const auto preset = Named("a");
-    document.NoteUsed(*preset);
+    Use(*preset);
     EXPECT_NE(preset, document.Root()->FindChild("Recently Used")->FirstFormatPreset());
+}
+
+TEST_F(RecentPresetsTest, AreAsTheyWereWhenTheyWereUsed)
+{
+    const auto preset = Named("edited");
+    document.NoteUsed(*preset, *Named("used"));
+    EXPECT_EQ("used ", Recent());
+}
+
+TEST_F(RecentPresetsTest, KeepTheChangesOfOneThatStandsThereItself)
+{
+    Use(*Named("a"));
+    const auto own = document.Root()->FindChild("Recently Used")->FirstFormatPreset();
+    const auto asItWas = own->Clone();
+    document.EditPreset(own, "Bounds", [](IVXFormatPreset& preset) { preset.SetMaxWidth(77); });
+    document.NoteUsed(*own, *asItWas);
+    EXPECT_EQ("a ", Recent());
+    EXPECT_EQ(77, document.Root()->FindChild("Recently Used")->FirstFormatPreset()->MaxWidth());
 }
 
 TEST_F(RecentPresetsTest, AreNotMoreThanTheBound)
 {
     for (int i = 0; i < kMostRecentPresets + 3; ++i)
-        document.NoteUsed(*Named(std::to_string(i)));
+        Use(*Named(std::to_string(i)));
     const auto category = document.Root()->FindChild("Recently Used");
     EXPECT_EQ(kMostRecentPresets, category->FormatPresetCount());
     EXPECT_EQ(std::to_string(3), category->LastFormatPreset()->Name());
@@ -71,14 +90,15 @@ TEST_F(RecentPresetsTest, AreNotMoreThanTheBound)
 TEST_F(RecentPresetsTest, GetTheirCategoryWhereThereIsNone)
 {
     document.Tree().Remove({document.Root()->FindChild("Recently Used")}, document.Root());
-    document.NoteUsed(*Named("a"));
+    Use(*Named("a"));
     EXPECT_EQ(IVXArtworkImageMgr::CategoryFaceIDRecentList,
               document.Root()->FindChild("Recently Used")->FaceID());
 }
 
-TEST_F(RecentPresetsTest, AreNoStepAndNothingToLoseInTheBuiltInPresets)
+TEST_F(RecentPresetsTest, AreNoStepAndNothingToLose)
 {
-    document.NoteUsed(*Named("a"));
+    document.SetContent(BuiltInContent(), "/mine.json");
+    Use(*Named("a"));
     EXPECT_EQ(0, document.Undo().count());
     EXPECT_FALSE(document.IsModified());
 }
@@ -86,9 +106,9 @@ TEST_F(RecentPresetsTest, AreNoStepAndNothingToLoseInTheBuiltInPresets)
 TEST_F(RecentPresetsTest, OutliveTheUndoingOfAStep)
 {
     TreeEditor editor(document);
-    document.NoteUsed(*Named("a"));
+    Use(*Named("a"));
     editor.Remove({{{}, document.Root()->FindChild("Recently Used")->FirstFormatPreset()}});
-    document.NoteUsed(*Named("b"));
+    Use(*Named("b"));
     document.Undo().undo();
     EXPECT_EQ("a b ", Recent());
 }
@@ -96,9 +116,9 @@ TEST_F(RecentPresetsTest, OutliveTheUndoingOfAStep)
 TEST_F(RecentPresetsTest, MoveToTheFrontWhenTheyAreUsedThemselves)
 {
     for (const auto* name : {"a", "b"})
-        document.NoteUsed(*Named(name));
+        Use(*Named(name));
     const auto used = document.Root()->FindChild("Recently Used")->LastFormatPreset();
-    document.NoteUsed(*used);
+    Use(*used);
     EXPECT_EQ("a b ", Recent());
     EXPECT_EQ(used, document.Root()->FindChild("Recently Used")->FirstFormatPreset());
 }

@@ -185,4 +185,42 @@ TEST_F(RecoveryTest, HasTheRestoredCopyAtEveryMoment)
     EXPECT_EQ(1, Copies().size());
 }
 
+TEST_F(RecoveryTest, TellsOfEachReasonThatStandsInItsWayOnce)
+{
+    StudioDocument document;
+    Recovery recovery(document);
+    QSignalSpy told(&recovery, &Recovery::FailureChanged);
+    QDir(Recovery::Folder()).removeRecursively();
+    QFile inTheWay(Recovery::Folder());
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    Change(document);
+    KeepNow(recovery);
+    KeepNow(recovery);
+    ASSERT_EQ(1, told.count());
+    const auto reason = told.front().front().toString();
+    EXPECT_TRUE(reason.startsWith(Recovery::Folder() + '/')) << qPrintable(reason);
+    EXPECT_TRUE(reason.endsWith(": Not a directory")) << qPrintable(reason);
+    ASSERT_TRUE(inTheWay.remove());
+    KeepNow(recovery);
+    ASSERT_EQ(2, told.count());
+    EXPECT_EQ("", told.back().front().toString());
+    EXPECT_EQ(1, Copies().size());
+    EXPECT_FALSE(Recovery::FindLost()); // for it is locked again
+}
+
+TEST_F(RecoveryTest, TriesAgainByItself)
+{
+    StudioDocument document;
+    Recovery recovery(document);
+    recovery.SetDelay(1);
+    QSignalSpy told(&recovery, &Recovery::FailureChanged);
+    QDir(Recovery::Folder()).removeRecursively();
+    QFile inTheWay(Recovery::Folder());
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    Change(document);
+    ASSERT_TRUE(told.wait(kPatience));
+    ASSERT_TRUE(inTheWay.remove());
+    EXPECT_TRUE(QTest::qWaitFor([&told] { return told.count() == 2; }, kPatience));
+}
+
 } // namespace

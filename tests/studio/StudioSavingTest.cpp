@@ -37,16 +37,19 @@ TEST_F(StudioSavingTest, LocksEveryWayToChangeWhatIsBeingSaved)
     EXPECT_FALSE(window->Document().Root()->FindChild("Mine"));
 }
 
-TEST_F(StudioSavingTest, KeepsWhatWasConvertedWhileItWasSavedAsAChange)
+TEST_F(StudioSavingTest, KeepsWhatWasConvertedWhileItWasSaved)
 {
-    SaveTo(folder.filePath("mine.json"));
+    const auto path = folder.filePath("mine.json");
+    SaveTo(path);
     window->Tree().SelectByPath("Video/MKV");
     QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
     window->Files().Save();
-    emit window->Outcome().ConversionDone(window->Tree().Current().preset);
+    const auto preset = window->Tree().Current().preset;
+    emit window->Outcome().ConversionDone(preset, preset->Clone());
     ASSERT_TRUE(saved.wait(kPatience));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return window->isWindowModified(); }, kPatience));
-    EXPECT_EQ(1, window->Document().Root()->FindChild("Recently Used")->FormatPresetCount());
+    const auto recent = window->Document().Root()->FindChild("Recently Used");
+    EXPECT_TRUE(QTest::qWaitFor([&recent] { return recent->FormatPresetCount() == 1; }, kPatience));
+    EXPECT_EQ(1U, RecentStore::PresetsOf(path).size());
 }
 
 TEST_F(StudioSavingTest, ShowsARecentlyUsedPresetThatIsConvertedStill)
@@ -54,11 +57,12 @@ TEST_F(StudioSavingTest, ShowsARecentlyUsedPresetThatIsConvertedStill)
     for (const auto* path : {"Video/MKV", "Video/MP4"})
     {
         window->Tree().SelectByPath(path);
-        emit window->Outcome().ConversionDone(window->Tree().Current().preset);
+        const auto preset = window->Tree().Current().preset;
+        emit window->Outcome().ConversionDone(preset, preset->Clone());
     }
     window->Tree().SelectByPath("Recently Used/MKV");
     const auto shown = window->Tree().Current();
-    emit window->Outcome().ConversionDone(shown.preset);
+    emit window->Outcome().ConversionDone(shown.preset, shown.preset->Clone());
     EXPECT_EQ(shown, window->Tree().Current());
     EXPECT_EQ(0, window->Document().Tree().PlaceOf(shown).index);
 }
@@ -82,6 +86,16 @@ TEST_F(StudioSavingTest, TellsOfABitrateOfOnesOwnThatTheFileDoesNotHold)
     EXPECT_TRUE(The<QLabel>("message").text().contains("\"MP4\""))
         << qPrintable(The<QLabel>("message").text());
     EXPECT_TRUE(The<QWidget>("messageBar").isVisible());
+}
+
+TEST_F(StudioSavingTest, TellsWhileChangesCannotBePutBy)
+{
+    auto& line = The<QWidget>("lossMessage");
+    emit window->Lost().FailureChanged("/recovery: No space left on device");
+    EXPECT_TRUE(line.isVisible());
+    EXPECT_TRUE(line.findChild<QLabel*>("message")->text().endsWith("/recovery: No space left on device"));
+    emit window->Lost().FailureChanged("");
+    EXPECT_FALSE(line.isVisible());
 }
 
 } // namespace

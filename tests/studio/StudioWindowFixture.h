@@ -1,11 +1,13 @@
 #pragma once
 
+#include "apps/studio/document/RecentStore.h"
 #include "apps/studio/tree/TreePane.h"
 #include "apps/studio/window/FileActions.h"
 #include "apps/studio/window/StudioWindow.h"
 #include "tests/studio/Patience.h"
 
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -30,6 +32,14 @@ protected:
     {
         QSettings().clear();
         QDir(Recovery::Folder()).removeRecursively();
+        QFile::remove(RecentStore::Path());
+        OpenWindow();
+    }
+
+    /// A new window, as after the program has ended; the one before goes.
+    void OpenWindow()
+    {
+        window.reset();
         window = std::make_unique<StudioWindow>();
         window->show();
         window->activateWindow(); // or shortcuts lead nowhere

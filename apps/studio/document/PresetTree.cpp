@@ -33,6 +33,12 @@ void Take(const TreeItem& item, const Node& parent)
         parent->RemoveChild(item.category);
 }
 
+bool Stands(const TreeItem& item, const IVXFormatNode& parent, int index)
+{
+    return item.preset ? parent.GetFormatPreset(index) == item.preset
+                       : item.category && parent.GetChild(index) == item.category;
+}
+
 TreePlace Inside(const TreeItem& item, const TreePlace& place)
 {
     return {place.parent, std::clamp(place.index, 0, CountLike(*place.parent, item))};
@@ -88,6 +94,15 @@ TreePlace PresetTree::PlaceOf(const TreeItem& item) const
     return index < 0 || !IsHere(parent) ? TreePlace{} : TreePlace{parent, index};
 }
 
+TreePlace PresetTree::PlaceBeside(const TreeItem& item, const TreePlace& other) const
+{
+    for (int index = other.index - 1; other.parent && index <= other.index + 1; ++index)
+        if (Stands(item, *other.parent, index))
+            return {other.parent, index};
+    const int index = other.parent ? IndexOf(*other.parent, item) : -1;
+    return index >= 0 ? TreePlace{other.parent, index} : PlaceOf(item);
+}
+
 void PresetTree::Insert(const TreeItem& item, const TreePlace& place)
 {
     const auto inside = Inside(item, place);
@@ -123,10 +138,10 @@ void PresetTree::Move(const TreeItem& item, const Node& from, const TreePlace& t
     emit Moved();
 }
 
-void PresetTree::Rename(const TreeItem& item, const QString& name)
+void PresetTree::SetLook(const TreeItem& item, const ItemLook& look)
 {
-    SetName(item, name);
-    emit Renamed(item);
+    Studio::SetLook(item, look);
+    emit LookChanged(item);
 }
 
 } // namespace Vexlor::Studio

@@ -30,6 +30,8 @@ public:
     std::shared_ptr<IVXFormatNode> ParentOf(const TreeItem& item) const;
     /// Where the item stands; without a parent where it is not in the tree.
     TreePlace PlaceOf(const TreeItem& item) const;
+    /// The same, fast for what is or was beside that place.
+    TreePlace PlaceBeside(const TreeItem& item, const TreePlace& other) const;
 
     /// Puts the item there; an index beyond the list means its end.
     void Insert(const TreeItem& item, const TreePlace& place);
@@ -37,8 +39,8 @@ public:
     void Remove(const TreeItem& item, const std::shared_ptr<IVXFormatNode>& parent);
     /// Moves the item from its category into another one or inside of it; the index counts without the item.
     void Move(const TreeItem& item, const std::shared_ptr<IVXFormatNode>& from, const TreePlace& to);
-    /// Gives the item another name.
-    void Rename(const TreeItem& item, const QString& name);
+    /// Has the item called and shown so.
+    void SetLook(const TreeItem& item, const ItemLook& look);
 
 signals:
     void AboutToReset();
@@ -51,7 +53,7 @@ signals:
     void AboutToMove(const Vexlor::Studio::TreeItem& item, const Vexlor::Studio::TreePlace& from,
                      const Vexlor::Studio::TreePlace& to);
     void Moved();
-    void Renamed(const Vexlor::Studio::TreeItem& item);
+    void LookChanged(const Vexlor::Studio::TreeItem& item);
 
 private:
     bool IsHere(std::shared_ptr<IVXFormatNode> node) const;

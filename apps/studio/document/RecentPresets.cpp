@@ -30,26 +30,26 @@ Node RecentCategory(PresetTree& tree)
     return made;
 }
 
-bool IsSame(const IVXFormatPreset& one, const IVXFormatPreset& other)
+} // namespace
+
+bool IsSamePreset(const IVXFormatPreset& one, const IVXFormatPreset& other)
 {
     return one.Name() == other.Name() && one.FormatName() == other.FormatName();
 }
 
-} // namespace
-
-void NoteRecentPreset(PresetTree& tree, const IVXFormatPreset& preset)
+void NoteRecentPreset(PresetTree& tree, const IVXFormatPreset& preset, const IVXFormatPreset& asItWas)
 {
     const auto category = RecentCategory(tree);
     std::shared_ptr<IVXFormatPreset> own;
     for (int i = category->FormatPresetCount() - 1; i >= 0; --i)
         if (const auto old = category->GetFormatPreset(i); old.get() == &preset)
             own = old; // it stays the one that is shown, and that steps are about
-        else if (IsSame(*old, preset))
+        else if (IsSamePreset(*old, asItWas))
             tree.Remove({{}, old}, category);
     if (own)
         tree.Move({{}, own}, category, {category, 0});
     else
-        tree.Insert({{}, preset.Clone()}, {category, 0});
+        tree.Insert({{}, asItWas.Clone()}, {category, 0});
     while (category->FormatPresetCount() > kMostRecentPresets)
         tree.Remove({{}, category->LastFormatPreset()}, category);
 }

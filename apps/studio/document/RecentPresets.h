@@ -15,9 +15,13 @@ class PresetTree;
 /// So many presets are kept as recently used.
 inline constexpr int kMostRecentPresets = 10;
 
-/// Puts a copy of the preset to the front of the category of recently used ones, which is made where it is
-/// missing; a preset that stands there itself moves to the front. An older one of the same name and container
-/// goes, and so does what is beyond the bound. No step that can be undone: the category keeps itself.
-void NoteRecentPreset(PresetTree& tree, const IVXFormatPreset& preset);
+/// True for presets of one name and container, of which there is one among the recently used ones.
+bool IsSamePreset(const IVXFormatPreset& one, const IVXFormatPreset& other);
+
+/// Puts a copy of the preset, as it was when it was used, to the front of the category of recently used ones,
+/// which is made where it is missing; a preset that stands there itself moves to the front, as it is now. An
+/// older one of the same name and container goes, and so does what is beyond the bound. No step that can be
+/// undone: the category keeps itself.
+void NoteRecentPreset(PresetTree& tree, const IVXFormatPreset& preset, const IVXFormatPreset& asItWas);
 
 } // namespace Vexlor::Studio

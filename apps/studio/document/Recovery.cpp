@@ -78,15 +78,19 @@ std::string TextOfFile(const QString& path)
     }
 }
 
+void Write(const std::string& path, const std::string& text)
+{
+    std::string error;
+    if (!WriteFileAtomically(path, text, &error))
+        throw Tool::Failure(error);
+}
+
 } // namespace
 
 Recovery::Recovery(StudioDocument& document, QObject* parent)
     : QObject(parent), m_document(document), m_name(QUuid::createUuid().toString(QUuid::WithoutBraces))
 {
-    QDir().mkpath(Folder());
-    m_lock = std::make_unique<QLockFile>(PathOf(kLockEnding));
-    m_lock->setStaleLockTime(0);
-    m_lock->tryLock(0);
+    Lock();
     m_timer.setSingleShot(true);
     m_timer.setInterval(kDelay);
     connect(&m_timer, &QTimer::timeout, this, &Recovery::Keep);
@@ -107,6 +111,17 @@ QString Recovery::Folder()
 
 QString Recovery::PathOf(const char* ending) const { return Folder() + '/' + m_name + ending; }
 
+// Anew where somebody has cleared the folder away.
+void Recovery::Lock()
+{
+    if (QFileInfo::exists(PathOf(kLockEnding)))
+        return;
+    QDir().mkpath(Folder());
+    m_lock = std::make_unique<QLockFile>(PathOf(kLockEnding));
+    m_lock->setStaleLockTime(0);
+    m_lock->tryLock(0);
+}
+
 void Recovery::Schedule()
 {
     if (!m_document.IsModified())
@@ -124,6 +139,7 @@ void Recovery::Keep()
     m_isStale = false;
     m_isKeeping = true;
     m_clock.start();
+    Lock();
     const bool isBasis = &m_document.TextOfFile() == &m_document.Basis()->text; // which is not copied
     const auto work = [plan = m_document.Plan(), basis = m_document.Basis(), isBasis,
                        other = isBasis ? std::string() : m_document.TextOfFile(),
@@ -132,16 +148,20 @@ void Recovery::Keep()
                        textFile = PathOf(kTextEnding).toStdString()]
     {
         const auto hash = HashOf(isBasis ? basis->text : other).toStdString();
-        return WriteFileAtomically(pathFile, hash + '\n' + document) &&
-               WriteFileAtomically(textFile, TextOf(plan, *basis));
+        Write(pathFile, hash + '\n' + document);
+        Write(textFile, TextOf(plan, *basis));
+        return true;
     };
-    RunAside<bool>(this, work, [this](const auto&) { EndKeeping(); });
+    RunAside<bool>(this, work, [this](const auto& result) { EndKeeping(result.error); });
 }
 
-// While the copy was made the document may have been saved, or changed again.
-void Recovery::EndKeeping()
+// While the copy was made the document may have been saved, or changed again. What failed is tried again.
+void Recovery::EndKeeping(const QString& failure)
 {
     m_isKeeping = false;
+    m_isStale |= !failure.isEmpty();
+    TellOf(failure.isEmpty() || failure.startsWith(Folder()) ? failure
+                                                             : PathOf(kTextEnding) + ": " + failure);
     m_timer.setInterval(std::max(m_timer.interval(), static_cast<int>(m_clock.elapsed()) * kRest));
     emit Kept();
     if (!m_document.IsModified())
@@ -150,10 +170,19 @@ void Recovery::EndKeeping()
         m_timer.start();
 }
 
+void Recovery::TellOf(const QString& failure)
+{
+    if (failure == m_failure)
+        return;
+    m_failure = failure;
+    emit FailureChanged(failure);
+}
+
 void Recovery::Forget()
 {
     m_timer.stop();
     m_isStale = false;
+    TellOf({}); // there is nothing to lose
     for (const auto* ending : {kTextEnding, kPathEnding})
         QFile::remove(PathOf(ending));
 }

@@ -53,12 +53,16 @@ public:
     static void Discard(const LostDocument& lost);
 
 signals:
-    /// After a copy was made.
+    /// After a copy was made, or could not be made.
     void Kept();
+    /// Copies cannot be made for another reason than before; for none any more where it is empty.
+    void FailureChanged(const QString& reason);
 
 private:
+    void Lock();
     void Schedule();
-    void EndKeeping();
+    void EndKeeping(const QString& failure);
+    void TellOf(const QString& failure);
     QString PathOf(const char* ending) const;
 
     StudioDocument& m_document;
@@ -68,6 +72,7 @@ private:
     QElapsedTimer m_clock;
     bool m_isStale = false;   // the copy lacks changes
     bool m_isKeeping = false; // a copy is being made
+    QString m_failure;        // of the last copy
 };
 
 } // namespace Vexlor::Studio

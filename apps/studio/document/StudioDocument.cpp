@@ -2,6 +2,7 @@
 
 #include "PresetEdit.h"
 #include "RecentPresets.h"
+#include "TreeEdits.h"
 
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
@@ -37,7 +38,7 @@ StudioDocument::StudioDocument(QObject* parent) : QObject(parent), m_basis(std::
 {
     connect(&m_undo, &QUndoStack::indexChanged, this, &StudioDocument::StateChanged);
     connect(&m_undo, &QUndoStack::cleanChanged, this, &StudioDocument::StateChanged);
-    connect(&m_tree, &PresetTree::Renamed, this, &StudioDocument::TellOfName);
+    connect(&m_tree, &PresetTree::LookChanged, this, &StudioDocument::TellOfLook);
 }
 
 StudioDocument::~StudioDocument()
@@ -50,23 +51,28 @@ QString StudioDocument::Title() const
     return m_path.isEmpty() ? tr("Built-in presets") : QFileInfo(m_path).fileName();
 }
 
-bool StudioDocument::IsModified() const { return !m_undo.isClean() || (m_hasNewRecent && !m_path.isEmpty()); }
+bool StudioDocument::IsModified() const { return !m_undo.isClean(); }
 
 void StudioDocument::SetContent(DocumentContent content, const QString& path)
+{
+    TakeUp(std::move(content), path);
+    emit Replaced();
+}
+
+void StudioDocument::TakeUp(DocumentContent content, const QString& path)
 {
     m_undo.clear();
     m_path = path;
     m_basis = std::move(content.basis);
     m_asRead = PresetsOf(*m_basis);
     m_textOfFile.reset();
-    m_hasNewRecent = false;
     m_tree.SetRoot(std::move(content.root));
     emit StateChanged();
 }
 
 void StudioDocument::SetRecovered(DocumentContent content, const QString& path, std::string textOfFile)
 {
-    SetContent(std::move(content), path);
+    TakeUp(std::move(content), path);
     // The text of the tree comes out of what was found, while the file is expected to be as it was.
     m_undo.resetClean();
     m_textOfFile = std::move(textOfFile);
@@ -84,7 +90,6 @@ void StudioDocument::SetSaved(const QString& path, std::shared_ptr<const Documen
     m_basis = std::move(basis);
     m_asRead = PresetsOf(*m_basis);
     m_textOfFile.reset();
-    m_hasNewRecent = false;
     m_undo.setClean();
     emit StateChanged();
 }
@@ -102,14 +107,25 @@ void StudioDocument::EditPreset(const std::shared_ptr<IVXFormatPreset>& preset, 
     m_undo.push(edit.release());
 }
 
-void StudioDocument::NoteUsed(const IVXFormatPreset& preset)
+void StudioDocument::EditLook(const TreeItem& item, const QString& what,
+                              const std::function<void(ItemLook&)>& change, int run)
 {
-    NoteRecentPreset(m_tree, preset);
-    m_hasNewRecent = true;
-    emit StateChanged();
+    const auto before = LookOf(item);
+    auto after = before;
+    change(after);
+    if (after == before)
+        return;
+    auto edit = std::make_unique<LookEdit>(m_tree, item, std::move(after), run);
+    edit->setText(what);
+    m_undo.push(edit.release());
 }
 
-void StudioDocument::TellOfName(const TreeItem& item)
+void StudioDocument::NoteUsed(const IVXFormatPreset& preset, const IVXFormatPreset& asItWas)
+{
+    NoteRecentPreset(m_tree, preset, asItWas);
+}
+
+void StudioDocument::TellOfLook(const TreeItem& item)
 {
     if (item.preset)
         TellOfChange(item.preset);

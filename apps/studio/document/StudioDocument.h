@@ -37,7 +37,7 @@ public:
     const QString& Path() const { return m_path; }
     /// The file's name, or one for a document without a file.
     QString Title() const;
-    /// True when there is something to lose. Recently used presets count where there is a file for them.
+    /// True when there is something to lose. Recently used presets are kept beside the document.
     bool IsModified() const;
 
     /// Takes up another document; nothing can be undone then.
@@ -61,10 +61,15 @@ public:
     /// slider. Nothing happens where the change leaves the preset as it was.
     void EditPreset(const std::shared_ptr<IVXFormatPreset>& preset, const QString& what,
                     const std::function<void(IVXFormatPreset&)>& change, int run = 0);
-    /// Keeps the preset as a recently used one.
-    void NoteUsed(const IVXFormatPreset& preset);
+    /// Changes what a category or a preset is called and how it is shown, in the same way.
+    void EditLook(const TreeItem& item, const QString& what, const std::function<void(ItemLook&)>& change,
+                  int run = 0);
+    /// Has the preset among the recently used ones, as it was when it was used.
+    void NoteUsed(const IVXFormatPreset& preset, const IVXFormatPreset& asItWas);
 
 signals:
+    /// After another document was taken up, but for one that was found after a crash.
+    void Replaced();
     /// After each change of a format preset's content, undo and redo included. The codec presets inside are
     /// then other objects than before.
     void PresetChanged(const std::shared_ptr<Vexlor::IVXFormatPreset>& preset);
@@ -72,7 +77,8 @@ signals:
     void StateChanged();
 
 private:
-    void TellOfName(const TreeItem& item);
+    void TakeUp(DocumentContent content, const QString& path);
+    void TellOfLook(const TreeItem& item);
     void TellOfChange(const std::shared_ptr<IVXFormatPreset>& preset);
 
     PresetTree m_tree;
@@ -81,7 +87,6 @@ private:
     std::shared_ptr<const DocumentBasis> m_basis;
     std::unordered_set<const void*> m_asRead; // presets whose text in the basis is still theirs
     std::optional<std::string> m_textOfFile;  // where it is not what the tree came from
-    bool m_hasNewRecent = false;
 };
 
 } // namespace Vexlor::Studio

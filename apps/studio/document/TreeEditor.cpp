@@ -1,5 +1,6 @@
 #include "TreeEditor.h"
 
+#include "FreeNames.h"
 #include "StudioDocument.h"
 #include "TreeEdits.h"
 #include "UndoMacro.h"
@@ -49,8 +50,17 @@ QString TreeEditor::Rename(const TreeItem& item, const QString& name)
     if (parent && IsNameTaken(*parent, item, trimmed))
         return tr("\"%1\" is there already.").arg(trimmed);
     const UndoMacro macro(m_document.Undo(), tr("Rename"));
-    m_document.Undo().push(new RenameEdit(m_document.Tree(), item, trimmed));
+    SetName(item, trimmed);
     return {};
+}
+
+void TreeEditor::SetName(const TreeItem& item, const QString& name)
+{
+    auto look = LookOf(item);
+    if (look.name == name)
+        return;
+    look.name = name;
+    m_document.Undo().push(new LookEdit(m_document.Tree(), item, std::move(look)));
 }
 
 void TreeEditor::Remove(const Items& items)
@@ -64,9 +74,7 @@ void TreeEditor::Remove(const Items& items)
     // From the end, so that no list moves up each time.
     for (auto item = items.rbegin(); item != items.rend(); ++item)
     {
-        // Most are in the category of the one before; to look for each in the whole tree takes long.
-        const int index = place.parent ? IndexOf(*place.parent, *item) : -1;
-        place = index >= 0 ? TreePlace{place.parent, index} : m_document.Tree().PlaceOf(*item);
+        place = m_document.Tree().PlaceBeside(*item, place);
         if (place.parent)
             m_document.Undo().push(new RemoveEdit(m_document.Tree(), *item, place));
     }
@@ -80,8 +88,16 @@ bool TreeEditor::Move(const Items& items, DropPlace to)
     if (items.empty() || (items.size() == 1 && IsThere(items.front(), to)))
         return true;
     const UndoMacro macro(m_document.Undo(), tr("Move"));
+    FreeNames names(*to.parent);
+    TreePlace from;
     for (const auto& item : items)
-        MoveOne(item, to);
+    {
+        from = m_document.Tree().PlaceBeside(item, from);
+        if (from.parent && from.parent != to.parent)
+            SetName(item, names.Take(item, NameOf(item)));
+        if (from.parent)
+            MoveOne(item, from, to);
+    }
     return true;
 }
 
@@ -92,18 +108,12 @@ bool TreeEditor::IsThere(const TreeItem& item, DropPlace place) const
     return from.parent == place.parent && (index == from.index || index == from.index + 1);
 }
 
-void TreeEditor::MoveOne(const TreeItem& item, DropPlace& to)
+void TreeEditor::MoveOne(const TreeItem& item, const TreePlace& from, DropPlace& to)
 {
-    const auto from = m_document.Tree().PlaceOf(item);
-    if (!from.parent)
-        return;
     auto& index = IndexFor(item, to);
     const bool isBehind = from.parent == to.parent && from.index < index;
     const int last = CountLike(*to.parent, item) - (from.parent == to.parent ? 1 : 0);
     const int target = std::clamp(index - (isBehind ? 1 : 0), 0, last);
-    if (from.parent != to.parent && IsNameTaken(*to.parent, item, NameOf(item)))
-        m_document.Undo().push(
-            new RenameEdit(m_document.Tree(), item, FreeName(*to.parent, item, NameOf(item))));
     m_document.Undo().push(new MoveEdit(m_document.Tree(), item, from, {to.parent, target}));
     index = target + 1;
 }
@@ -111,11 +121,12 @@ void TreeEditor::MoveOne(const TreeItem& item, DropPlace& to)
 Items TreeEditor::Copy(const Items& items, DropPlace to)
 {
     const UndoMacro macro(m_document.Undo(), tr("Copy"));
+    FreeNames names(*to.parent);
     Items copies;
     for (const auto& item : items)
     {
         const auto copy = CopyOf(item);
-        SetName(copy, FreeName(*to.parent, copy, NameOf(copy)));
+        Studio::SetName(copy, names.Take(copy, NameOf(copy)));
         auto& index = IndexFor(copy, to);
         index = std::clamp(index, 0, CountLike(*to.parent, copy));
         Insert(copy, {to.parent, index++});
@@ -161,7 +172,7 @@ TreeItem TreeEditor::OwnCategory()
 TreeItem TreeEditor::AddCategory(const Node& parent, const QString& name)
 {
     TreeItem item{IVXFormatNode::MallocFormatNode(Node())};
-    SetName(item, FreeName(*parent, item, name));
+    Studio::SetName(item, FreeNames(*parent).Take(item, name));
     const UndoMacro macro(m_document.Undo(), tr("New Category"));
     Insert(item, {parent, parent->ChildCount()});
     return item;
@@ -172,7 +183,7 @@ TreeItem TreeEditor::AddPreset(const Node& parent, const QString& container)
     TreeItem item{{}, IVXFormatPreset::MallocFormatPreset(container.toStdString(), {})};
     if (!item)
         return {};
-    SetName(item, FreeName(*parent, item, container));
+    Studio::SetName(item, FreeNames(*parent).Take(item, container));
     const UndoMacro macro(m_document.Undo(), tr("New Preset"));
     Insert(item, {parent, parent->FormatPresetCount()});
     return item;
@@ -194,10 +205,11 @@ void TreeEditor::Insert(const TreeItem& item, const TreePlace& place)
 // As deep as the categories that are there already.
 void TreeEditor::Absorb(const Node& into, IVXFormatNode& node, Items& presets)
 {
+    FreeNames names(*into);
     for (int i = 0; i < node.FormatPresetCount(); ++i)
     {
         const TreeItem preset{{}, node.GetFormatPreset(i)};
-        SetName(preset, FreeName(*into, preset, NameOf(preset)));
+        Studio::SetName(preset, names.Take(preset, NameOf(preset)));
         Insert(preset, {into, into->FormatPresetCount()});
         presets.push_back(preset);
     }

@@ -57,7 +57,8 @@ private:
     TreeItem OwnCategory();
     void Insert(const TreeItem& item, const TreePlace& place);
     bool IsThere(const TreeItem& item, DropPlace place) const;
-    void MoveOne(const TreeItem& item, DropPlace& to);
+    void SetName(const TreeItem& item, const QString& name);
+    void MoveOne(const TreeItem& item, const TreePlace& from, DropPlace& to);
     void Absorb(const std::shared_ptr<IVXFormatNode>& into, IVXFormatNode& node, Items& presets);
 
     StudioDocument& m_document;

@@ -5,6 +5,13 @@
 namespace Vexlor::Studio
 {
 
+namespace
+{
+
+constexpr int kMergeableID = 2; // another than that of a preset's content
+
+} // namespace
+
 InsertEdit::InsertEdit(PresetTree& tree, TreeItem item, TreePlace place)
     : m_tree(tree), m_item(std::move(item)), m_place(std::move(place))
 {
@@ -32,13 +39,25 @@ void MoveEdit::undo() { m_tree.Move(m_item, m_to.parent, m_from); }
 
 void MoveEdit::redo() { m_tree.Move(m_item, m_from.parent, m_to); }
 
-RenameEdit::RenameEdit(PresetTree& tree, TreeItem item, QString name)
-    : m_tree(tree), m_item(std::move(item)), m_before(NameOf(m_item)), m_after(std::move(name))
+LookEdit::LookEdit(PresetTree& tree, TreeItem item, ItemLook look, int run)
+    : m_tree(tree), m_item(std::move(item)), m_before(LookOf(m_item)), m_after(std::move(look)), m_run(run)
 {
 }
 
-void RenameEdit::undo() { m_tree.Rename(m_item, m_before); }
+int LookEdit::id() const { return m_run == 0 ? -1 : kMergeableID; }
 
-void RenameEdit::redo() { m_tree.Rename(m_item, m_after); }
+bool LookEdit::mergeWith(const QUndoCommand* other)
+{
+    const auto* next = dynamic_cast<const LookEdit*>(other);
+    if (next == nullptr || !(next->m_item == m_item) || next->m_run != m_run)
+        return false;
+    m_after = next->m_after;
+    setObsolete(m_after == m_before);
+    return true;
+}
+
+void LookEdit::undo() { m_tree.SetLook(m_item, m_before); }
+
+void LookEdit::redo() { m_tree.SetLook(m_item, m_after); }
 
 } // namespace Vexlor::Studio

@@ -50,19 +50,23 @@ private:
     TreePlace m_to;
 };
 
-/// An item gets another name.
-class RenameEdit final : public QUndoCommand
+/// An item is called or shown in another way.
+class LookEdit final : public QUndoCommand
 {
 public:
-    RenameEdit(PresetTree& tree, TreeItem item, QString name);
+    /// Steps of one nonzero run become one.
+    LookEdit(PresetTree& tree, TreeItem item, ItemLook look, int run = 0);
+    int id() const override;
+    bool mergeWith(const QUndoCommand* other) override;
     void undo() override;
     void redo() override;
 
 private:
     PresetTree& m_tree;
     TreeItem m_item;
-    QString m_before;
-    QString m_after;
+    ItemLook m_before;
+    ItemLook m_after;
+    int m_run;
 };
 
 } // namespace Vexlor::Studio

@@ -3,8 +3,7 @@
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
 
-#include <string>
-#include <unordered_set>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -30,21 +29,12 @@ void AdoptDescendants(const std::shared_ptr<IVXFormatNode>& root)
     }
 }
 
-/// The names of the other items of the same kind there.
-std::unordered_set<std::string> NamesBeside(IVXFormatNode& parent, const TreeItem& item)
+template <typename Look>
+void Wear(Look& object, const ItemLook& look)
 {
-    std::unordered_set<std::string> names;
-    if (item.preset)
-        for (int i = 0; i < parent.FormatPresetCount(); ++i)
-        {
-            if (const auto other = parent.GetFormatPreset(i); other != item.preset)
-                names.insert(other->Name());
-        }
-    else
-        for (const auto& other : parent.GetChildList())
-            if (other != item.category)
-                names.insert(other->Name());
-    return names;
+    object.SetName(look.name.toStdString());
+    object.SetDescription(look.description.toStdString());
+    object.SetFaceID(look.faceID);
 }
 
 } // namespace
@@ -61,12 +51,22 @@ QString DescriptionOf(const TreeItem& item)
 
 int FaceOf(const TreeItem& item) { return item.preset ? item.preset->FaceID() : item.category->FaceID(); }
 
+ItemLook LookOf(const TreeItem& item) { return {NameOf(item), DescriptionOf(item), FaceOf(item)}; }
+
 void SetName(const TreeItem& item, const QString& name)
 {
     if (item.preset)
         item.preset->SetName(name.toStdString());
     else
         item.category->SetName(name.toStdString());
+}
+
+void SetLook(const TreeItem& item, const ItemLook& look)
+{
+    if (item.preset)
+        Wear(*item.preset, look);
+    else
+        Wear(*item.category, look);
 }
 
 int IndexOf(IVXFormatNode& parent, const TreeItem& item)
@@ -81,16 +81,14 @@ int CountLike(const IVXFormatNode& parent, const TreeItem& item)
 
 bool IsNameTaken(IVXFormatNode& parent, const TreeItem& item, const QString& name)
 {
-    return NamesBeside(parent, item).contains(name.toStdString());
-}
-
-QString FreeName(IVXFormatNode& parent, const TreeItem& item, const QString& name)
-{
-    const auto taken = NamesBeside(parent, item);
-    auto free = name;
-    for (int number = 2; taken.contains(free.toStdString()); ++number)
-        free = name + ' ' + QString::number(number);
-    return free;
+    const auto wanted = name.toStdString();
+    if (item.category)
+        return std::ranges::any_of(parent.GetChildList(), [&](const auto& other)
+                                   { return other != item.category && other->Name() == wanted; });
+    for (int i = 0; i < parent.FormatPresetCount(); ++i)
+        if (const auto other = parent.GetFormatPreset(i); other != item.preset && other->Name() == wanted)
+            return true;
+    return false;
 }
 
 bool Holds(const TreeItem& item, std::shared_ptr<IVXFormatNode> category)

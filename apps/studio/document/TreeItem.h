@@ -24,6 +24,16 @@ struct TreeItem
     friend bool operator==(const TreeItem&, const TreeItem&) = default;
 };
 
+/// What an item is called and how it is shown.
+struct ItemLook
+{
+    QString name = {};
+    QString description = {};
+    int faceID = 0; ///< key of the icon
+
+    friend bool operator==(const ItemLook&, const ItemLook&) = default;
+};
+
 /// Where something stands, or is to stand: in that category, at that position of the list of its kind.
 struct TreePlace
 {
@@ -35,7 +45,9 @@ QString NameOf(const TreeItem& item);
 QString DescriptionOf(const TreeItem& item);
 /// Key of the icon.
 int FaceOf(const TreeItem& item);
+ItemLook LookOf(const TreeItem& item);
 void SetName(const TreeItem& item, const QString& name);
+void SetLook(const TreeItem& item, const ItemLook& look);
 
 /// Position in the list of its kind; -1 where it does not stand there.
 int IndexOf(IVXFormatNode& parent, const TreeItem& item);
@@ -43,8 +55,6 @@ int IndexOf(IVXFormatNode& parent, const TreeItem& item);
 int CountLike(const IVXFormatNode& parent, const TreeItem& item);
 /// True when another item of the same kind in that category has that name.
 bool IsNameTaken(IVXFormatNode& parent, const TreeItem& item, const QString& name);
-/// The name, with a number behind it where it is taken.
-QString FreeName(IVXFormatNode& parent, const TreeItem& item, const QString& name);
 /// True for a category that is the other one or holds it, however deep.
 bool Holds(const TreeItem& item, std::shared_ptr<IVXFormatNode> category);
 /// A deep copy whose categories know their new parents.

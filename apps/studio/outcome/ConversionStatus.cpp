@@ -1,7 +1,7 @@
 #include "ConversionStatus.h"
 
 #include "ConversionTexts.h"
-#include "ShownText.h"
+#include "apps/studio/ShownText.h"
 
 #include <QAccessible>
 #include <QDesktopServices>
@@ -46,11 +46,11 @@ QString DetailsOf(const Tool::ConversionResult& result, const QStringList& chang
 
 ConversionStatus::ConversionStatus(QWidget* parent)
     : QWidget(parent), m_text(NewLabel(this, "conversionText")), m_bar(new QProgressBar(this)),
-      m_details(NewLabel(this, "conversionDetails")), m_replace(AddButton(tr("&Replace"), "replaceOutput")),
-      m_another(AddButton(tr("&Another Name…"), "anotherOutput")),
-      m_dismiss(AddButton(tr("&Not Now"), "dismissQuestion")),
-      m_cancel(AddButton(tr("Cance&l"), "cancelConversion")),
-      m_folder(AddButton(tr("&Show in Folder"), "showInFolder"))
+      m_details(NewLabel(this, "conversionDetails")), m_replace(AddButton(tr("Replace"), "replaceOutput")),
+      m_another(AddButton(tr("Another Name…"), "anotherOutput")),
+      m_dismiss(AddButton(tr("Not Now"), "dismissQuestion")),
+      m_cancel(AddButton(tr("Cancel"), "cancelConversion")),
+      m_folder(AddButton(tr("Show in Folder"), "showInFolder"))
 {
     m_bar->setObjectName(QStringLiteral("conversionProgress"));
     m_bar->setAccessibleName(tr("Progress of the conversion"));

@@ -1,6 +1,5 @@
 #include "ConversionTexts.h"
-
-#include "ShownText.h"
+#include "apps/studio/ShownText.h"
 
 #include <QLatin1Char>
 #include <QStringList>

@@ -3,10 +3,11 @@
 #include "ConversionStatus.h"
 #include "ConversionTexts.h"
 #include "OutputName.h"
-#include "ShownText.h"
 #include "apps/host/Failure.h"
+#include "apps/studio/ShownText.h"
 
 #include "IVXFormatParameter.h"
+#include "IVXFormatPreset.h"
 
 #include <QComboBox>
 #include <QFileDialog>
@@ -14,6 +15,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace Vexlor::Studio
 {
@@ -102,6 +105,14 @@ Tool::PictureFitting ConvertPanel::Fitting() const
     return static_cast<Tool::PictureFitting>(m_fit->currentData().toInt());
 }
 
+OutputHabits ConvertPanel::Habits() const { return {static_cast<int>(Fitting()), m_folder}; }
+
+void ConvertPanel::SetHabits(const OutputHabits& habits)
+{
+    m_fit->setCurrentIndex(std::max(0, m_fit->findData(habits.fitting)));
+    m_folder = habits.folder;
+}
+
 /// Why the button is disabled; empty where it is not.
 QString ConvertPanel::Reason() const
 {
@@ -164,6 +175,7 @@ void ConvertPanel::Start(const QString& path, bool overwrites)
     if (!m_convert->isEnabled())
         return;
     m_running = m_offer;
+    m_asItWas = m_running.preset->Clone(); // it may be edited meanwhile
     m_folder = QFileInfo(path).absolutePath();
     const auto& match = m_running.outcome->match;
     const auto source = m_running.source.toStdString();
@@ -195,8 +207,9 @@ void ConvertPanel::End(const ConversionEnd& end)
     if (end.kind != ConversionEnd::Kind::Done)
         m_convert->setFocus();
     else
-        emit ConversionDone(m_running.preset);
+        emit ConversionDone(m_running.preset, m_asItWas);
     m_running = {};
+    m_asItWas.reset();
 }
 
 } // namespace Vexlor::Studio

@@ -2,6 +2,7 @@
 
 #include "ConversionJob.h"
 #include "Outcome.h"
+#include "OutputHabits.h"
 #include "apps/host/convert/PictureFit.h"
 
 #include <QStringList>
@@ -37,6 +38,9 @@ public:
     /// What becomes of a picture whose shape is not the frame's.
     Tool::PictureFitting Fitting() const;
 
+    OutputHabits Habits() const;
+    void SetHabits(const OutputHabits& habits);
+
     /// Asks for the output's file in a dialog that does not hold up the program, and converts into it.
     void AskForOutput();
     /// Converts into the file of that path; one that is there is replaced when the user says so.
@@ -47,8 +51,9 @@ public:
 signals:
     /// Another way for pictures to fit was chosen.
     void FittingChanged();
-    /// A conversion with that preset went well.
-    void ConversionDone(const std::shared_ptr<Vexlor::IVXFormatPreset>& preset);
+    /// A conversion with that preset, as it was when it began, went well.
+    void ConversionDone(const std::shared_ptr<Vexlor::IVXFormatPreset>& preset,
+                        const std::shared_ptr<Vexlor::IVXFormatPreset>& asItWas);
 
 private:
     void Lay();
@@ -62,9 +67,10 @@ private:
 
     ConversionOffer m_offer;
     ConversionOffer m_running;
-    QString m_wanted;      ///< a file that is there, while it is asked what to do
-    QString m_folder;      ///< of the last output
-    QStringList m_changes; ///< what gave way in what runs
+    std::shared_ptr<IVXFormatPreset> m_asItWas; ///< the preset of what runs
+    QString m_wanted;                           ///< a file that is there, while it is asked what to do
+    QString m_folder;                           ///< of the last output
+    QStringList m_changes;                      ///< what gave way in what runs
     QLabel* m_fitLabel;
     QComboBox* m_fit;
     QLabel* m_size;

@@ -1,9 +1,9 @@
 #include "Outcome.h"
 
 #include "OutputName.h"
-#include "ShownText.h"
 #include "apps/host/Failure.h"
 #include "apps/host/convert/FfmpegCommand.h"
+#include "apps/studio/ShownText.h"
 
 #include "IVXFormatParameter.h"
 #include "IVXFormatPreset.h"

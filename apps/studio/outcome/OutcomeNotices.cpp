@@ -1,7 +1,7 @@
 #include "OutcomeNotices.h"
 
 #include "Outcome.h"
-#include "ShownText.h"
+#include "apps/studio/ShownText.h"
 
 #include <QCoreApplication>
 
@@ -17,12 +17,12 @@ class Notices final
     Q_DECLARE_TR_FUNCTIONS(Vexlor::Studio::OutcomeNotices)
 
 public:
-    static QString Html(const Outcome& outcome)
+    static QString Html(const Outcome& outcome, const QStringList& offered)
     {
         QString html;
         for (const auto& warning : outcome.warnings)
             html += Entry(warning.isAudio ? tr("Warning (sound):") : tr("Warning (video):"), warning.text,
-                          Remedies(warning));
+                          Remedies(warning, offered));
         for (const auto& change : outcome.changes)
             html += Entry(tr("Gives way:"), change, {});
         return html;
@@ -37,17 +37,21 @@ private:
             .arg(title.toHtmlEscaped(), Escaped(text), remedies);
     }
 
-    static QString Remedies(const Tool::MatchWarning& warning)
+    static QString Remedies(const Tool::MatchWarning& warning, const QStringList& offered)
     {
         QString items;
         for (const auto& remedy : warning.remedies)
-            items += QStringLiteral("<li>%1</li>").arg(Escaped(remedy.text));
+            if (!offered.contains(ShownText(remedy.text)))
+                items += QStringLiteral("<li>%1</li>").arg(Escaped(remedy.text));
         return items.isEmpty() ? QString() : QStringLiteral("<ul style=\"margin:0\">%1</ul>").arg(items);
     }
 };
 
 } // namespace
 
-QString NoticesHtml(const Outcome& outcome) { return Notices::Html(outcome); }
+QString NoticesHtml(const Outcome& outcome, const QStringList& offered)
+{
+    return Notices::Html(outcome, offered);
+}
 
 } // namespace Vexlor::Studio

@@ -5,8 +5,9 @@
 #include "OutcomeModel.h"
 #include "OutcomeNotices.h"
 #include "OutcomeView.h"
-#include "ShownText.h"
+#include "RemedyButtons.h"
 #include "SourceBar.h"
+#include "apps/studio/ShownText.h"
 #include "apps/studio/document/StudioDocument.h"
 
 #include "IVXFormatParameter.h"
@@ -45,8 +46,8 @@ QString FileOf(const QMimeData& data)
 OutcomePane::OutcomePane(StudioDocument& document, QWidget* parent)
     : QWidget(parent), m_document(document), m_source(new SourceBar(this)), m_pages(new QStackedWidget(this)),
       m_empty(new QLabel(this)), m_scroll(new QScrollArea(this)), m_drawings(new OutcomeDrawings(this)),
-      m_notices(new QLabel(this)), m_model(new OutcomeModel(this)), m_view(new OutcomeView(*m_model, this)),
-      m_convert(new ConvertPanel(this))
+      m_notices(new QLabel(this)), m_remedies(new RemedyButtons(this)), m_model(new OutcomeModel(this)),
+      m_view(new OutcomeView(*m_model, this)), m_convert(new ConvertPanel(this)), m_loader(this)
 {
     setObjectName(QStringLiteral("outcomePane"));
     setAcceptDrops(true);
@@ -89,6 +90,7 @@ QWidget* OutcomePane::NewContent()
     lines->setContentsMargins({});
     lines->addWidget(m_drawings);
     lines->addWidget(m_notices);
+    lines->addWidget(m_remedies);
     lines->addWidget(m_view);
     lines->addStretch(1);
     return content;
@@ -107,6 +109,12 @@ void OutcomePane::Connect()
     connect(m_source, &SourceBar::Chosen, this, &OutcomePane::OpenSource);
     connect(m_convert, &ConvertPanel::FittingChanged, this, &OutcomePane::Update);
     connect(m_convert, &ConvertPanel::ConversionDone, this, &OutcomePane::ConversionDone);
+    connect(m_remedies, &RemedyButtons::Chosen, this,
+            [this](int number)
+            {
+                const auto edit = m_edits[static_cast<std::size_t>(number)]; // new ones come in its place
+                m_document.EditPreset(m_preset, edit.text, edit.change);
+            });
     connect(m_view, &OutcomeView::CurrentMoved, this,
             [this](const QRect& row)
             {
@@ -133,6 +141,10 @@ void OutcomePane::AskForSource() { m_source->AskForFile(); }
 void OutcomePane::AskToConvert() { m_convert->AskForOutput(); }
 
 void OutcomePane::ConvertTo(const QString& path) { m_convert->ConvertTo(path); }
+
+OutputHabits OutcomePane::Habits() const { return m_convert->Habits(); }
+
+void OutcomePane::SetHabits(const OutputHabits& habits) { m_convert->SetHabits(habits); }
 
 bool OutcomePane::IsConverting() const { return m_convert->IsConverting(); }
 
@@ -177,11 +189,21 @@ void OutcomePane::Update()
     const auto* output = outcome ? outcome->match.output.get() : nullptr;
     m_drawings->SetFacts(SizeFactsOf(*m_media->parameter, output, m_preset.get(), m_convert->Fitting()),
                          outcome ? BitrateFactsOf(outcome->match, *m_preset) : StreamBitrates());
-    const auto notices = outcome ? NoticesHtml(*outcome) : QString();
-    m_notices->setText(notices);
-    m_notices->setVisible(!notices.isEmpty());
+    UpdateNotices(outcome.get());
     m_model->SetRows(OutcomeRowsOf(*m_media, outcome.get()));
     m_convert->Offer({m_path, outcome, m_preset});
+}
+
+void OutcomePane::UpdateNotices(const Outcome* outcome)
+{
+    m_edits = outcome ? RemedyEditsOf(*outcome, *m_preset) : std::vector<RemedyEdit>();
+    QStringList offered;
+    for (const auto& edit : m_edits)
+        offered << edit.text;
+    const auto notices = outcome ? NoticesHtml(*outcome, offered) : QString();
+    m_notices->setText(notices);
+    m_notices->setVisible(!notices.isEmpty());
+    m_remedies->Offer(offered);
 }
 
 void OutcomePane::SetDropping(bool isDropping)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "OutputHabits.h"
+#include "RemedyEdits.h"
 #include "SourceLoader.h"
 
 #include <QTimer>
@@ -24,6 +26,7 @@ class ConvertPanel;
 class OutcomeDrawings;
 class OutcomeModel;
 class OutcomeView;
+class RemedyButtons;
 class SourceBar;
 class StudioDocument;
 
@@ -53,14 +56,20 @@ public:
     void AskToConvert();
     /// Converts into the file of that path; one that is there is replaced when the user says so.
     void ConvertTo(const QString& path);
+    /// True while a source is read or what becomes of it is to be worked out anew.
+    bool IsReading() const { return m_loader.IsLoading() || m_update.isActive(); }
+    /// What is kept of the user's habits for the next session.
+    OutputHabits Habits() const;
+    void SetHabits(const OutputHabits& habits);
     /// True while it converts, which ends with the pane.
     bool IsConverting() const;
 
 signals:
     /// A file was read and is shown.
     void SourceOpened(const QString& path);
-    /// A conversion with that preset went well.
-    void ConversionDone(const std::shared_ptr<Vexlor::IVXFormatPreset>& preset);
+    /// A conversion with that preset, as it was when it began, went well.
+    void ConversionDone(const std::shared_ptr<Vexlor::IVXFormatPreset>& preset,
+                        const std::shared_ptr<Vexlor::IVXFormatPreset>& asItWas);
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -76,6 +85,7 @@ private:
     void UpdateSoon();
     void Update();
     void UpdateEmpty();
+    void UpdateNotices(const Outcome* outcome);
     void SetDropping(bool isDropping);
 
     StudioDocument& m_document;
@@ -83,6 +93,7 @@ private:
     QString m_path;
     std::optional<VXMediaFile> m_media;
     bool m_isDropping = false;
+    std::vector<RemedyEdit> m_edits; ///< which the buttons are of
 
     SourceBar* m_source;
     QStackedWidget* m_pages;
@@ -90,6 +101,7 @@ private:
     QScrollArea* m_scroll;
     OutcomeDrawings* m_drawings;
     QLabel* m_notices;
+    RemedyButtons* m_remedies;
     OutcomeModel* m_model;
     OutcomeView* m_view;
     ConvertPanel* m_convert;

@@ -2,7 +2,7 @@
 
 #include "ConversionTexts.h"
 #include "Outcome.h"
-#include "ShownText.h"
+#include "apps/studio/ShownText.h"
 
 #include "IVXCodecParameter.h"
 #include "IVXFormatParameter.h"

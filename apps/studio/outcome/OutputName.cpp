@@ -20,7 +20,7 @@ QString FreeOutputName(const QString& source, const QString& ending, const QStri
 {
     constexpr int kTries = 1000;
     const QFileInfo file(source);
-    const QDir place(folder.isEmpty() ? file.absolutePath() : folder);
+    const QDir place(QFileInfo(folder).isDir() ? folder : file.absolutePath());
     const auto name = file.completeBaseName();
     auto path = place.filePath(QStringLiteral("%1.%2").arg(name, ending));
     for (int i = 2; i < kTries && QFileInfo::exists(path); ++i)

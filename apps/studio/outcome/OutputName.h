@@ -9,7 +9,7 @@ namespace Vexlor::Studio
 /// the library tells no other.
 QString EndingOf(const QString& container);
 
-/// A file beside the source, or in a folder where one is named, that is not there yet: "clip.mkv", else
+/// A file beside the source, or in that folder where it is one, that is not there yet: "clip.mkv", else
 /// "clip 2.mkv".
 QString FreeOutputName(const QString& source, const QString& ending, const QString& folder = {});
 

@@ -6,6 +6,9 @@
 #include <QString>
 #include <QThreadPool>
 
+#include <functional>
+#include <utility>
+
 namespace Vexlor::Studio
 {
 
@@ -22,6 +25,13 @@ public:
 
     /// Begins to read the file of that path.
     void Load(const QString& path);
+    /// True until the file that was asked for last was told of.
+    bool IsLoading() const { return m_told != m_number; }
+
+    /// Reads a file, on a thread of its own; never throws.
+    using Reader = std::function<VXMediaFile(const QString& path)>;
+    /// Has files read by that.
+    void SetReader(Reader reader) { m_reader = std::move(reader); }
 
 signals:
     /// The file was read; one that could not be has no parameters, but a reason.
@@ -31,7 +41,9 @@ signals:
 
 private:
     void Tell(int number, const QString& path, const VXMediaFile& media);
+    Reader m_reader;
     int m_number = 0; ///< of the latest that was asked for
+    int m_told = 0;   ///< of the latest that was told of
     QThreadPool m_threads;
 };
 

@@ -8,7 +8,7 @@
 
 #include "apps/host/Quantities.h"
 #include "apps/host/Units.h"
-#include "apps/studio/outcome/ShownText.h"
+#include "apps/studio/ShownText.h"
 
 #include "IVXCodecPreset.h"
 #include "IVXRational.h"

@@ -1,6 +1,6 @@
 #include "CodecEntries.h"
 
-#include "apps/studio/outcome/ShownText.h"
+#include "apps/studio/ShownText.h"
 
 #include "IVXCodecPreset.h"
 #include "IVXFormat.h"

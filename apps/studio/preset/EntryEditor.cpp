@@ -9,7 +9,7 @@
 #include "ValueEntries.h"
 
 #include "apps/host/Failure.h"
-#include "apps/studio/outcome/ShownText.h"
+#include "apps/studio/ShownText.h"
 
 #include "IVXCodecPreset.h"
 

@@ -1,6 +1,6 @@
 #include "PresetPane.h"
 
-#include "PresetHeader.h"
+#include "ItemHeader.h"
 #include "StreamPage.h"
 
 #include "apps/studio/document/StudioDocument.h"
@@ -11,14 +11,27 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
-#include <utility>
-
 namespace Vexlor::Studio
 {
 
+namespace
+{
+
+QLabel* NewHint(const QString& text)
+{
+    auto* label = new QLabel(text);
+    label->setAlignment(Qt::AlignCenter);
+    label->setWordWrap(true);
+    label->setMargin(label->fontMetrics().height());
+    return label;
+}
+
+} // namespace
+
 PresetPane::PresetPane(StudioDocument& document, QWidget* parent)
     : QWidget(parent), m_session(document), m_stack(new QStackedWidget(this)),
-      m_header(new PresetHeader(m_session, m_manners)), m_tabs(new QTabWidget),
+      m_header(new ItemHeader(m_session, m_manners)), m_tabs(new QTabWidget),
+      m_hint(NewHint(tr("Pick a preset of this category to see what it makes of a file, and to change it."))),
       m_video(new StreamPage(m_session, Tool::StreamKind::Video, m_manners)),
       m_audio(new StreamPage(m_session, Tool::StreamKind::Audio, m_manners))
 {
@@ -33,6 +46,12 @@ PresetPane::PresetPane(StudioDocument& document, QWidget* parent)
                 if (preset == m_session.Preset())
                     Refresh();
             });
+    connect(&document.Tree(), &PresetTree::LookChanged, this,
+            [this](const TreeItem& item)
+            {
+                if (item.category && item == m_session.Item())
+                    m_header->Refresh();
+            });
 }
 
 // A field that loses the focus as it goes still asks the session.
@@ -40,12 +59,8 @@ PresetPane::~PresetPane() { delete m_stack; }
 
 QWidget* PresetPane::NewEmptyState()
 {
-    auto* text =
-        new QLabel(tr("Pick a preset in the tree to see what it makes of a file, and to change it."));
+    auto* text = NewHint(tr("Pick a preset in the tree to see what it makes of a file, and to change it."));
     text->setObjectName(QStringLiteral("empty"));
-    text->setAlignment(Qt::AlignCenter);
-    text->setWordWrap(true);
-    text->setMargin(fontMetrics().height());
     return text;
 }
 
@@ -55,6 +70,7 @@ QWidget* PresetPane::NewEditor()
     auto* layout = new QVBoxLayout(content);
     layout->addWidget(m_header);
     layout->addWidget(m_tabs, 1);
+    layout->addWidget(m_hint, 1);
     m_tabs->addTab(m_video, tr("Vide&o"));
     m_tabs->addTab(m_audio, tr("&Audio"));
     m_tabs->setObjectName(QStringLiteral("streams"));
@@ -68,14 +84,18 @@ QWidget* PresetPane::NewEditor()
     return scroll;
 }
 
-void PresetPane::ShowPreset(std::shared_ptr<IVXFormatPreset> preset)
+void PresetPane::ShowItem(const TreeItem& item)
 {
-    const bool isAnother = preset != m_session.Preset();
-    m_session.Show(std::move(preset));
-    m_stack->setCurrentIndex(m_session.Preset() ? 1 : 0);
-    if (!m_session.Preset() || !isAnother)
+    const bool isAnother = !(item == m_session.Item());
+    m_session.Show(item);
+    m_stack->setCurrentIndex(item ? 1 : 0);
+    if (!item || !isAnother)
         return;
     m_header->Refresh();
+    m_tabs->setVisible(item.IsPreset());
+    m_hint->setVisible(!item.IsPreset());
+    if (!item.IsPreset())
+        return;
     m_video->Open();
     m_audio->Open();
     ShowTabOfUse();

@@ -5,17 +5,18 @@
 
 #include <QWidget>
 
+class QLabel;
 class QStackedWidget;
 class QTabWidget;
 
 namespace Vexlor::Studio
 {
 
-class PresetHeader;
+class ItemHeader;
 class StreamPage;
 
-/// The format preset that is picked in the tree, to be looked at and changed. Every change is a step of the
-/// document that can be taken back.
+/// The format preset or the category that is picked in the tree, to be looked at and changed. Every change is
+/// a step of the document that can be taken back.
 class PresetPane final : public QWidget
 {
     Q_OBJECT
@@ -26,8 +27,8 @@ public:
     PresetPane(const PresetPane&) = delete;
     PresetPane& operator=(const PresetPane&) = delete;
 
-    /// Shows that preset; an empty handle shows what to do.
-    void ShowPreset(std::shared_ptr<IVXFormatPreset> preset);
+    /// Shows that; an empty item shows what to do.
+    void ShowItem(const TreeItem& item);
 
 private:
     QWidget* NewEmptyState();
@@ -38,8 +39,9 @@ private:
     PresetSession m_session;
     FieldManners m_manners;
     QStackedWidget* m_stack;
-    PresetHeader* m_header;
+    ItemHeader* m_header;
     QTabWidget* m_tabs;
+    QLabel* m_hint;
     StreamPage* m_video;
     StreamPage* m_audio;
 };

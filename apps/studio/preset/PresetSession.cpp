@@ -7,15 +7,20 @@ namespace Vexlor::Studio
 
 bool PresetSession::IsNameTaken(const QString& name) const
 {
-    const TreeItem item{{}, m_preset};
-    const auto category = m_preset ? m_document.Tree().ParentOf(item) : nullptr;
-    return category && Studio::IsNameTaken(*category, item, name);
+    const auto category = m_item ? m_document.Tree().ParentOf(m_item) : nullptr;
+    return category && Studio::IsNameTaken(*category, m_item, name);
+}
+
+void PresetSession::EditLook(const QString& what, const std::function<void(ItemLook&)>& change, int run)
+{
+    if (m_item)
+        m_document.EditLook(m_item, what, change, run);
 }
 
 void PresetSession::Edit(const QString& what, const std::function<void(IVXFormatPreset&)>& change, int run)
 {
-    if (m_preset)
-        m_document.EditPreset(m_preset, what, change, run);
+    if (Preset())
+        m_document.EditPreset(Preset(), what, change, run);
 }
 
 std::shared_ptr<IVXCodecPreset> CodecSession::Codec() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CodecEntries.h"
+#include "apps/studio/document/TreeItem.h"
 
 #include <QString>
 
@@ -12,24 +13,28 @@ namespace Vexlor::Studio
 
 class StudioDocument;
 
-/// The format preset that the pane shows, and the way to change it.
+/// The format preset or the category that the pane shows, and the way to change it.
 class PresetSession
 {
 public:
     explicit PresetSession(StudioDocument& document) : m_document(document) {}
 
-    /// Shows that preset from now on; an empty handle for none.
-    void Show(std::shared_ptr<IVXFormatPreset> preset) { m_preset = std::move(preset); }
+    /// Shows that from now on; an empty item for nothing.
+    void Show(TreeItem item) { m_item = std::move(item); }
+    /// The category or the preset that is shown; empty for none.
+    const TreeItem& Item() const { return m_item; }
     /// The preset that is shown; empty for none.
-    const std::shared_ptr<IVXFormatPreset>& Preset() const { return m_preset; }
-    /// True when another preset of its category has that name.
+    const std::shared_ptr<IVXFormatPreset>& Preset() const { return m_item.preset; }
+    /// True when another item of its kind in its category has that name.
     bool IsNameTaken(const QString& name) const;
-    /// Changes it as StudioDocument::EditPreset does; nothing where none is shown.
+    /// Changes what it is called and how it is shown; nothing where none is shown.
+    void EditLook(const QString& what, const std::function<void(ItemLook&)>& change, int run = 0);
+    /// Changes the preset as StudioDocument::EditPreset does; nothing where none is shown.
     void Edit(const QString& what, const std::function<void(IVXFormatPreset&)>& change, int run = 0);
 
 private:
     StudioDocument& m_document;
-    std::shared_ptr<IVXFormatPreset> m_preset;
+    TreeItem m_item;
 };
 
 /// The codec preset of a stream whose page is open, and the way to change it.

@@ -5,7 +5,7 @@
 #include "LimitsBox.h"
 #include "MessageLine.h"
 
-#include "apps/studio/outcome/ShownText.h"
+#include "apps/studio/ShownText.h"
 
 #include "IVXCodecPreset.h"
 #include "IVXFormatPreset.h"

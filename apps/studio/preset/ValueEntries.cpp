@@ -2,7 +2,7 @@
 
 #include "QualityBitrate.h"
 
-#include "apps/studio/outcome/ShownText.h"
+#include "apps/studio/ShownText.h"
 
 #include "IVXCodecPreset.h"
 #include "IVXCodecQualityPreset.h"

@@ -78,7 +78,7 @@
     </message>
     <message>
         <source>&amp;Bitrate</source>
-        <translation>&amp;Bitrate</translation>
+        <translation>Bitrat&amp;e</translation>
     </message>
     <message>
         <source>lowest video bitrate</source>
@@ -129,7 +129,7 @@
     </message>
     <message>
         <source>&amp;Resolution</source>
-        <translation>&amp;Auflösung</translation>
+        <translation>Auflö&amp;sung</translation>
     </message>
     <message>
         <source>resolution</source>
@@ -332,31 +332,11 @@
     <name>Vexlor::Studio::CodecPage</name>
     <message>
         <source>&amp;Sample aspect</source>
-        <translation>Pi&amp;xelseitenverhältnis</translation>
+        <translation>&amp;Pixelseitenverhältnis</translation>
     </message>
 </context>
 <context>
     <name>Vexlor::Studio::ConversionStatus</name>
-    <message>
-        <source>&amp;Replace</source>
-        <translation>&amp;Ersetzen</translation>
-    </message>
-    <message>
-        <source>&amp;Another Name…</source>
-        <translation>&amp;Anderer Name …</translation>
-    </message>
-    <message>
-        <source>&amp;Not Now</source>
-        <translation>&amp;Nicht jetzt</translation>
-    </message>
-    <message>
-        <source>Cance&amp;l</source>
-        <translation>A&amp;bbrechen</translation>
-    </message>
-    <message>
-        <source>&amp;Show in Folder</source>
-        <translation>Im &amp;Ordner zeigen</translation>
-    </message>
     <message>
         <source>Progress of the conversion</source>
         <translation>Fortschritt der Umwandlung</translation>
@@ -388,6 +368,26 @@
     <message>
         <source>It could not be converted.</source>
         <translation>Es ließ sich nicht umwandeln.</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+    <message>
+        <source>Another Name…</source>
+        <translation>Anderer Name …</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Nicht jetzt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation>Im Ordner zeigen</translation>
     </message>
 </context>
 <context>
@@ -621,16 +621,20 @@
         <translation>„%1“ wurde nicht gespeichert: Ein anderes Programm hat die Datei seit dem Öffnen geändert.</translation>
     </message>
     <message>
-        <source>O&amp;verwrite</source>
-        <translation>Über&amp;schreiben</translation>
-    </message>
-    <message>
         <source>Another program has changed &quot;%1&quot;. What is shown here is as it was before.</source>
         <translation>Ein anderes Programm hat „%1“ geändert. Hier ist der Stand von vorher zu sehen.</translation>
     </message>
     <message>
-        <source>&amp;Reload</source>
-        <translation>&amp;Neu laden</translation>
+        <source>Save As…</source>
+        <translation>Speichern unter …</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Überschreiben</translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation>Neu laden</translation>
     </message>
 </context>
 <context>
@@ -729,6 +733,57 @@
     </message>
 </context>
 <context>
+    <name>Vexlor::Studio::ItemHeader</name>
+    <message>
+        <source>A preset keeps its container: make a new one for another.</source>
+        <translation>Eine Vorgabe behält ihren Container: Für einen anderen legen Sie eine neue an.</translation>
+    </message>
+    <message>
+        <source>Container</source>
+        <translation>Container</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>&amp;Icon</source>
+        <translation>S&amp;ymbol</translation>
+    </message>
+    <message>
+        <source>icon</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>&amp;Description</source>
+        <translation>Bes&amp;chreibung</translation>
+    </message>
+    <message>
+        <source>description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation>Eine Vorgabe braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>Unknown icon %1</source>
+        <translation>Unbekanntes Symbol %1</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already.</source>
+        <translation>„%1“ gibt es schon.</translation>
+    </message>
+    <message>
+        <source>A category needs a name.</source>
+        <translation>Eine Kategorie braucht einen Namen.</translation>
+    </message>
+</context>
+<context>
     <name>Vexlor::Studio::LimitsBox</name>
     <message>
         <source>Limits for every codec</source>
@@ -769,8 +824,8 @@
 <context>
     <name>Vexlor::Studio::MessageBar</name>
     <message>
-        <source>&amp;Close</source>
-        <translation>S&amp;chließen</translation>
+        <source>Close</source>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -993,53 +1048,6 @@
     </message>
 </context>
 <context>
-    <name>Vexlor::Studio::PresetHeader</name>
-    <message>
-        <source>A preset keeps its container: make a new one for another.</source>
-        <translation>Eine Vorgabe behält ihren Container: Für einen anderen legen Sie eine neue an.</translation>
-    </message>
-    <message>
-        <source>Container</source>
-        <translation>Container</translation>
-    </message>
-    <message>
-        <source>&amp;Name</source>
-        <translation>&amp;Name</translation>
-    </message>
-    <message>
-        <source>name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>&amp;Icon</source>
-        <translation>&amp;Symbol</translation>
-    </message>
-    <message>
-        <source>icon</source>
-        <translation>Symbol</translation>
-    </message>
-    <message>
-        <source>&amp;Description</source>
-        <translation>&amp;Beschreibung</translation>
-    </message>
-    <message>
-        <source>description</source>
-        <translation>Beschreibung</translation>
-    </message>
-    <message>
-        <source>A preset needs a name.</source>
-        <translation>Eine Vorgabe braucht einen Namen.</translation>
-    </message>
-    <message>
-        <source>Unknown icon %1</source>
-        <translation>Unbekanntes Symbol %1</translation>
-    </message>
-    <message>
-        <source>&quot;%1&quot; is there already.</source>
-        <translation>„%1“ gibt es schon.</translation>
-    </message>
-</context>
-<context>
     <name>Vexlor::Studio::PresetPane</name>
     <message>
         <source>Pick a preset in the tree to see what it makes of a file, and to change it.</source>
@@ -1057,12 +1065,27 @@
         <source>Codecs</source>
         <translation>Codecs</translation>
     </message>
+    <message>
+        <source>Pick a preset of this category to see what it makes of a file, and to change it.</source>
+        <translation>Wählen Sie eine Vorgabe dieser Kategorie, um zu sehen, was sie aus einer Datei macht, und um sie zu ändern.</translation>
+    </message>
 </context>
 <context>
     <name>Vexlor::Studio::RecentFiles</name>
     <message>
         <source>&amp;Clear List</source>
         <translation>Liste &amp;leeren</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::RemedyButtons</name>
+    <message>
+        <source>Ways out:</source>
+        <translation>Auswege:</translation>
+    </message>
+    <message>
+        <source>%1. This changes the preset, and can be undone.</source>
+        <translation>%1. Das ändert die Vorgabe und lässt sich rückgängig machen.</translation>
     </message>
 </context>
 <context>
@@ -1263,7 +1286,7 @@
     </message>
     <message>
         <source>&amp;Convert…</source>
-        <translation>&amp;Umwandeln …</translation>
+        <translation>Um&amp;wandeln …</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1374,20 +1397,28 @@
         <translation>Das Programm ist unerwartet abgebrochen. Änderungen an %1 wurden am %2 aufgehoben.</translation>
     </message>
     <message>
-        <source>&amp;Discard</source>
-        <translation>&amp;Verwerfen</translation>
-    </message>
-    <message>
-        <source>&amp;Restore</source>
-        <translation>&amp;Wiederherstellen</translation>
-    </message>
-    <message>
         <source>Conversion</source>
         <translation>Umwandlung</translation>
     </message>
     <message>
         <source>A conversion is running. Stop it and close?</source>
         <translation>Eine Umwandlung läuft. Abbrechen und schließen?</translation>
+    </message>
+    <message>
+        <source>Recently used presets: %1</source>
+        <translation>Zuletzt benutzte Vorgaben: %1</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>Changes that are not saved would be lost in a crash, for they cannot be put by: %1</source>
+        <translation>Nicht gespeicherte Änderungen gingen bei einem Absturz verloren, denn sie lassen sich nicht beiseitelegen: %1</translation>
     </message>
 </context>
 <context>

@@ -123,7 +123,7 @@ void FormatTreeModel::FollowTree()
                 beginMoveRows(IndexOfNode(from.parent), row, row, IndexOfNode(to.parent), RowFor(item, to));
             });
     connect(&tree, &PresetTree::Moved, this, [this] { endMoveRows(); });
-    connect(&tree, &PresetTree::Renamed, this, &FormatTreeModel::TellOfItem);
+    connect(&tree, &PresetTree::LookChanged, this, &FormatTreeModel::TellOfItem);
 }
 
 TreeItem FormatTreeModel::ItemAt(const QModelIndex& index) const
@@ -137,7 +137,24 @@ QModelIndex FormatTreeModel::IndexOfItem(const TreeItem& item) const
 {
     if (item.category == m_document.Root())
         return {};
-    const auto place = m_document.Tree().PlaceOf(item);
+    return IndexAt(item, m_document.Tree().PlaceOf(item));
+}
+
+QModelIndexList FormatTreeModel::IndexesOf(const std::vector<TreeItem>& items) const
+{
+    QModelIndexList indexes;
+    TreePlace place;
+    for (const auto& item : items)
+    {
+        place = m_document.Tree().PlaceBeside(item, place);
+        if (const auto index = IndexAt(item, place); index.isValid())
+            indexes.append(index);
+    }
+    return indexes;
+}
+
+QModelIndex FormatTreeModel::IndexAt(const TreeItem& item, const TreePlace& place) const
+{
     return place.parent ? createIndex(RowFor(item, place), 0, place.parent.get()) : QModelIndex();
 }
 

@@ -34,6 +34,8 @@ public:
     TreeItem ItemAt(const QModelIndex& index) const;
     /// Where that stands; no index for the root and for what is not in the tree.
     QModelIndex IndexOfItem(const TreeItem& item) const;
+    /// Where each of those stands that is in the tree.
+    QModelIndexList IndexesOf(const std::vector<TreeItem>& items) const;
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& index) const override;
@@ -58,6 +60,7 @@ signals:
     void Dropped(const std::vector<Vexlor::Studio::TreeItem>& items);
 
 private:
+    QModelIndex IndexAt(const TreeItem& item, const TreePlace& place) const;
     int RowOf(IVXFormatNode& parent, const IVXFormatNode* child) const;
     QModelIndex IndexOfNode(const std::shared_ptr<IVXFormatNode>& node) const;
     void FollowTree();

@@ -116,8 +116,8 @@ void TreePane::Select(const std::vector<TreeItem>& items)
     if (!ShownIndexOf(items.front()).isValid())
         m_search->clear();
     QItemSelection selection;
-    for (const auto& item : items)
-        if (const auto index = ShownIndexOf(item); index.isValid())
+    for (const auto& found : m_model->IndexesOf(items))
+        if (const auto index = m_filter->mapFromSource(found); index.isValid())
             Append(index, selection);
     const auto first = ShownIndexOf(items.front());
     m_view->setCurrentIndex(first);

@@ -16,9 +16,10 @@
 namespace Vexlor::Studio
 {
 
-FileActions::FileActions(StudioDocument& document, MessageBar& messages, QWidget* window)
+FileActions::FileActions(StudioDocument& document, UserSettings& settings, MessageBar& messages,
+                         QWidget* window)
     : QObject(window), m_document(document), m_messages(messages), m_window(window), m_files(document),
-      m_recent(new RecentFiles(tr("Open &Recent"), "recentDocuments", window)),
+      m_recent(new RecentFiles(tr("Open &Recent"), "recentDocuments", settings, window)),
       m_new(new QAction(tr("&New from Built-in Presets"), this)), m_open(new QAction(tr("&Open…"), this)),
       m_save(new QAction(tr("&Save"), this)), m_saveAs(new QAction(tr("Save &As…"), this))
 {
@@ -135,15 +136,15 @@ void FileActions::TellOfRefusal(const QString& path)
     m_next = nullptr;
     m_messages.Say(tr("\"%1\" was not saved: another program has changed it since it was opened.")
                        .arg(QFileInfo(path).fileName()));
-    m_messages.Offer(tr("Save &As…"), [this] { SaveAs(); });
-    m_messages.Offer(tr("O&verwrite"), [this, path] { SaveTo(path, true); });
+    m_messages.Offer(tr("Save As…"), [this] { SaveAs(); });
+    m_messages.Offer(tr("Overwrite"), [this, path] { SaveTo(path, true); });
 }
 
 void FileActions::TellOfChange(const QString& path)
 {
     m_messages.Say(tr("Another program has changed \"%1\". What is shown here is as it was before.")
                        .arg(m_document.Title()));
-    m_messages.Offer(tr("&Reload"), [this, path] { Open(path); });
+    m_messages.Offer(tr("Reload"), [this, path] { Open(path); });
 }
 
 } // namespace Vexlor::Studio

@@ -16,6 +16,7 @@ namespace Vexlor::Studio
 class MessageBar;
 class RecentFiles;
 class StudioDocument;
+class UserSettings;
 
 /// The File menu: what is opened, saved and left, and what is asked before something is lost.
 class FileActions : public QObject
@@ -23,7 +24,7 @@ class FileActions : public QObject
     Q_OBJECT
 
 public:
-    FileActions(StudioDocument& document, MessageBar& messages, QWidget* window);
+    FileActions(StudioDocument& document, UserSettings& settings, MessageBar& messages, QWidget* window);
 
     DocumentFiles& Files() { return m_files; }
     /// Adds the actions of documents to the menu.

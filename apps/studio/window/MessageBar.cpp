@@ -36,7 +36,7 @@ void MessageBar::Say(const QString& text)
     }
     m_buttons.clear();
     m_text->setText(text);
-    Offer(tr("&Close"), [] {});
+    Offer(tr("Close"), [] {});
     show();
     QAccessibleEvent event(m_text, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);

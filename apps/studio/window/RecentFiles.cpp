@@ -1,14 +1,16 @@
 #include "RecentFiles.h"
 
+#include "UserSettings.h"
+
 #include <QDir>
 #include <QFileInfo>
-#include <QSettings>
 
 namespace Vexlor::Studio
 {
 
-RecentFiles::RecentFiles(const QString& title, const QString& settingsKey, QWidget* parent)
-    : QMenu(title, parent), m_key(settingsKey)
+RecentFiles::RecentFiles(const QString& title, const QString& settingsKey, UserSettings& settings,
+                         QWidget* parent)
+    : QMenu(title, parent), m_key(settingsKey), m_settings(settings)
 {
     setToolTipsVisible(true);
     Fill();
@@ -23,11 +25,11 @@ void RecentFiles::Add(const QString& path)
     Store(paths.mid(0, kMost));
 }
 
-QStringList RecentFiles::Paths() const { return QSettings().value(m_key).toStringList(); }
+QStringList RecentFiles::Paths() const { return m_settings.Value(m_key).toStringList(); }
 
 void RecentFiles::Store(const QStringList& paths)
 {
-    QSettings().setValue(m_key, paths);
+    m_settings.Store(m_key, paths);
     Fill();
 }
 

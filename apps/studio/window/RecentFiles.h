@@ -6,6 +6,8 @@
 namespace Vexlor::Studio
 {
 
+class UserSettings;
+
 /// A menu of the files of one kind that were opened last, the newest first, kept in the settings.
 class RecentFiles : public QMenu
 {
@@ -14,7 +16,9 @@ class RecentFiles : public QMenu
 public:
     static constexpr int kMost = 8;
 
-    RecentFiles(const QString& title, const QString& settingsKey, QWidget* parent = nullptr);
+    /// The settings must outlive the menu.
+    RecentFiles(const QString& title, const QString& settingsKey, UserSettings& settings,
+                QWidget* parent = nullptr);
 
     /// Puts the file to the front.
     void Add(const QString& path);
@@ -29,6 +33,7 @@ private:
     void Fill();
 
     QString m_key;
+    UserSettings& m_settings;
 };
 
 } // namespace Vexlor::Studio

@@ -3,8 +3,8 @@
 #include "StudioWindow.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QPixmap>
-#include <QThreadPool>
 #include <QTimer>
 
 #include <cstdio>
@@ -16,29 +16,33 @@ namespace
 {
 
 constexpr int kInterval = 250;    // milliseconds
-constexpr int kCalmIntervals = 4; // without work on another thread
+constexpr int kCalmIntervals = 4; // in which what has come is laid out and painted
 
-void Write(StudioWindow& window, const QString& path)
+void End(const QString& path, const char* failure)
 {
-    const bool isWritten = window.grab().save(path);
-    if (!isWritten)
-        std::fprintf(stderr, "%s: cannot be written\n", qUtf8Printable(path));
-    QApplication::exit(isWritten ? 0 : 1);
+    if (failure != nullptr)
+        std::fprintf(stderr, "%s: %s\n", qUtf8Printable(path), failure);
+    QApplication::exit(failure == nullptr ? 0 : 1);
 }
 
 } // namespace
 
-void TakeScreenshotAndEnd(StudioWindow& window, const QString& path)
+void TakeScreenshotAndEnd(StudioWindow& window, const QString& path, int patience)
 {
+    QElapsedTimer clock;
+    clock.start();
     auto* timer = new QTimer(&window);
     QObject::connect(timer, &QTimer::timeout, &window,
-                     [&window, path, timer, calm = 0]() mutable
+                     [&window, path, patience, timer, clock, calm = 0]() mutable
                      {
-                         calm = QThreadPool::globalInstance()->activeThreadCount() == 0 ? calm + 1 : 0;
-                         if (calm < kCalmIntervals)
+                         calm = window.IsAtRest() ? calm + 1 : 0;
+                         const bool isLate = clock.hasExpired(patience);
+                         if (calm < kCalmIntervals && !isLate)
                              return;
                          timer->stop();
-                         Write(window, path);
+                         End(path, calm < kCalmIntervals ? "not written, for the window did not come to rest"
+                                   : window.grab().save(path) ? nullptr
+                                                              : "cannot be written");
                      });
     timer->start(kInterval);
 }

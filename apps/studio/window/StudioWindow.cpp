@@ -22,9 +22,9 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
-#include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QThreadPool>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -40,16 +40,19 @@ constexpr auto* kGeometry = "window/geometry";
 constexpr auto* kState = "window/state";
 constexpr auto* kSplitter = "window/splitter";
 constexpr auto* kTheme = "window/theme";
+constexpr auto* kFitting = "output/fitting";
+constexpr auto* kOutputFolder = "output/folder";
 
 } // namespace
 
 StudioWindow::StudioWindow(QWidget* parent)
-    : QMainWindow(parent), m_recovery(m_document), m_messages(new MessageBar(this)),
-      m_tree(new TreePane(m_document, m_icons, this)), m_preset(new PresetPane(m_document, this)),
-      m_outcome(new OutcomePane(m_document, this)), m_findings(new FindingsPane(this)),
-      m_splitter(new QSplitter(this)), m_findingsDock(new QDockWidget(tr("Findings"), this)),
-      m_recentMedia(new RecentFiles(tr("Open Recent M&edia"), "recentMedia", this)),
-      m_files(new FileActions(m_document, *m_messages, this)),
+    : QMainWindow(parent), m_recovery(m_document), m_recent(m_document), m_messages(new MessageBar(this)),
+      m_lossMessage(new MessageBar(this)), m_tree(new TreePane(m_document, m_icons, this)),
+      m_preset(new PresetPane(m_document, this)), m_outcome(new OutcomePane(m_document, this)),
+      m_findings(new FindingsPane(this)), m_splitter(new QSplitter(this)),
+      m_findingsDock(new QDockWidget(tr("Findings"), this)),
+      m_recentMedia(new RecentFiles(tr("Open Recent M&edia"), "recentMedia", m_settings, this)),
+      m_files(new FileActions(m_document, m_settings, *m_messages, this)),
       m_presets(new PresetActions(m_document, m_files->Files(), *m_findings, *m_messages, this)),
       m_treeActions(new TreeActions(m_document, *m_tree, this))
 {
@@ -59,6 +62,7 @@ StudioWindow::StudioWindow(QWidget* parent)
     MakeMenus();
     Connect();
     RestoreState();
+    m_recent.BringBack();
     ShowState();
     m_tree->View().setFocus();
 }
@@ -88,6 +92,8 @@ void StudioWindow::Lay()
     auto* layout = new QVBoxLayout(center);
     layout->setContentsMargins(6, 6, 6, 0);
     layout->addWidget(m_messages);
+    layout->addWidget(m_lossMessage);
+    m_lossMessage->setObjectName("lossMessage");
     layout->addWidget(m_splitter, 1);
     setCentralWidget(center);
     m_findingsDock->setObjectName("findingsDock");
@@ -103,6 +109,8 @@ void StudioWindow::Connect()
     connect(m_tree, &TreePane::Refused, this,
             [this](const QString& reason) { statusBar()->showMessage(reason, kMessageTime); });
     connect(&m_document, &StudioDocument::StateChanged, this, &StudioWindow::ShowState);
+    connect(&m_recovery, &Recovery::FailureChanged, m_lossMessage,
+            [this](const QString& failure) { TellOfLoss(failure); });
     connect(&m_files->Files(), &DocumentFiles::BusyChanged, this, &StudioWindow::SetBusy);
     connect(&m_files->Files(), &DocumentFiles::Saved, this,
             [this] { statusBar()->showMessage(tr("Saved"), kMessageTime); });
@@ -117,13 +125,22 @@ void StudioWindow::Connect()
             [this](const TreeItem& item) { m_tree->Select({item}); });
     connect(m_outcome, &OutcomePane::SourceOpened, m_recentMedia, &RecentFiles::Add);
     connect(m_outcome, &OutcomePane::ConversionDone, this,
-            [this](const auto& preset)
-            { m_files->Files().WhenFree([this, preset] { m_document.NoteUsed(*preset); }); });
+            [this](const auto& preset, const auto& asItWas)
+            { m_files->Files().WhenFree([this, preset, asItWas] { m_recent.Note(*preset, *asItWas); }); });
+    connect(&m_files->Files(), &DocumentFiles::Saved, &m_recent, &RecentUse::Forget);
+    // When the line is no longer needed for what is being read.
+    connect(
+        &m_recent, &RecentUse::Failed, this,
+        [this](const QString& reason)
+        { statusBar()->showMessage(tr("Recently used presets: %1").arg(reason), kMessageTime); },
+        Qt::QueuedConnection);
     connect(m_recentMedia, &RecentFiles::Chosen, m_outcome, &OutcomePane::OpenSource);
 }
 
 void StudioWindow::Start(const StartOptions& options)
 {
+    if (!options.screenshot.isEmpty())
+        m_settings.Freeze();
     if (!options.theme.isEmpty())
         m_themes.Use(Themes::ThemeOf(options.theme));
     if (options.size.isValid())
@@ -151,7 +168,7 @@ void StudioWindow::Start(const StartOptions& options)
 
 void StudioWindow::ShowItem(const TreeItem& item)
 {
-    m_preset->ShowPreset(item.preset);
+    m_preset->ShowItem(item);
     m_outcome->ShowPreset(item.preset);
 }
 
@@ -177,6 +194,12 @@ void StudioWindow::SetBusy(bool isBusy)
         statusBar()->clearMessage();
 }
 
+bool StudioWindow::IsAtRest() const
+{
+    return !m_files->Files().IsBusy() && !m_outcome->IsReading() &&
+           QThreadPool::globalInstance()->activeThreadCount() == 0;
+}
+
 void StudioWindow::OfferLost()
 {
     const auto lost = Recovery::FindLost();
@@ -185,8 +208,8 @@ void StudioWindow::OfferLost()
     const auto name = lost->path.isEmpty() ? tr("the built-in presets") : QFileInfo(lost->path).fileName();
     m_messages->Say(tr("The program ended unexpectedly. Changes of %1 were put by on %2.")
                         .arg(name, QLocale().toString(lost->saved, QLocale::ShortFormat)));
-    m_messages->Offer(tr("&Discard"), [lost = *lost] { Recovery::Discard(lost); });
-    m_messages->Offer(tr("&Restore"),
+    m_messages->Offer(tr("Discard"), [lost = *lost] { Recovery::Discard(lost); });
+    m_messages->Offer(tr("Restore"),
                       [this, lost = *lost]
                       {
                           m_files->WhenNothingIsLost(
@@ -196,6 +219,17 @@ void StudioWindow::OfferLost()
                                       m_messages->Say(reason);
                               });
                       });
+}
+
+// Each reason once, however often it stands in the way.
+void StudioWindow::TellOfLoss(const QString& failure)
+{
+    if (failure.isEmpty())
+        m_lossMessage->hide();
+    else
+        m_lossMessage->Say(
+            tr("Changes that are not saved would be lost in a crash, for they cannot be put by: %1")
+                .arg(failure));
 }
 
 void StudioWindow::OpenMedia(const QString& path) { m_outcome->OpenSource(path); }
@@ -246,26 +280,28 @@ void StudioWindow::dropEvent(QDropEvent* event)
 
 void StudioWindow::RestoreState()
 {
-    const QSettings settings;
-    if (!restoreGeometry(settings.value(kGeometry).toByteArray()))
+    if (!restoreGeometry(m_settings.Value(kGeometry).toByteArray()))
         resize(kDefaultSize);
-    restoreState(settings.value(kState).toByteArray());
-    m_splitter->restoreState(settings.value(kSplitter).toByteArray());
+    restoreState(m_settings.Value(kState).toByteArray());
+    m_splitter->restoreState(m_settings.Value(kSplitter).toByteArray());
     m_findingsDock->hide(); // what it showed is gone
-    m_themes.Use(Themes::ThemeOf(settings.value(kTheme).toString()));
+    m_themes.Use(Themes::ThemeOf(m_settings.Value(kTheme).toString()));
+    m_outcome->SetHabits({m_settings.Value(kFitting).toInt(), m_settings.Value(kOutputFolder).toString()});
 }
 
-void StudioWindow::StoreState() const
+void StudioWindow::StoreState()
 {
-    QSettings settings;
-    settings.setValue(kGeometry, saveGeometry());
-    settings.setValue(kState, saveState());
-    settings.setValue(kSplitter, m_splitter->saveState());
+    m_settings.Store(kGeometry, saveGeometry());
+    m_settings.Store(kState, saveState());
+    m_settings.Store(kSplitter, m_splitter->saveState());
+    const auto habits = m_outcome->Habits();
+    m_settings.Store(kFitting, habits.fitting);
+    m_settings.Store(kOutputFolder, habits.folder);
 }
 
 void StudioWindow::UseTheme(Theme theme)
 {
-    QSettings().setValue(kTheme, Themes::NameOf(theme));
+    m_settings.Store(kTheme, Themes::NameOf(theme));
     m_themes.Use(theme);
 }
 

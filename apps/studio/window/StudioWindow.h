@@ -1,6 +1,8 @@
 #pragma once
 
 #include "Themes.h"
+#include "UserSettings.h"
+#include "apps/studio/document/RecentUse.h"
 #include "apps/studio/document/Recovery.h"
 #include "apps/studio/document/StudioDocument.h"
 #include "apps/studio/tree/FaceIcons.h"
@@ -44,6 +46,9 @@ public:
     TreePane& Tree() { return *m_tree; }
     OutcomePane& Outcome() { return *m_outcome; }
 
+    /// True when nothing is being read, written or worked out.
+    bool IsAtRest() const;
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -65,16 +70,20 @@ private:
     void SetBusy(bool isBusy);
     void UseTheme(Theme theme);
     void OfferLost();
+    void TellOfLoss(const QString& failure);
     void OpenMedia(const QString& path);
     void RestoreState();
-    void StoreState() const;
+    void StoreState();
     void ShowAbout();
 
+    UserSettings m_settings;
     StudioDocument m_document;
     Recovery m_recovery;
+    RecentUse m_recent;
     FaceIcons m_icons;
     Themes m_themes;
     MessageBar* m_messages;
+    MessageBar* m_lossMessage;
     TreePane* m_tree;
     PresetPane* m_preset;
     OutcomePane* m_outcome;

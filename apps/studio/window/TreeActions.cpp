@@ -90,10 +90,14 @@ void TreeActions::Cut()
     Delete();
 }
 
+// What is pasted is what was copied, whatever becomes of it until then.
 void TreeActions::Copy()
 {
-    if (auto items = m_pane.Selected(); !items.empty())
-        QGuiApplication::clipboard()->setMimeData(new TreeMime(std::move(items)));
+    auto items = m_pane.Selected();
+    if (items.empty())
+        return;
+    std::ranges::transform(items, items.begin(), CopyOf);
+    QGuiApplication::clipboard()->setMimeData(new TreeMime(std::move(items)));
 }
 
 void TreeActions::Paste()

@@ -15,13 +15,14 @@ class MessageLine;
 class PresetSession;
 class TextField;
 
-/// What a format preset is called and how it is shown: name, icon, container and description.
-class PresetHeader final : public QWidget
+/// What a format preset or a category is called and how it is shown: name, icon and description, and the
+/// container of a preset.
+class ItemHeader final : public QWidget
 {
     Q_OBJECT
 
 public:
-    PresetHeader(PresetSession& session, FieldManners& manners, QWidget* parent = nullptr);
+    ItemHeader(PresetSession& session, FieldManners& manners, QWidget* parent = nullptr);
 
     /// Shows them as they are now.
     void Refresh();
@@ -40,6 +41,7 @@ private:
     TextField* m_name;
     MessageLine* m_nameMessage;
     QComboBox* m_face;
+    QFormLayout* m_form;
     QLabel* m_container;
     DescriptionField* m_description;
 };

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+#include <memory>
+#include <vector>
+
+namespace Vexlor
+{
+class IVXFormatPreset;
+}
+
+/// The presets that were used last, kept in a file of the user's data folder: for each of the documents that
+/// were used last, the newest first, its presets, the newest first. All operations throw Tool::Failure where
+/// the file cannot be read or written, or holds something else; it then stays as it is.
+namespace Vexlor::Studio::RecentStore
+{
+
+/// So many documents are kept.
+inline constexpr int kMostDocuments = 20;
+
+/// The file.
+QString Path();
+/// The presets of the document of that path, an empty one standing for the built-in presets.
+std::vector<std::shared_ptr<IVXFormatPreset>> PresetsOf(const QString& document);
+/// Puts the preset in front of the others of that document, and that document in front of the others.
+void Note(const QString& document, const IVXFormatPreset& preset);
+/// Forgets the presets of that document.
+void Forget(const QString& document);
+
+} // namespace Vexlor::Studio::RecentStore
