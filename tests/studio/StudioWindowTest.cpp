@@ -43,6 +43,21 @@ TEST_F(StudioWindowTest, EditsANameUndoesAndRedoesIt)
     EXPECT_EQ("Mine", preset->Name());
 }
 
+TEST_F(StudioWindowTest, StaysAtAPresetWhoseNameIsTypedWhileTheTreeIsNarrowed)
+{
+    FindAndSelect("0p webm");
+    const auto current = window->Tree().Current();
+    auto& name = The<QLineEdit>("name");
+    name.setFocus();
+    name.selectAll();
+    QTest::keyClicks(&name, "Mi");
+    QTest::qWait(50); // for a search, if there were one
+    QTest::keyClicks(&name, "ne");
+    EXPECT_EQ(current, window->Tree().Current());
+    EXPECT_EQ("Mine", current.preset->Name());
+    EXPECT_EQ("Change name", window->Document().Undo().undoText());
+}
+
 TEST_F(StudioWindowTest, MatchesAClip)
 {
     QSignalSpy opened(&window->Outcome(), &OutcomePane::SourceOpened);

@@ -3,6 +3,7 @@
 #include "RecentStore.h"
 #include "StudioDocument.h"
 
+#include <algorithm>
 #include <exception>
 
 namespace Vexlor::Studio
@@ -24,9 +25,10 @@ void RecentUse::BringBack()
     Try(
         [this]
         {
-            const auto presets = RecentStore::PresetsOf(m_document.Path());
-            for (auto preset = presets.rbegin(); preset != presets.rend(); ++preset)
-                m_document.NoteUsed(**preset, **preset);
+            auto presets = RecentStore::PresetsOf(m_document.Path());
+            std::ranges::reverse(presets); // each comes to the front
+            for (const auto& preset : presets)
+                m_document.NoteUsed(*preset, *preset);
         });
 }
 

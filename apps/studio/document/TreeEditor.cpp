@@ -10,6 +10,7 @@
 #include "IVXFormatPreset.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace Vexlor::Studio
 {
@@ -72,11 +73,11 @@ void TreeEditor::Remove(const Items& items)
                                                  : tr("Delete Selection"));
     TreePlace place;
     // From the end, so that no list moves up each time.
-    for (auto item = items.rbegin(); item != items.rend(); ++item)
+    for (const auto& item : std::ranges::reverse_view(items))
     {
-        place = m_document.Tree().PlaceBeside(*item, place);
+        place = m_document.Tree().PlaceBeside(item, place);
         if (place.parent)
-            m_document.Undo().push(new RemoveEdit(m_document.Tree(), *item, place));
+            m_document.Undo().push(new RemoveEdit(m_document.Tree(), item, place));
     }
 }
 

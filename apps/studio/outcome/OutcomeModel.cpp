@@ -75,7 +75,8 @@ QVariant OutcomeModel::data(const QModelIndex& index, int role) const
     if (role == Qt::ToolTipRole && !row.why.isEmpty())
         return row.why;
     if (role == Qt::TextAlignmentRole)
-        return (Qt::AlignLeft | Qt::AlignTop).toInt(); // reasons may take some lines
+        // Reasons may take some lines; a heading stands near what is below it.
+        return (Qt::AlignLeft | (row.isHeading ? Qt::AlignBottom : Qt::AlignTop)).toInt();
     const bool isStrong = row.isHeading || (index.column() == Output && row.IsChanged());
     if (role == Qt::FontRole && isStrong)
     {

@@ -160,10 +160,11 @@ void OutcomeView::PutReasonsBelow(int width)
 void OutcomeView::FitRows()
 {
     constexpr int kBetween = 3; // so that lines of one row are nearer than rows
+    constexpr int kAboveHeading = 5;
     SpanHeadings();
     resizeRowsToContents();
     for (int row = 0; row < m_model.rowCount(); ++row)
-        setRowHeight(row, rowHeight(row) + kBetween);
+        setRowHeight(row, rowHeight(row) + (m_model.RowAt(row).isHeading ? kAboveHeading : kBetween));
     updateGeometry();
 }
 

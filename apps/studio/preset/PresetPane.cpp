@@ -31,7 +31,7 @@ QLabel* NewHint(const QString& text)
 PresetPane::PresetPane(StudioDocument& document, QWidget* parent)
     : QWidget(parent), m_session(document), m_stack(new QStackedWidget(this)),
       m_header(new ItemHeader(m_session, m_manners)), m_tabs(new QTabWidget),
-      m_hint(NewHint(tr("Pick a preset of this category to see what it makes of a file, and to change it."))),
+      m_hint(NewHint(tr("Pick a preset of this category to see what it makes of a file."))),
       m_video(new StreamPage(m_session, Tool::StreamKind::Video, m_manners)),
       m_audio(new StreamPage(m_session, Tool::StreamKind::Audio, m_manners))
 {

@@ -1066,8 +1066,8 @@
         <translation>Codecs</translation>
     </message>
     <message>
-        <source>Pick a preset of this category to see what it makes of a file, and to change it.</source>
-        <translation>Wählen Sie eine Vorgabe dieser Kategorie, um zu sehen, was sie aus einer Datei macht, und um sie zu ändern.</translation>
+        <source>Pick a preset of this category to see what it makes of a file.</source>
+        <translation>Wählen Sie eine Vorgabe dieser Kategorie, um zu sehen, was sie aus einer Datei macht.</translation>
     </message>
 </context>
 <context>

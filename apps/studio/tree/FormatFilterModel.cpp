@@ -18,12 +18,12 @@ FormatFilterModel::FormatFilterModel(StudioDocument& document, QObject* parent)
     m_timer.setSingleShot(true);
     m_timer.setInterval(0);
     connect(&m_timer, &QTimer::timeout, this, &FormatFilterModel::Search);
+    // What is renamed stays until the next search, or it would go from under the hands of who types the name.
     auto& tree = document.Tree();
     connect(&tree, &PresetTree::Reset, this, &FormatFilterModel::SearchSoon);
     connect(&tree, &PresetTree::Inserted, this, &FormatFilterModel::SearchSoon);
     connect(&tree, &PresetTree::Removed, this, &FormatFilterModel::SearchSoon);
     connect(&tree, &PresetTree::Moved, this, &FormatFilterModel::SearchSoon);
-    connect(&tree, &PresetTree::LookChanged, this, &FormatFilterModel::SearchSoon);
 }
 
 void FormatFilterModel::SetText(const QString& text)
