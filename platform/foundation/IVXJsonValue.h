@@ -53,7 +53,8 @@ public:
     virtual void SetValueBool(std::string_view name, bool value) = 0;
     /// Sets or replaces a member by a text, which is copied.
     virtual void SetValueString(std::string_view name, const std::string& value) = 0;
-    /// Sets or replaces a member by a value, which is shared, not copied; an empty handle sets null.
+    /// Sets or replaces a member by a value, which is shared, not copied; an empty handle sets null. Whoever
+    /// changes the value later on does so through a handle that was kept.
     virtual void SetValueObject(std::string_view name, const std::shared_ptr<IVXJsonValue>& value) = 0;
     /// Sets or replaces a member by an array of values, which are shared; an empty handle among them is null.
     virtual void SetValueArray(std::string_view name,

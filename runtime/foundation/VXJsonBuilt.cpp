@@ -1,10 +1,13 @@
+#include "runtime/foundation/VXJson.h"
 #include "runtime/foundation/VXJsonEscape.h"
 #include "runtime/foundation/VXJsonMembers.h"
 #include "runtime/foundation/VXJsonNode.h"
 #include "runtime/foundation/VXJsonPieces.h"
 #include "runtime/foundation/VXPrefetch.h"
 
+#include <algorithm>
 #include <array>
+#include <atomic>
 #include <charconv>
 #include <iterator>
 #include <typeinfo>
@@ -16,11 +19,15 @@ namespace Vexlor
 namespace
 {
 
-using Handle = std::shared_ptr<IVXJsonValue>; // an empty one stands for null
-using Handles = VXJsonMembers::Children;
+using Handle = JsonChild; // an empty one stands for null
+using Handles = JsonChildren;
 
 // How many elements ahead a value is asked for, of which there are more than the caches hold.
 constexpr std::size_t kSoon = 8;
+
+// What finished children may become at most: a text that is copied while it is at hand, and that can be read.
+constexpr std::size_t kLongFinished = 64000;
+constexpr int kDeepFinished = 16;
 
 // Lets go of children without the destructors of deep values calling each other: the first of them on this
 // thread empties a list in a loop, those that it runs only add to that list.
@@ -50,16 +57,44 @@ std::shared_ptr<const IVXJsonValue> OrNull(const Handle& handle)
 }
 
 JsonItem ItemOf(const Handle& handle);
-
 template <class Value, class... Arguments>
 std::shared_ptr<Value> MakeValue(const Arguments&... arguments)
 {
     return std::allocate_shared<Value>(JsonPieceAllocator<Value>(), arguments...);
 }
 
-// A text that a setter wrote, as what it stands for. A string is left as it stands: only few need a copy.
-JsonItem ScalarOf(std::string_view text)
+bool IsContainer(std::string_view text) { return text.front() == '{' || text.front() == '['; }
+
+// Where the text of a finished child goes.
+struct Finished
 {
+    std::string& text;
+    std::size_t most; // how long that may get
+
+    bool Append(std::string_view part) const
+    {
+        const bool fits = text.size() + part.size() <= most;
+        if (fits)
+            text.append(part);
+        return fits;
+    }
+};
+
+bool Finish(const Finished& out, const Handle& handle, int& depth);
+
+bool FinishChild(std::string& text, const Handle& child, int& depth)
+{
+    return Finish({.text = text, .most = text.size() + kLongFinished}, child, depth);
+}
+
+// A text that stands for a member, as what it says. A string is left as it stands: only few need a copy.
+JsonItem ItemOf(std::string_view text)
+{
+    if (IsContainer(text))
+        return {.kind = text.front() == '[' ? JsonKind::Array : JsonKind::Object,
+                .bits = 0,
+                .text = {},
+                .node = nullptr};
     if (text.front() == '"')
         return {.kind = JsonKind::Text, .bits = 0, .text = text, .node = nullptr};
     if (text == "true" || text == "false")
@@ -107,6 +142,21 @@ public:
     }
 
     int Size() const override { return SizeOf(m_elements.size()); }
+    bool AppendFinished(const Finished& out, int& depth) const
+    {
+        int inner = 0;
+        char before = '[';
+        for (const auto& element : m_elements)
+        {
+            out.text += std::exchange(before, ',');
+            if (!Finish(out, element, inner))
+                return false;
+        }
+        out.text += ']';
+        depth = std::max(depth, inner + 1);
+        return true;
+    }
+
     std::shared_ptr<const IVXJsonValue> At(int index) const override
     {
         return index >= 0 && index < Size() ? OrNull(m_elements[static_cast<std::size_t>(index)])
@@ -143,7 +193,7 @@ public:
         JsonMember member;
         if (!m_members.Find(name, member))
             return {};
-        return member.child ? ItemOf(*member.child) : ScalarOf(member.value);
+        return member.child ? ItemOf(*member.child) : ItemOf(member.value);
     }
 
     JsonItem Self() const override
@@ -167,6 +217,7 @@ public:
         if (!m_members.NextWritten(cursor.at, part.text, child))
             return false;
         part.child = child ? ItemOf(*child) : JsonItem();
+        part.depth = m_members.TextDepth();
         return true;
     }
 
@@ -175,42 +226,85 @@ public:
         JsonMember member;
         if (!m_members.Find(name, member))
             return JsonNull();
-        return member.child ? OrNull(*member.child) : MakeValue<VXJsonScalar>(member.value);
+        if (member.child)
+            return OrNull(*member.child);
+        return IsContainer(member.value) ? ParseJson(member.value) : MakeValue<VXJsonScalar>(member.value);
     }
     std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view name) const override
     {
         return Find(name).kind == JsonKind::Array ? (*this)[name] : JsonEmptyArray();
     }
 
-    void SetValueInt(std::string_view name, int value) override { SetValueInt64(name, value); }
-    void SetValueInt64(std::string_view name, std::int64_t value) override
-    {
-        std::array<char, std::numeric_limits<std::int64_t>::digits10 + 2> digits{};
-        const auto* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
-        m_members.SetText(name, {digits.data(), static_cast<std::size_t>(end - digits.data())});
-    }
+    void SetValueInt(std::string_view name, int value) override { SetNumber(name, value); }
+    void SetValueInt64(std::string_view name, std::int64_t value) override { SetNumber(name, value); }
     void SetValueBool(std::string_view name, bool value) override
     {
+        FinishLast();
         m_members.SetText(name, value ? "true" : "false");
     }
     void SetValueString(std::string_view name, const std::string& value) override
     {
+        FinishLast();
         std::string text;
         AppendJsonString(text, value);
         m_members.SetText(name, text);
     }
     void SetValueObject(std::string_view name, const Handle& value) override
     {
+        FinishLast();
         m_members.SetChild(name, value);
     }
     void SetValueArray(std::string_view name, const std::vector<Handle>& values) override
     {
-        m_members.SetChild(name, MakeValue<VXJsonArray>(values));
+        FinishLast();
+        if (values.empty())
+            m_members.SetEmptyArray(name);
+        else
+            m_members.SetChild(name, MakeValue<VXJsonArray>(values));
+    }
+
+    bool AppendFinished(const Finished& out, int& depth) const
+    {
+        if (m_members.Empty())
+            return out.Append("null");
+        depth = std::max(depth, m_members.TextDepth() + 1);
+        const auto whole = m_members.Whole();
+        if (whole.empty() || depth > kDeepFinished || !out.Append(whole))
+            return false;
+        out.text.back() = '}';
+        return true;
     }
 
 private:
+    template <class Number>
+    void SetNumber(std::string_view name, Number value)
+    {
+        FinishLast();
+        std::array<char, std::numeric_limits<Number>::digits10 + 2> digits;
+        const auto* const end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+        m_members.SetText(name, {digits.data(), static_cast<std::size_t>(end - digits.data())});
+    }
+
+    // Whoever builds a value is done with a child when the next member is set.
+    void FinishLast() { m_members.FinishLast(&FinishChild); }
+
     VXJsonMembers m_members;
 };
+
+// Writes a value that nobody else holds, and that so can change no more.
+bool Finish(const Finished& out, const Handle& handle, int& depth)
+{
+    if (!handle)
+        return out.Append("null");
+    if (handle.use_count() != 1)
+        return false;
+    std::atomic_thread_fence(std::memory_order_acquire); // what others did before they let go of it
+    const IVXJsonValue& value = *handle;
+    if (typeid(value) == typeid(VXJsonObject))
+        return static_cast<const VXJsonObject&>(value).AppendFinished(out, depth);
+    return typeid(value) == typeid(VXJsonArray) &&
+           static_cast<const VXJsonArray&>(value).AppendFinished(out, depth);
+}
 
 JsonItem ItemOf(const Handle& handle)
 {
@@ -220,7 +314,7 @@ JsonItem ItemOf(const Handle& handle)
     if (typeid(value) == typeid(VXJsonObject)) // nearly always, and far cheaper to ask than the cast
         return static_cast<const VXJsonObject&>(value).Self();
     const auto* node = dynamic_cast<const VXJsonNode*>(&value);
-    return node ? node->Self() : ItemOf(nullptr);
+    return node ? node->Self() : ItemOf(Handle());
 }
 
 } // namespace

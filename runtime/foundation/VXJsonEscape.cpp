@@ -77,8 +77,6 @@ char Unescaped(std::string_view escape)
 
 } // namespace
 
-bool IsPlainJsonText(std::string_view text) { return PlainLength(text) == text.size(); }
-
 void AppendJsonString(std::string& out, std::string_view text)
 {
     out += '"';

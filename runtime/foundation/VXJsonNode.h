@@ -25,7 +25,7 @@ enum class JsonKind : std::uint8_t
     Uint64, ///< beyond what a signed integer holds
     Double,
     String,
-    Text, ///< a scalar as it stands in a text; looked up, a string only
+    Text, ///< a value as it stands in a text; looked up, a string only
     Array,
     Object,
 };
@@ -54,6 +54,7 @@ struct JsonPart
 {
     std::string_view text; ///< members as they stand between the braces, without blanks
     JsonItem child;        ///< the value that follows the text; Absent at the end
+    int depth = 0;         ///< how deep containers in the text are nested
 };
 
 /// A place between the elements or members of a container; the first one to begin with.

@@ -62,7 +62,8 @@ struct Pieces
     bool isEnding = false;
 };
 
-thread_local Pieces t_pieces;
+// Asked for with each value: without a call where the compiler can.
+[[gnu::tls_model("initial-exec")]] thread_local Pieces t_pieces;
 
 void Retire() noexcept
 {

@@ -64,9 +64,7 @@ public:
 
     std::string Write(const JsonItem& root)
     {
-        WriteItem(root);
-        while (!m_open.empty() && !m_isTooDeep)
-            WriteNext();
+        WriteWhole(root);
         return m_isTooDeep ? std::string() : std::move(m_text);
     }
 
@@ -79,8 +77,23 @@ private:
         JsonCursor cursor;
     };
 
+    void WriteWhole(const JsonItem& item)
+    {
+        const std::size_t open = m_open.size();
+        WriteItem(item);
+        while (m_open.size() > open && !m_isTooDeep)
+            WriteNext();
+    }
+
     void WriteItem(const JsonItem& item)
     {
+        const bool isContainerText =
+            item.kind == JsonKind::Text && (item.text[0] == '{' || item.text[0] == '[');
+        if (isContainerText && m_indented)
+        {
+            const auto value = ParseJson(item.text);
+            return WriteWhole(static_cast<const VXJsonNode&>(*value).Self());
+        }
         if (item.kind == JsonKind::Array || item.kind == JsonKind::Object)
             Open(*item.node, item.kind == JsonKind::Object);
         else
@@ -109,10 +122,19 @@ private:
         JsonPart part;
         if (!container.node->NextPart(container.cursor, part))
             return Close();
-        m_text.append(part.text);
+        AppendPart(part, m_open.size());
         if (part.child.kind != JsonKind::Absent)
             WriteItem(part.child);
     }
+
+    void AppendPart(const JsonPart& part, std::size_t level)
+    {
+        CheckDepth(level + static_cast<std::size_t>(part.depth));
+        m_text.append(part.text);
+    }
+
+    // A value below itself gets too deep as well.
+    void CheckDepth(std::size_t depth) { m_isTooDeep = m_isTooDeep || depth > kJsonMaxDepth; }
 
     void WriteName(const JsonEntry& entry)
     {
@@ -125,14 +147,16 @@ private:
 
     void Open(const VXJsonNode& node, bool named)
     {
-        // A value below itself gets too deep as well.
-        m_isTooDeep = m_isTooDeep || m_open.size() == kJsonMaxDepth;
+        CheckDepth(m_open.size() + 1);
         m_text += named ? '{' : '[';
         JsonPart part;
         JsonCursor cursor;
         const bool inParts = !m_indented && node.NextPart(cursor, part);
         if (inParts && part.child.kind == JsonKind::Absent)
-            m_text.append(part.text).append(1, '}');
+        {
+            AppendPart(part, m_open.size() + 1);
+            m_text += '}';
+        }
         else
             m_open.push_back({.node = &node, .named = named, .inParts = inParts, .cursor = {}});
     }

@@ -266,4 +266,87 @@ TEST(JsonBuilt, AMemberOfAFinishedListCanBeReplaced)
     EXPECT_EQ(R"({"inners":[{"list":1}]})", JsonText(*outer));
 }
 
+TEST(JsonBuilt, ChildrenThatNobodyHoldsReadAsTheyWereSet)
+{
+    const auto value = Null();
+    value->SetValueObject("object", WithText("a"));
+    value->SetValueArray("list", {WithText("b"), nullptr, Null()});
+    value->SetValueArray("nothing", {});
+    value->SetValueInt("behind", 1);
+    EXPECT_EQ(R"({"object":{"text":"a"},"list":[{"text":"b"},null,null],"nothing":[],"behind":1})",
+              JsonText(*value));
+    EXPECT_EQ("a", (*value)["object"]->GetValueString("text"));
+    EXPECT_EQ(3, value->GetValueArray("list")->Size());
+    EXPECT_EQ("b", (*value)["list"]->At(0)->GetValueString("text"));
+    EXPECT_EQ(0, value->GetValueArray("nothing")->Size());
+}
+
+TEST(JsonBuilt, AFinishedChildIsOfNoOtherKind)
+{
+    const auto value = Null();
+    value->SetValueObject("object", WithText("1"));
+    value->SetValueArray("list", {WithText("true")});
+    value->SetValueInt("behind", 1);
+    for (const auto* name : {"object", "list"})
+    {
+        EXPECT_TRUE(value->HasKey(name));
+        EXPECT_EQ("", value->GetValueString(name));
+        EXPECT_EQ(0, value->GetValueInt64(name));
+        EXPECT_FALSE(value->GetValueBool(name));
+    }
+    EXPECT_EQ(0, value->GetValueArray("object")->Size());
+}
+
+TEST(JsonBuilt, AChildThatIsHeldStaysShared)
+{
+    const auto child = WithText("before");
+    const auto element = Null();
+    const auto value = Null();
+    value->SetValueObject("child", child);
+    value->SetValueArray("list", {element});
+    value->SetValueInt("behind", 1);
+    child->SetValueString("text", "after");
+    element->SetValueInt("later", 2);
+    EXPECT_EQ(R"({"child":{"text":"after"},"list":[{"later":2}],"behind":1})", JsonText(*value));
+    EXPECT_EQ(child, (*value)["child"]);
+}
+
+TEST(JsonBuilt, AFinishedChildCanBeReplaced)
+{
+    const auto value = Null();
+    for (const auto* name : {"a", "b", "c"})
+        value->SetValueObject(name, WithText(name));
+    const auto later = Null();
+    value->SetValueInt("a", 1);
+    value->SetValueObject("b", later);
+    later->SetValueBool("late", true);
+    EXPECT_EQ(R"({"a":1,"b":{"late":true},"c":{"text":"c"}})", JsonText(*value));
+    EXPECT_EQ("c", (*value)["c"]->GetValueString("text"));
+}
+
+TEST(JsonBuilt, FinishedChildrenAreIndentedAsAnyOther)
+{
+    const auto value = Null();
+    value->SetValueArray("list", {WithText("[{,"), Null()});
+    value->SetValueArray("nothing", {});
+    value->SetValueInt("behind", 1);
+    EXPECT_EQ("{\n  \"list\": [\n    {\n      \"text\": \"[{,\"\n    },\n    null\n  ],\n  \"nothing\": [],\n"
+              "  \"behind\": 1\n}",
+              JsonText(*value, JsonStyle::Indented));
+}
+
+TEST(JsonBuilt, ALongListReadsAsAShortOne)
+{
+    const auto value = Null();
+    std::vector<std::shared_ptr<IVXJsonValue>> list;
+    std::generate_n(std::back_inserter(list), 10'000, [] { return WithText("an element of many"); });
+    value->SetValueArray("list", list);
+    list.clear();
+    value->SetValueInt("behind", 1);
+    EXPECT_EQ(10'000, value->GetValueArray("list")->Size());
+    EXPECT_EQ(JsonText(*ParseJson(JsonText(*value))), JsonText(*value));
+    EXPECT_EQ(JsonText(*value, JsonStyle::Indented),
+              JsonText(*ParseJson(JsonText(*value)), JsonStyle::Indented));
+}
+
 } // namespace Vexlor

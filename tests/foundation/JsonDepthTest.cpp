@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace Vexlor
 {
 
@@ -32,11 +34,29 @@ std::shared_ptr<IVXJsonValue> Object(std::string_view name, const std::shared_pt
     return object;
 }
 
+std::shared_ptr<IVXJsonValue> Below(std::size_t levels, std::shared_ptr<IVXJsonValue> value)
+{
+    for (std::size_t level = 0; level < levels; ++level)
+        value = Object("a", value);
+    return value;
+}
+
 std::shared_ptr<IVXJsonValue> DeepObject(std::size_t depth)
+{
+    return Below(depth, IVXJsonValue::JsonValueNull());
+}
+
+// Objects of that depth; on each level something follows the one below.
+std::shared_ptr<IVXJsonValue> Finished(std::size_t depth)
 {
     auto value = IVXJsonValue::JsonValueNull();
     for (std::size_t level = 0; level < depth; ++level)
-        value = Object("a", value);
+    {
+        auto outer = IVXJsonValue::JsonValueNull();
+        outer->SetValueObject("a", std::exchange(value, nullptr));
+        outer->SetValueInt("b", 1);
+        value = std::move(outer);
+    }
     return value;
 }
 
@@ -104,6 +124,17 @@ TEST(JsonDepth, TheDeepestBuiltValueReadsBack)
         const auto reread = ParseJson(text);
         ASSERT_TRUE(reread);
         EXPECT_EQ(text, JsonText(*reread));
+    }
+}
+
+TEST(JsonDepth, WhatIsFinishedCountsAsWell)
+{
+    for (const std::size_t levels : {1, 2, 10, 15, 16, 17, 40, 1000})
+    {
+        const auto inside = Finished(levels);
+        const auto deepest = Below(kJsonMaxDepth - levels, inside);
+        EXPECT_TRUE(ParseJson(JsonText(*deepest))) << levels;
+        EXPECT_EQ("", JsonText(*Object("a", deepest))) << levels;
     }
 }
 
