@@ -10,7 +10,6 @@
 #include "IVXFormatPreset.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace Vexlor::Studio
 {
@@ -73,7 +72,7 @@ void TreeEditor::Remove(const Items& items)
                                                  : tr("Delete Selection"));
     TreePlace place;
     // From the end, so that no list moves up each time.
-    for (const auto& item : std::ranges::reverse_view(items))
+    for (const auto& item : Items(items.rbegin(), items.rend()))
     {
         place = m_document.Tree().PlaceBeside(item, place);
         if (place.parent)

@@ -62,6 +62,13 @@ void DrawOutput(QPainter& painter, const SizeGeometry& geometry, const DrawingCo
     painter.drawRect(geometry.output);
 }
 
+// A size stays on one line.
+QString Unbroken(QString caption)
+{
+    constexpr QChar kNoBreak(QChar::Nbsp);
+    return caption.replace(QStringLiteral(" x "), kNoBreak + QStringLiteral("x") + kNoBreak);
+}
+
 void DrawBound(QPainter& painter, const QRectF& bound, const DrawingColors& colors, Qt::PenStyle style)
 {
     painter.setPen(Line(colors.line, style));
@@ -126,7 +133,7 @@ double SizeDrawing::LineHeight(int line, const QString& text, double width) cons
 {
     constexpr double kHighest = 10'000;
     const QRectF wide(0, 0, std::max(width, 1.0), kHighest);
-    return QFontMetricsF(FontOf(line)).boundingRect(wide, kCaption, text).height();
+    return QFontMetricsF(FontOf(line)).boundingRect(wide, kCaption, Unbroken(text)).height();
 }
 
 double SizeDrawing::CaptionHeight(const QStringList& lines, double width) const
@@ -166,7 +173,7 @@ void SizeDrawing::DrawCaption(QPainter& painter, const QStringList& lines, const
         const double step = LineHeight(i, lines[i], half.width());
         painter.setFont(FontOf(i));
         painter.setPen(i < 2 ? colors.text : colors.faint);
-        painter.drawText(QRectF(half.left(), top, half.width(), step), kCaption, lines[i]);
+        painter.drawText(QRectF(half.left(), top, half.width(), step), kCaption, Unbroken(lines[i]));
         top += step;
     }
 }

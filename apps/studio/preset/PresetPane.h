@@ -31,7 +31,7 @@ public:
     void ShowItem(const TreeItem& item);
 
 private:
-    QWidget* NewEmptyState();
+    static QWidget* NewEmptyState();
     QWidget* NewEditor();
     void Refresh();
     void ShowTabOfUse();

@@ -280,7 +280,7 @@ bool FormatTreeModel::dropMimeData(const QMimeData* data, Qt::DropAction action,
     const bool isMoved = action == Qt::MoveAction && HoldsObjects(*data);
     if (!isMoved)
         items = editor.Copy(items, place);
-    else if (!editor.Move(items, place))
+    if (isMoved && !editor.Move(items, place))
         emit Refused(tr("A category cannot be moved into itself."));
     emit Dropped(items);
     return true;

@@ -211,7 +211,7 @@ TreeItem TreePane::FirstFoundPreset(const QModelIndex& parent) const
     {
         const auto index = m_filter->index(row, 0, parent);
         const auto item = m_model->ItemAt(m_filter->mapToSource(index));
-        const auto found = item.IsPreset() ? item : FirstFoundPreset(index);
+        auto found = item.IsPreset() ? item : FirstFoundPreset(index);
         if (found)
             return found;
     }

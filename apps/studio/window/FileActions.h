@@ -36,11 +36,13 @@ public:
     /// user wants to lose the changes.
     void WhenNothingIsLost(const std::function<void()>& next);
 
-public slots:
+    /// What the menu does.
+    /// @{
     void New();
     void AskForDocument();
     void Save();
     void SaveAs();
+    /// @}
 
 private:
     void Connect();

@@ -30,7 +30,6 @@ public:
     /// Adds the presets of that file, which another program has written.
     void Import(const QString& path);
 
-public slots:
     void Check();
     void AskForImport();
 
