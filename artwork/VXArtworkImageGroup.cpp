@@ -125,8 +125,8 @@ Pictures ReadPictures(VXByteReader reader, std::size_t count)
         const auto bytes = size ? reader.Bytes(*size) : std::nullopt;
         if (!bytes)
             break;
-        auto data = IVXData::MallocData(0);
-        data->AppendBytes(bytes->data(), *size);
+        auto data = IVXData::MallocData(*size);
+        std::ranges::copy(*bytes, data->Bytes());
         auto picture = IVXArtworkImage::MallocArtworkImage();
         picture->FromData(data);
         pictures.emplace_back(static_cast<int>(*key), std::move(picture));

@@ -1,6 +1,6 @@
 #include "IVXStorage.h"
 
-#include "IVXData.h"
+#include "runtime/foundation/VXData.h"
 #include "runtime/foundation/VXError.h"
 #include "runtime/foundation/VXFile.h"
 
@@ -76,7 +76,7 @@ std::uint64_t VXStorage::SizeFromHere(std::uint32_t wanted)
 std::shared_ptr<IVXData> VXStorage::Read(std::uint32_t size)
 {
     const std::uint64_t rest = SizeFromHere(size);
-    auto data = IVXData::MallocData(static_cast<std::uint32_t>(std::min<std::uint64_t>(size, rest)));
+    auto data = MallocUnsetData(static_cast<std::uint32_t>(std::min<std::uint64_t>(size, rest)));
     if (data->Empty())
         return data;
     std::error_code fault;

@@ -4,7 +4,7 @@
 
 #include <array>
 #include <cstring>
-#include <vector>
+#include <utility>
 
 namespace Vexlor
 {
@@ -17,13 +17,16 @@ namespace
 constexpr std::array<std::uint8_t, 4> kTag{'V', 'X', 'P', 'I'};
 constexpr std::uint32_t kHeaderSize = 8;
 
-std::array<std::uint8_t, kHeaderSize> Header(std::uint32_t format)
+std::shared_ptr<IVXData> Serialised(const std::uint8_t* bytes, std::uint32_t size, std::uint32_t format)
 {
     std::array<std::uint8_t, kHeaderSize> header{};
     std::memcpy(header.data(), kTag.data(), kTag.size());
     for (std::size_t i = 0; i < 4; ++i)
         header.at(kTag.size() + i) = static_cast<std::uint8_t>(format >> (8 * i));
-    return header;
+    auto data = IVXData::MallocData(0);
+    data->AppendBytes(header.data(), kHeaderSize);
+    data->AppendBytes(bytes, bytes ? size : 0);
+    return data;
 }
 
 std::uint32_t FormatNumber(const std::uint8_t* header)
@@ -39,57 +42,46 @@ bool IsSerialised(const IVXData* data)
     return data && data->Size() >= kHeaderSize && std::memcmp(data->Bytes(), kTag.data(), kTag.size()) == 0;
 }
 
+// Keeps what it was read from: of the hundreds of pictures that a program reads, none is copied.
 class VXArtworkImage final : public IVXArtworkImage
 {
 public:
-    VXArtworkImage() = default;
-    VXArtworkImage(const std::uint8_t* bytes, std::uint32_t size, ArtworkImageFormat format)
-        : m_bytes(bytes, bytes ? bytes + size : bytes), m_format(format)
+    explicit VXArtworkImage(std::shared_ptr<const IVXData> data) : m_data(std::move(data)) {}
+
+    const std::uint8_t* Bytes() const override
     {
+        return Size() > 0 ? m_data->Bytes() + kHeaderSize : nullptr;
+    }
+    std::uint32_t Size() const override { return m_data ? m_data->Size() - kHeaderSize : 0; }
+    ArtworkImageFormat Format() const override
+    {
+        return m_data ? static_cast<ArtworkImageFormat>(FormatNumber(m_data->Bytes()))
+                      : ArtworkImageFormatUnknown;
+    }
+    std::shared_ptr<IVXData> ToData() const override
+    {
+        return Serialised(Bytes(), Size(), static_cast<std::uint32_t>(Format()));
+    }
+    void FromData(const std::shared_ptr<const IVXData>& data) override
+    {
+        m_data = IsSerialised(data.get()) ? data : nullptr;
     }
 
-    const std::uint8_t* Bytes() const override { return m_bytes.data(); }
-    std::uint32_t Size() const override { return static_cast<std::uint32_t>(m_bytes.size()); }
-    ArtworkImageFormat Format() const override { return m_format; }
-    std::shared_ptr<IVXData> ToData() const override;
-    void FromData(const std::shared_ptr<const IVXData>& data) override;
-
 private:
-    std::vector<std::uint8_t> m_bytes;
-    ArtworkImageFormat m_format = ArtworkImageFormatUnknown;
+    std::shared_ptr<const IVXData> m_data; // serialised; empty for a picture without bytes
 };
-
-std::shared_ptr<IVXData> VXArtworkImage::ToData() const
-{
-    auto data = IVXData::MallocData(0);
-    const auto header = Header(static_cast<std::uint32_t>(m_format));
-    data->AppendBytes(header.data(), kHeaderSize);
-    data->AppendBytes(m_bytes.data(), Size());
-    return data;
-}
-
-void VXArtworkImage::FromData(const std::shared_ptr<const IVXData>& data)
-{
-    m_bytes.clear();
-    m_format = ArtworkImageFormatUnknown;
-    if (!IsSerialised(data.get()))
-        return;
-    const auto* bytes = data->Bytes();
-    m_format = static_cast<ArtworkImageFormat>(FormatNumber(bytes));
-    m_bytes.assign(bytes + kHeaderSize, bytes + data->Size());
-}
 
 } // namespace
 
 std::shared_ptr<IVXArtworkImage> IVXArtworkImage::MallocArtworkImage()
 {
-    return std::make_shared<VXArtworkImage>();
+    return std::make_shared<VXArtworkImage>(nullptr);
 }
 
 std::shared_ptr<IVXArtworkImage>
 IVXArtworkImage::MallocArtworkImage(const std::uint8_t* bytes, std::uint32_t size, ArtworkImageFormat format)
 {
-    return std::make_shared<VXArtworkImage>(bytes, size, format);
+    return std::make_shared<VXArtworkImage>(Serialised(bytes, size, static_cast<std::uint32_t>(format)));
 }
 
 } // namespace Vexlor
