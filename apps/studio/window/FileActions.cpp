@@ -16,7 +16,7 @@
 namespace Vexlor::Studio
 {
 
-FileActions::FileActions(StudioDocument& document, UserSettings& settings, MessageBar& messages,
+FileActions::FileActions(StudioDocument& document, const UserSettings& settings, MessageBar& messages,
                          QWidget* window)
     : QObject(window), m_document(document), m_messages(messages), m_window(window), m_files(document),
       m_recent(new RecentFiles(tr("Open &Recent"), "recentDocuments", settings, window)),

@@ -24,7 +24,8 @@ class FileActions : public QObject
     Q_OBJECT
 
 public:
-    FileActions(StudioDocument& document, UserSettings& settings, MessageBar& messages, QWidget* window);
+    FileActions(StudioDocument& document, const UserSettings& settings, MessageBar& messages,
+                QWidget* window);
 
     DocumentFiles& Files() { return m_files; }
     /// Adds the actions of documents to the menu.

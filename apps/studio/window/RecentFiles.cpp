@@ -8,7 +8,7 @@
 namespace Vexlor::Studio
 {
 
-RecentFiles::RecentFiles(const QString& title, const QString& settingsKey, UserSettings& settings,
+RecentFiles::RecentFiles(const QString& title, const QString& settingsKey, const UserSettings& settings,
                          QWidget* parent)
     : QMenu(title, parent), m_key(settingsKey), m_settings(settings)
 {
@@ -25,7 +25,7 @@ void RecentFiles::Add(const QString& path)
     Store(paths.mid(0, kMost));
 }
 
-QStringList RecentFiles::Paths() const { return m_settings.Value(m_key).toStringList(); }
+QStringList RecentFiles::Paths() const { return UserSettings::Value(m_key).toStringList(); }
 
 void RecentFiles::Store(const QStringList& paths)
 {

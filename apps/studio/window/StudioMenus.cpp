@@ -104,7 +104,7 @@ void StudioWindow::MakeThemeMenu(QMenu& view)
     };
     auto* group = new QActionGroup(this);
     auto& menu = *view.addMenu(tr("Co&lours"));
-    const auto current = Themes::ThemeOf(m_settings.Value("window/theme").toString());
+    const auto current = Themes::ThemeOf(UserSettings::Value("window/theme").toString());
     for (const auto& choice :
          {Choice{Theme::System, tr("&System"), "Ctrl+Alt+S"},
           Choice{Theme::Light, tr("&Light"), "Ctrl+Alt+L"}, Choice{Theme::Dark, tr("&Dark"), "Ctrl+Alt+D"}})

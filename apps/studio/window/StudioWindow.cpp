@@ -280,16 +280,17 @@ void StudioWindow::dropEvent(QDropEvent* event)
 
 void StudioWindow::RestoreState()
 {
-    if (!restoreGeometry(m_settings.Value(kGeometry).toByteArray()))
+    if (!restoreGeometry(UserSettings::Value(kGeometry).toByteArray()))
         resize(kDefaultSize);
-    restoreState(m_settings.Value(kState).toByteArray());
-    m_splitter->restoreState(m_settings.Value(kSplitter).toByteArray());
+    restoreState(UserSettings::Value(kState).toByteArray());
+    m_splitter->restoreState(UserSettings::Value(kSplitter).toByteArray());
     m_findingsDock->hide(); // what it showed is gone
-    m_themes.Use(Themes::ThemeOf(m_settings.Value(kTheme).toString()));
-    m_outcome->SetHabits({m_settings.Value(kFitting).toInt(), m_settings.Value(kOutputFolder).toString()});
+    m_themes.Use(Themes::ThemeOf(UserSettings::Value(kTheme).toString()));
+    m_outcome->SetHabits(
+        {UserSettings::Value(kFitting).toInt(), UserSettings::Value(kOutputFolder).toString()});
 }
 
-void StudioWindow::StoreState()
+void StudioWindow::StoreState() const
 {
     m_settings.Store(kGeometry, saveGeometry());
     m_settings.Store(kState, saveState());

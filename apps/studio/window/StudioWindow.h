@@ -73,7 +73,7 @@ private:
     void TellOfLoss(const QString& failure);
     void OpenMedia(const QString& path);
     void RestoreState();
-    void StoreState();
+    void StoreState() const;
     void ShowAbout();
 
     UserSettings m_settings;

@@ -11,9 +11,9 @@ class UserSettings
 {
 public:
     /// What is kept under that name; not valid where nothing is.
-    QVariant Value(const QString& key) const { return QSettings().value(key); }
+    static QVariant Value(const QString& key) { return QSettings().value(key); }
     /// Keeps the value under that name.
-    void Store(const QString& key, const QVariant& value)
+    void Store(const QString& key, const QVariant& value) const
     {
         if (!m_isFrozen)
             QSettings().setValue(key, value);
