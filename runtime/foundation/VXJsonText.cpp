@@ -56,6 +56,45 @@ void AppendScalar(std::string& out, const JsonItem& item)
     }
 }
 
+// How long the texts in a built value are that are written without blanks: nearly all of its text. Nothing is
+// known of what is below a value that is too deep.
+class LengthOfParts
+{
+public:
+    explicit LengthOfParts(const JsonItem& root) { Add(root, 1); }
+
+    std::size_t Length() const { return m_length; }
+
+private:
+    void Add(const JsonItem& item, std::size_t depth)
+    {
+        m_isTooDeep = m_isTooDeep || depth > kJsonMaxDepth;
+        if (item.kind == JsonKind::Array)
+            AddElements(*item.node, depth + 1);
+        else if (item.kind == JsonKind::Object)
+            AddParts(*item.node, depth + 1);
+    }
+
+    void AddElements(const VXJsonNode& node, std::size_t depth)
+    {
+        JsonEntry entry;
+        for (JsonCursor cursor; !m_isTooDeep && node.Next(cursor, entry); ++m_length)
+            Add(entry.item, depth);
+    }
+
+    void AddParts(const VXJsonNode& node, std::size_t depth)
+    {
+        constexpr std::size_t kBraces = 2;
+        m_length += kBraces;
+        JsonPart part;
+        for (JsonCursor cursor; !m_isTooDeep && node.NextPart(cursor, part); m_length += part.text.size())
+            Add(part.child, depth);
+    }
+
+    std::size_t m_length = 0;
+    bool m_isTooDeep = false;
+};
+
 // Walks a value with a list of open containers instead of calls, so that no depth is too deep.
 class TextWriter
 {
@@ -64,6 +103,8 @@ public:
 
     std::string Write(const JsonItem& root)
     {
+        if (!m_indented)
+            m_text.reserve(LengthOfParts(root).Length());
         WriteWhole(root);
         return m_isTooDeep ? std::string() : std::move(m_text);
     }
