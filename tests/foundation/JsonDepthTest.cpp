@@ -129,7 +129,7 @@ TEST(JsonDepth, TheDeepestBuiltValueReadsBack)
 
 TEST(JsonDepth, WhatIsFinishedCountsAsWell)
 {
-    for (const std::size_t levels : {1, 2, 10, 15, 16, 17, 40, 1000})
+    for (const std::size_t levels : {1U, 2U, 10U, 15U, 16U, 17U, 40U, 1000U})
     {
         const auto inside = Finished(levels);
         const auto deepest = Below(kJsonMaxDepth - levels, inside);
