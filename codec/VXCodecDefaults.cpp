@@ -1,7 +1,5 @@
 #include "codec/VXCodecDefaults.h"
 
-#include "presets/VXValueList.h"
-
 #include "IVXChannelLayoutPreset.h"
 #include "IVXCodecPreset.h"
 #include "IVXCodecQualityPreset.h"
@@ -76,22 +74,22 @@ HandleList<Preset> BehindAuto(HandleList<Preset> list, std::shared_ptr<Preset> a
 {
     if (list.size() >= 2)
         list.insert(list.begin(), std::move(autoPreset));
-    return CloneValues(list);
+    return CloneValues<Preset>(std::move(list)).Handles();
 }
 
 } // namespace
 
-HandleList<IVXCodecQualityPreset> DefaultQualities()
+VXValueList<IVXCodecQualityPreset> DefaultQualities()
 {
     using Quality = IVXCodecQualityPreset;
-    static const HandleList<Quality> s_qualities{
+    static const auto s_qualities = CloneValues<Quality>(HandleList<Quality>{
         Quality::MallocCodecQualityPreset(),
         Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelLow),
         Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelNormal),
         Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelHigh),
         Quality::MallocCodecQualityPreset(IVXCodecs::QualityLevelBest),
         Quality::MallocCodecQualityPreset(1),
-    };
+    });
     return CloneValues(s_qualities);
 }
 
@@ -145,6 +143,11 @@ HandleList<IVXChannelLayoutPreset> IVXCodecPreset::DefaultChannelLayouts(int cod
 
 HandleList<IVXSampleFmtPreset> IVXCodecPreset::DefaultSampleFmt(int codecID)
 {
+    return DefaultSampleFormats(codecID).Handles();
+}
+
+VXValueList<IVXSampleFmtPreset> DefaultSampleFormats(int codecID)
+{
     const auto codecs = IVXCodecs::MallocCodecs(codecID, true);
     if (!codecs)
         return {};
@@ -165,7 +168,7 @@ HandleList<IVXProfilePreset> IVXCodecPreset::DefaultProfiles(int codecID)
         IVXProfilePreset::MallocProfilePreset(IVXCodecs::VXProfileUnknown, "Unknown")};
     for (const int profile : codecs->SupportedProfiles({}))
         list.push_back(IVXProfilePreset::MallocProfilePreset(profile, codecs->ProfileName(profile)));
-    return CloneValues(list);
+    return CloneValues<IVXProfilePreset>(std::move(list)).Handles();
 }
 
 HandleList<IVXLevelPreset> IVXCodecPreset::DefaultLevels(int codecID)
@@ -176,7 +179,7 @@ HandleList<IVXLevelPreset> IVXCodecPreset::DefaultLevels(int codecID)
     HandleList<IVXLevelPreset> list{IVXLevelPreset::MallocLevelPreset(IVXCodecs::VXLevelUnknown, "Unknown")};
     for (const int level : codecs->SupportedLevels({}))
         list.push_back(IVXLevelPreset::MallocLevelPreset(level, codecs->LevelName(level)));
-    return CloneValues(list);
+    return CloneValues<IVXLevelPreset>(std::move(list)).Handles();
 }
 
 } // namespace Vexlor

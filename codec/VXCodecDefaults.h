@@ -1,13 +1,14 @@
 #pragma once
 
-#include "presets/VXHandleList.h"
+#include "presets/VXValueList.h"
 
 namespace Vexlor
 {
 
-class IVXCodecQualityPreset;
-
 /// The quality settings that every codec offers: Auto, the four grades, and a custom bitrate to edit.
-HandleList<IVXCodecQualityPreset> DefaultQualities();
+VXValueList<IVXCodecQualityPreset> DefaultQualities();
+
+/// The formats of IVXCodecPreset::DefaultSampleFmt.
+VXValueList<IVXSampleFmtPreset> DefaultSampleFormats(int codecID);
 
 } // namespace Vexlor

@@ -65,7 +65,7 @@ VXCodecPreset::VXCodecPreset(int codecID)
     ResetLevelPresets();
     if (const auto codecs = IVXCodecs::MallocCodecs(codecID, true))
         m_name = codecs->GetCodecName();
-    m_sampleFmts.Reset(DefaultSampleFmt(codecID));
+    m_sampleFmts.Reset(DefaultSampleFormats(codecID));
 }
 
 VXCodecPreset::VXCodecPreset(const IVXJsonValue& json)
@@ -82,7 +82,7 @@ VXCodecPreset::VXCodecPreset(const IVXJsonValue& json)
     // Grades, formats and the name belong to the codec, not to the document; deliberately, a name in it is
     // dropped.
     m_qualities.Reset(DefaultQualities());
-    m_sampleFmts.Reset(DefaultSampleFmt(m_codecID));
+    m_sampleFmts.Reset(DefaultSampleFormats(m_codecID));
     m_name = IVXCodecs::DefaultCodecName(m_codecID, true);
 }
 

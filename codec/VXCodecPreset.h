@@ -36,10 +36,10 @@ public:
     std::shared_ptr<IVXCodecPreset> Clone() const override;
     std::shared_ptr<IVXJsonValue> JsonValue() const override;
 
-    HandleList<IVXResolutionPreset> ResolutionPresets() override { return m_resolutions.Entries(); }
+    HandleList<IVXResolutionPreset> ResolutionPresets() override { return m_resolutions.Handles(); }
     HandleList<const IVXResolutionPreset> ResolutionPresets() const override
     {
-        return ReadOnly(m_resolutions.Entries());
+        return m_resolutions.ReadOnlyHandles();
     }
     std::shared_ptr<IVXResolutionPreset> ResolutionPresetAt(int index) const override
     {
@@ -60,10 +60,10 @@ public:
     }
     void MoveResolutionPreset(int from, int to) override { m_resolutions.Move(from, to); }
 
-    HandleList<IVXFrameratePreset> FrameratePresets() override { return m_framerates.Entries(); }
+    HandleList<IVXFrameratePreset> FrameratePresets() override { return m_framerates.Handles(); }
     HandleList<const IVXFrameratePreset> FrameratePresets() const override
     {
-        return ReadOnly(m_framerates.Entries());
+        return m_framerates.ReadOnlyHandles();
     }
     std::shared_ptr<IVXFrameratePreset> FrameratePresetAt(int index) const override
     {
@@ -84,10 +84,10 @@ public:
     }
     void MoveFrameratePreset(int from, int to) override { m_framerates.Move(from, to); }
 
-    HandleList<IVXCodecQualityPreset> CodecQualityPresets() override { return m_qualities.Entries(); }
+    HandleList<IVXCodecQualityPreset> CodecQualityPresets() override { return m_qualities.Handles(); }
     HandleList<const IVXCodecQualityPreset> CodecQualityPresets() const override
     {
-        return ReadOnly(m_qualities.Entries());
+        return m_qualities.ReadOnlyHandles();
     }
     std::shared_ptr<const IVXCodecQualityPreset> CodecQualityPresetAt(int index) const override
     {
@@ -101,10 +101,10 @@ public:
     int IndexForQualityPresets() const override { return m_qualities.Index(); }
     void SetIndexForQualityPresets(int index) override { m_qualities.SetIndex(index); }
 
-    HandleList<IVXSampleratePreset> SampleratePresets() override { return m_samplerates.Entries(); }
+    HandleList<IVXSampleratePreset> SampleratePresets() override { return m_samplerates.Handles(); }
     HandleList<const IVXSampleratePreset> SampleratePresets() const override
     {
-        return ReadOnly(m_samplerates.Entries());
+        return m_samplerates.ReadOnlyHandles();
     }
     std::shared_ptr<IVXSampleratePreset> SampleratePresetAt(int index) const override
     {
@@ -125,10 +125,10 @@ public:
     }
     void MoveSampleratePreset(int from, int to) override { m_samplerates.Move(from, to); }
 
-    HandleList<IVXChannelLayoutPreset> ChannelLayoutPresets() override { return m_channelLayouts.Entries(); }
+    HandleList<IVXChannelLayoutPreset> ChannelLayoutPresets() override { return m_channelLayouts.Handles(); }
     HandleList<const IVXChannelLayoutPreset> ChannelLayoutPresets() const override
     {
-        return ReadOnly(m_channelLayouts.Entries());
+        return m_channelLayouts.ReadOnlyHandles();
     }
     std::shared_ptr<IVXChannelLayoutPreset> ChannelLayoutPresetAt(int index) const override
     {
@@ -149,10 +149,10 @@ public:
     }
     void MoveChannelLayoutPreset(int from, int to) override { m_channelLayouts.Move(from, to); }
 
-    HandleList<IVXProfilePreset> ProfilePresets() override { return m_profiles.Entries(); }
+    HandleList<IVXProfilePreset> ProfilePresets() override { return m_profiles.Handles(); }
     HandleList<const IVXProfilePreset> ProfilePresets() const override
     {
-        return ReadOnly(m_profiles.Entries());
+        return m_profiles.ReadOnlyHandles();
     }
     std::shared_ptr<IVXProfilePreset> ProfilePresetAt(int index) const override
     {
@@ -173,8 +173,8 @@ public:
     }
     void MoveProfilePreset(int from, int to) override { m_profiles.Move(from, to); }
 
-    HandleList<IVXLevelPreset> LevelPresets() override { return m_levels.Entries(); }
-    HandleList<const IVXLevelPreset> LevelPresets() const override { return ReadOnly(m_levels.Entries()); }
+    HandleList<IVXLevelPreset> LevelPresets() override { return m_levels.Handles(); }
+    HandleList<const IVXLevelPreset> LevelPresets() const override { return m_levels.ReadOnlyHandles(); }
     std::shared_ptr<IVXLevelPreset> LevelPresetAt(int index) const override
     {
         return m_levels.Unchecked(index);
@@ -200,7 +200,7 @@ public:
     }
     HandleList<const IVXSampleFmtPreset> SampleFmtPresets() const override
     {
-        return ReadOnly(m_sampleFmts.Entries());
+        return m_sampleFmts.ReadOnlyHandles();
     }
     int IndexForSampleFmts() const override { return m_sampleFmts.Index(); }
     // Deliberately unchecked, unlike every other index.

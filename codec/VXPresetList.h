@@ -16,28 +16,33 @@ class VXPresetList
 {
 public:
     VXPresetList() = default;
-    explicit VXPresetList(HandleList<Preset> entries) : m_entries(std::move(entries)) {}
+    explicit VXPresetList(VXValueList<Preset> entries) : m_entries(std::move(entries)) {}
 
-    const HandleList<Preset>& Entries() const { return m_entries; }
-    int Count() const { return CountOf(m_entries); }
-    std::shared_ptr<Preset> At(int index) const { return EntryAt(m_entries, index); }
+    const VXValueList<Preset>& Entries() const { return m_entries; }
+    HandleList<Preset> Handles() const { return m_entries.Handles(); }
+    HandleList<const Preset> ReadOnlyHandles() const { return m_entries.template Handles<const Preset>(); }
+    int Count() const { return static_cast<int>(m_entries.Count()); }
+    std::shared_ptr<Preset> At(int index) const { return Holds(index) ? Unchecked(index) : nullptr; }
     /// As At, but the caller has checked the index.
-    std::shared_ptr<Preset> Unchecked(int index) const { return m_entries[static_cast<std::size_t>(index)]; }
+    std::shared_ptr<Preset> Unchecked(int index) const
+    {
+        return m_entries.Handle(static_cast<std::size_t>(index));
+    }
     std::shared_ptr<Preset> Current() const { return At(m_index); }
 
-    void Add(std::shared_ptr<Preset> preset) { m_entries.push_back(std::move(preset)); }
-    void Remove(int index) { EraseEntry(m_entries, index); }
-    void Reset(HandleList<Preset> entries) { m_entries = std::move(entries); }
+    void Add(std::shared_ptr<Preset> preset) { m_entries.Changing().push_back(std::move(preset)); }
+    void Remove(int index) { EraseEntry(m_entries.Changing(), index); }
+    void Reset(VXValueList<Preset> entries) { m_entries = std::move(entries); }
     void Insert(const HandleList<Preset>& presets, int position)
     {
-        InsertWithin(m_entries, presets, position);
+        InsertWithin(m_entries.Changing(), presets, position);
     }
-    void Move(int from, int to) { MoveWithin(m_entries, from, to); }
+    void Move(int from, int to) { MoveWithin(m_entries.Changing(), from, to); }
 
     int Index() const { return m_index; }
     void SetIndex(int index)
     {
-        if (Holds(m_entries, index))
+        if (Holds(index))
             m_index = index;
     }
     /// Takes the index as it is, from a document for example.
@@ -52,7 +57,9 @@ public:
     }
 
 private:
-    HandleList<Preset> m_entries;
+    bool Holds(int index) const { return index >= 0 && index < Count(); }
+
+    VXValueList<Preset> m_entries;
     int m_index = 0;
 };
 

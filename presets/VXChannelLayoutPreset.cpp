@@ -69,13 +69,13 @@ IVXChannelLayoutPreset::MallocChannelLayoutPreset(const std::shared_ptr<const IV
 }
 
 template <>
-HandleList<IVXChannelLayoutPreset> ReadValues(const IVXJsonValue& array)
+VXValueList<IVXChannelLayoutPreset> ReadValues(const IVXJsonValue& array)
 {
     return ReadBlock<IVXChannelLayoutPreset, VXChannelLayoutPreset>(array);
 }
 
 template <>
-HandleList<IVXChannelLayoutPreset> CloneValues(const HandleList<IVXChannelLayoutPreset>& list)
+VXValueList<IVXChannelLayoutPreset> CloneValues(const VXValueList<IVXChannelLayoutPreset>& list)
 {
     return CloneBlock<IVXChannelLayoutPreset, VXChannelLayoutPreset>(list);
 }

@@ -113,7 +113,7 @@ IVXCodecQualityPreset::MallocCodecQualityPreset(const std::shared_ptr<const IVXJ
 }
 
 template <>
-HandleList<IVXCodecQualityPreset> CloneValues(const HandleList<IVXCodecQualityPreset>& list)
+VXValueList<IVXCodecQualityPreset> CloneValues(const VXValueList<IVXCodecQualityPreset>& list)
 {
     return CloneBlock<IVXCodecQualityPreset, VXCodecQualityPreset>(list);
 }

@@ -84,13 +84,13 @@ IVXFrameratePreset::MallocFrameratePreset(const std::shared_ptr<const IVXJsonVal
 }
 
 template <>
-HandleList<IVXFrameratePreset> ReadValues(const IVXJsonValue& array)
+VXValueList<IVXFrameratePreset> ReadValues(const IVXJsonValue& array)
 {
     return ReadBlock<IVXFrameratePreset, VXFrameratePreset>(array);
 }
 
 template <>
-HandleList<IVXFrameratePreset> CloneValues(const HandleList<IVXFrameratePreset>& list)
+VXValueList<IVXFrameratePreset> CloneValues(const VXValueList<IVXFrameratePreset>& list)
 {
     return CloneBlock<IVXFrameratePreset, VXFrameratePreset>(list);
 }

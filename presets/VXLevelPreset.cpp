@@ -64,13 +64,13 @@ IVXLevelPreset::MallocLevelPreset(const std::shared_ptr<const IVXJsonValue>& jso
 }
 
 template <>
-HandleList<IVXLevelPreset> ReadValues(const IVXJsonValue& array)
+VXValueList<IVXLevelPreset> ReadValues(const IVXJsonValue& array)
 {
     return ReadBlock<IVXLevelPreset, VXLevelPreset>(array);
 }
 
 template <>
-HandleList<IVXLevelPreset> CloneValues(const HandleList<IVXLevelPreset>& list)
+VXValueList<IVXLevelPreset> CloneValues(const VXValueList<IVXLevelPreset>& list)
 {
     return CloneBlock<IVXLevelPreset, VXLevelPreset>(list);
 }

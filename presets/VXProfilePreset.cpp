@@ -66,13 +66,13 @@ IVXProfilePreset::MallocProfilePreset(const std::shared_ptr<const IVXJsonValue>&
 }
 
 template <>
-HandleList<IVXProfilePreset> ReadValues(const IVXJsonValue& array)
+VXValueList<IVXProfilePreset> ReadValues(const IVXJsonValue& array)
 {
     return ReadBlock<IVXProfilePreset, VXProfilePreset>(array);
 }
 
 template <>
-HandleList<IVXProfilePreset> CloneValues(const HandleList<IVXProfilePreset>& list)
+VXValueList<IVXProfilePreset> CloneValues(const VXValueList<IVXProfilePreset>& list)
 {
     return CloneBlock<IVXProfilePreset, VXProfilePreset>(list);
 }

@@ -73,13 +73,13 @@ IVXResolutionPreset::MallocResolutionPreset(const std::shared_ptr<const IVXJsonV
 }
 
 template <>
-HandleList<IVXResolutionPreset> ReadValues(const IVXJsonValue& array)
+VXValueList<IVXResolutionPreset> ReadValues(const IVXJsonValue& array)
 {
     return ReadBlock<IVXResolutionPreset, VXResolutionPreset>(array);
 }
 
 template <>
-HandleList<IVXResolutionPreset> CloneValues(const HandleList<IVXResolutionPreset>& list)
+VXValueList<IVXResolutionPreset> CloneValues(const VXValueList<IVXResolutionPreset>& list)
 {
     return CloneBlock<IVXResolutionPreset, VXResolutionPreset>(list);
 }

@@ -76,14 +76,14 @@ IVXSampleFmtPreset::MallocSampleFmtPreset(const std::shared_ptr<const IVXJsonVal
     return MallocSampleFmtPreset(format, isAudio);
 }
 
-HandleList<IVXSampleFmtPreset> SampleFmtValues(const std::vector<int>& formats, bool isAudio)
+VXValueList<IVXSampleFmtPreset> SampleFmtValues(const std::vector<int>& formats, bool isAudio)
 {
-    return MakeBlock<IVXSampleFmtPreset, VXSampleFmtPreset>(
+    return VXValueList<IVXSampleFmtPreset>::Block<VXSampleFmtPreset>(
         formats.size(), [&](std::size_t i) { return VXSampleFmtPreset(formats[i], isAudio); });
 }
 
 template <>
-HandleList<IVXSampleFmtPreset> CloneValues(const HandleList<IVXSampleFmtPreset>& list)
+VXValueList<IVXSampleFmtPreset> CloneValues(const VXValueList<IVXSampleFmtPreset>& list)
 {
     return CloneBlock<IVXSampleFmtPreset, VXSampleFmtPreset>(list);
 }

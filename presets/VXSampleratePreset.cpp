@@ -65,13 +65,13 @@ IVXSampleratePreset::MallocSampleratePreset(const std::shared_ptr<const IVXJsonV
 }
 
 template <>
-HandleList<IVXSampleratePreset> ReadValues(const IVXJsonValue& array)
+VXValueList<IVXSampleratePreset> ReadValues(const IVXJsonValue& array)
 {
     return ReadBlock<IVXSampleratePreset, VXSampleratePreset>(array);
 }
 
 template <>
-HandleList<IVXSampleratePreset> CloneValues(const HandleList<IVXSampleratePreset>& list)
+VXValueList<IVXSampleratePreset> CloneValues(const VXValueList<IVXSampleratePreset>& list)
 {
     return CloneBlock<IVXSampleratePreset, VXSampleratePreset>(list);
 }

@@ -18,83 +18,169 @@ class IVXResolutionPreset;
 class IVXSampleFmtPreset;
 class IVXSampleratePreset;
 
-/// The values that the elements of a JSON array describe, each as the kind's factory reads it. They stand in
-/// one block of memory, which lives as long as one of the handles: a document's hundreds of thousands of
-/// values are made in a fraction of the time that allocating each would take.
+/// An ordered list of values of one kind.
+///
+/// Values that are read, built in or copied stand in one block of memory, which the list keeps as a whole: a
+/// document's hundreds of thousands of values are made, copied and destroyed in a fraction of the time that
+/// allocating or counting each would take. A handle is made when one is asked for; it keeps the block. The
+/// first change of the list makes handles of all. Reading never writes.
 template <typename T>
-HandleList<T> ReadValues(const IVXJsonValue& array);
-
-/// What Clone answers for each value of the list; in one block as above, unless values of others are among
-/// them.
-template <typename T>
-HandleList<T> CloneValues(const HandleList<T>& list);
-
-/// A value for each of the formats, in one block as above.
-HandleList<IVXSampleFmtPreset> SampleFmtValues(const std::vector<int>& formats, bool isAudio);
-
-// Each kind's source defines its own, the class being hidden there.
-template <>
-HandleList<IVXChannelLayoutPreset> ReadValues(const IVXJsonValue& array);
-template <>
-HandleList<IVXFrameratePreset> ReadValues(const IVXJsonValue& array);
-template <>
-HandleList<IVXLevelPreset> ReadValues(const IVXJsonValue& array);
-template <>
-HandleList<IVXProfilePreset> ReadValues(const IVXJsonValue& array);
-template <>
-HandleList<IVXResolutionPreset> ReadValues(const IVXJsonValue& array);
-template <>
-HandleList<IVXSampleratePreset> ReadValues(const IVXJsonValue& array);
-template <>
-HandleList<IVXChannelLayoutPreset> CloneValues(const HandleList<IVXChannelLayoutPreset>& list);
-template <>
-HandleList<IVXCodecQualityPreset> CloneValues(const HandleList<IVXCodecQualityPreset>& list);
-template <>
-HandleList<IVXFrameratePreset> CloneValues(const HandleList<IVXFrameratePreset>& list);
-template <>
-HandleList<IVXLevelPreset> CloneValues(const HandleList<IVXLevelPreset>& list);
-template <>
-HandleList<IVXProfilePreset> CloneValues(const HandleList<IVXProfilePreset>& list);
-template <>
-HandleList<IVXResolutionPreset> CloneValues(const HandleList<IVXResolutionPreset>& list);
-template <>
-HandleList<IVXSampleFmtPreset> CloneValues(const HandleList<IVXSampleFmtPreset>& list);
-template <>
-HandleList<IVXSampleratePreset> CloneValues(const HandleList<IVXSampleratePreset>& list);
-
-/// A list of count values of the hidden class Value in one block; make answers the one at a position.
-template <typename T, typename Value, typename Make>
-HandleList<T> MakeBlock(std::size_t count, const Make& make)
+class VXValueList
 {
-    HandleList<T> list;
+public:
+    VXValueList() = default;
+    VXValueList(HandleList<T> handles) : m_handles(std::move(handles)) {}
+
+    /// A list of count values of the hidden class Value; make answers the one at a position.
+    template <typename Value, typename Make>
+    static VXValueList Block(std::size_t count, const Make& make);
+
+    std::size_t Count() const { return m_first ? m_count : m_handles.size(); }
+    const T& operator[](std::size_t index) const
+    {
+        return m_first ? *m_entry(m_first.get(), index) : *m_handles[index];
+    }
+    std::shared_ptr<T> Handle(std::size_t index) const
+    {
+        return m_first ? std::shared_ptr<T>(m_first, m_entry(m_first.get(), index)) : m_handles[index];
+    }
+    template <typename Entry = T>
+    HandleList<Entry> Handles() const;
+
+    /// The list as handles, to be changed.
+    HandleList<T>& Changing();
+
+    /// Whether all values are of the hidden class; those of a block are.
+    template <typename Value>
+    bool HoldsOnly() const;
+
+private:
+    template <typename Value>
+    static T* EntryOf(T* first, std::size_t index)
+    {
+        return static_cast<Value*>(first) + index;
+    }
+
+    HandleList<T> m_handles; // empty as long as there is a block
+    std::shared_ptr<T> m_first;
+    T* (*m_entry)(T* first, std::size_t index) = nullptr;
+    std::size_t m_count = 0;
+};
+
+template <typename T>
+template <typename Value, typename Make>
+VXValueList<T> VXValueList<T>::Block(std::size_t count, const Make& make)
+{
+    VXValueList list;
     if (count == 0)
         return list;
-    list.reserve(count);
-    const auto block = std::make_shared<Value[]>(count);
-    Value* value = block.get();
-    for (std::size_t i = 0; i < count; ++i, ++value)
-    {
-        *value = make(i);
-        list.emplace_back(block, value);
-    }
+    auto block = std::make_shared<Value[]>(count);
+    for (std::size_t i = 0; i < count; ++i)
+        block[static_cast<std::ptrdiff_t>(i)] = make(i);
+    T* const first = block.get();
+    list.m_first = std::shared_ptr<T>(std::move(block), first);
+    list.m_entry = &EntryOf<Value>;
+    list.m_count = count;
     return list;
 }
 
-template <typename T, typename Value>
-HandleList<T> ReadBlock(const IVXJsonValue& array)
+template <typename T>
+template <typename Entry>
+HandleList<Entry> VXValueList<T>::Handles() const
 {
-    return MakeBlock<T, Value>(static_cast<std::size_t>(array.Size()),
-                               [&array](std::size_t i) { return Value(*array.At(static_cast<int>(i))); });
+    if (!m_first)
+        return {m_handles.begin(), m_handles.end()};
+    HandleList<Entry> handles;
+    handles.reserve(m_count);
+    for (std::size_t i = 0; i < m_count; ++i)
+        handles.emplace_back(m_first, m_entry(m_first.get(), i));
+    return handles;
 }
 
-template <typename T, typename Value>
-HandleList<T> CloneBlock(const HandleList<T>& list)
+template <typename T>
+HandleList<T>& VXValueList<T>::Changing()
 {
-    const auto isOurs = [](const std::shared_ptr<T>& entry) { return typeid(*entry) == typeid(Value); };
-    if (!std::ranges::all_of(list, isOurs))
-        return CloneEach(list);
-    return MakeBlock<T, Value>(list.size(),
-                               [&list](std::size_t i) { return static_cast<const Value&>(*list[i]).Copy(); });
+    if (m_first)
+        m_handles = Handles();
+    m_first.reset();
+    return m_handles;
+}
+
+template <typename T>
+template <typename Value>
+bool VXValueList<T>::HoldsOnly() const
+{
+    const auto isOne = [](const std::shared_ptr<T>& entry) { return typeid(*entry) == typeid(Value); };
+    return m_first || std::ranges::all_of(m_handles, isOne);
+}
+
+/// The values that the elements of a JSON array describe, each as the kind's factory reads it.
+template <typename T>
+VXValueList<T> ReadValues(const IVXJsonValue& array);
+
+/// What Clone answers for each value of the list.
+template <typename T>
+VXValueList<T> CloneValues(const VXValueList<T>& list);
+
+/// A value for each of the formats.
+VXValueList<IVXSampleFmtPreset> SampleFmtValues(const std::vector<int>& formats, bool isAudio);
+
+// Each kind's source defines its own, the class being hidden there.
+template <>
+VXValueList<IVXChannelLayoutPreset> ReadValues(const IVXJsonValue& array);
+template <>
+VXValueList<IVXFrameratePreset> ReadValues(const IVXJsonValue& array);
+template <>
+VXValueList<IVXLevelPreset> ReadValues(const IVXJsonValue& array);
+template <>
+VXValueList<IVXProfilePreset> ReadValues(const IVXJsonValue& array);
+template <>
+VXValueList<IVXResolutionPreset> ReadValues(const IVXJsonValue& array);
+template <>
+VXValueList<IVXSampleratePreset> ReadValues(const IVXJsonValue& array);
+template <>
+VXValueList<IVXChannelLayoutPreset> CloneValues(const VXValueList<IVXChannelLayoutPreset>& list);
+template <>
+VXValueList<IVXCodecQualityPreset> CloneValues(const VXValueList<IVXCodecQualityPreset>& list);
+template <>
+VXValueList<IVXFrameratePreset> CloneValues(const VXValueList<IVXFrameratePreset>& list);
+template <>
+VXValueList<IVXLevelPreset> CloneValues(const VXValueList<IVXLevelPreset>& list);
+template <>
+VXValueList<IVXProfilePreset> CloneValues(const VXValueList<IVXProfilePreset>& list);
+template <>
+VXValueList<IVXResolutionPreset> CloneValues(const VXValueList<IVXResolutionPreset>& list);
+template <>
+VXValueList<IVXSampleFmtPreset> CloneValues(const VXValueList<IVXSampleFmtPreset>& list);
+template <>
+VXValueList<IVXSampleratePreset> CloneValues(const VXValueList<IVXSampleratePreset>& list);
+
+template <typename T, typename Value>
+VXValueList<T> ReadBlock(const IVXJsonValue& array)
+{
+    return VXValueList<T>::template Block<Value>(static_cast<std::size_t>(array.Size()),
+                                                 [&array](std::size_t i)
+                                                 { return Value(*array.At(static_cast<int>(i))); });
+}
+
+/// In one block, unless values of others are among them.
+template <typename T, typename Value>
+VXValueList<T> CloneBlock(const VXValueList<T>& list)
+{
+    if (!list.template HoldsOnly<Value>())
+        return CloneEach(list.Handles());
+    return VXValueList<T>::template Block<Value>(list.Count(), [&list](std::size_t i)
+                                                 { return static_cast<const Value&>(list[i]).Copy(); });
+}
+
+template <typename T>
+std::vector<std::shared_ptr<IVXJsonValue>> JsonOfEach(const VXValueList<T>& list)
+{
+    std::vector<std::shared_ptr<IVXJsonValue>> values;
+    values.reserve(list.Count());
+    for (std::size_t i = 0; i < list.Count(); ++i)
+        values.push_back(list[i].JsonValue());
+    return values;
 }
 
 } // namespace Vexlor
