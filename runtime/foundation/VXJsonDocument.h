@@ -2,8 +2,7 @@
 
 #include "runtime/foundation/VXJsonNode.h"
 
-#include <simdjson.h>
-
+#include <string>
 #include <vector>
 
 namespace Vexlor
@@ -11,16 +10,32 @@ namespace Vexlor
 
 class VXJsonDocument;
 
-/// One value of a parsed document. Words are those of simdjson's tape: a type in the highest byte and a
-/// payload below it; a member's name is the word before its value.
+/// A member of an object of a parsed document.
+struct JsonMember
+{
+    static constexpr std::uint32_t kInteger = 0xFFFFFFFF;
+
+    bool IsContainer() const { return length == 0; }
+
+    std::uint32_t name; ///< where it begins in the text
+    std::uint32_t nameLength;
+    std::uint32_t value;  ///< the number of a container's view; where a scalar begins in the text
+    std::uint32_t length; ///< a scalar's; kInteger says that value is an integer of 32 bits itself
+};
+
+/// One value of a parsed document.
 class VXJsonView final : public VXJsonReadOnly<VXJsonView>
 {
 public:
-    constexpr VXJsonView(const VXJsonDocument* document, const std::uint64_t* word)
-        : m_document(document), m_word(word)
+    /// An object, whose members begin at first; an array, whose elements' views do; or as Text a scalar, with
+    /// value and length as a member has them.
+    VXJsonView(const VXJsonDocument& document, JsonKind kind, std::size_t first, std::size_t count)
+        : m_document(&document), m_kind(kind), m_first(static_cast<std::uint32_t>(first)),
+          m_count(static_cast<std::uint32_t>(count))
     {
     }
 
+    std::shared_ptr<const IVXJsonValue> Handle() const;
     /// The member of that name, the first of several; Absent when there is none.
     JsonItem Find(std::string_view name) const;
 
@@ -33,65 +48,48 @@ public:
     std::shared_ptr<const IVXJsonValue> At(int index) const override;
 
 private:
-    friend class VXJsonDocument;
-
-    // A member on the tape, by its name's word, and how many containers stand before it in the object.
-    struct Member
-    {
-        const std::uint64_t* name = nullptr;
-        std::size_t containersBefore = 0;
-    };
-
-    bool IsA(char type) const { return static_cast<char>(*m_word >> 56) == type; }
-    const std::uint64_t* Tape() const;
-    const std::uint64_t* End() const;
-    std::string_view Text(std::uint64_t word) const;
-    Member FindMember(std::string_view name) const;
-    const VXJsonView& Child(std::size_t index) const;
-    bool NextMember(JsonCursor& cursor, JsonEntry& entry) const;
-    bool NextElement(JsonCursor& cursor, JsonEntry& entry) const;
-    JsonItem ItemAt(const std::uint64_t* word, std::size_t child) const;
-    std::shared_ptr<const IVXJsonValue> Handle() const;
-    std::shared_ptr<const IVXJsonValue> ScalarHandle(const std::uint64_t* word) const;
+    const JsonMember* FindMember(std::string_view name) const;
+    const VXJsonView& View(std::size_t number) const;
+    JsonItem Item(const JsonMember& member) const;
+    const char* Text() const;
 
     const VXJsonDocument* m_document;
-    const std::uint64_t* m_word;
-    std::uint32_t m_first = 0; // the place of the first child that has a view in the document's views
-    std::uint32_t m_count = 0; // how many of them there are
+    JsonKind m_kind;
+    std::uint32_t m_first;
+    std::uint32_t m_count;
 };
 
 static_assert(sizeof(VXJsonView) <= 32, "a document holds a view for each of its containers and elements");
 
-/// What simdjson parsed, and views of it. Containers have one, and so have the elements of arrays: that is
-/// what handles are asked for. A scalar member is read off the tape. The views of a container's children
-/// stand next to each other, so that each is found by its number.
+/// The members of objects, those of one next to each other, and the views of containers and of the elements
+/// of arrays, those of one array next to each other; the last one is the root's.
+struct JsonContent
+{
+    std::vector<JsonMember> members;
+    std::vector<VXJsonView> views;
+};
+
+/// A text and what it holds. Strings stand in it without escape sequences; what they leave free behind them
+/// is not looked at.
 class VXJsonDocument final : public std::enable_shared_from_this<VXJsonDocument>
 {
 public:
-    /// Behind the text lie simdjson::SIMDJSON_PADDING more bytes.
-    simdjson::error_code Parse(std::string_view text);
+    /// False when the text, which Text tells then, is no JSON.
+    bool Read(std::string text);
 
-    /// After a successful Parse.
+    std::string_view Text() const { return {m_text.data(), m_size}; }
+    /// After a successful Read.
     std::shared_ptr<const IVXJsonValue> Root() const;
 
 private:
     friend class VXJsonView;
 
-    // Places of views that stand next to each other, as far as their children are not yet appended.
-    struct Siblings
-    {
-        std::size_t next;
-        std::size_t end;
-    };
-
-    simdjson::error_code BuildViews();
-    void AppendChildren(std::size_t parent);
-
-    simdjson::dom::document m_document;
-    std::vector<VXJsonView> m_views;
+    std::string m_text; // and room for the parser
+    std::size_t m_size = 0;
+    JsonContent m_content;
 };
 
-/// Reads a whole text, as ParseJson; behind it lie simdjson::SIMDJSON_PADDING more bytes.
-std::shared_ptr<const IVXJsonValue> ParsePadded(std::string_view text, std::string* error);
+/// Reads a whole text, as ParseJson, and keeps it.
+std::shared_ptr<const IVXJsonValue> ParseOwnJson(std::string text, std::string* error);
 
 } // namespace Vexlor

@@ -1,5 +1,6 @@
 #include "runtime/foundation/VXJson.h"
 #include "runtime/foundation/VXJsonDocument.h"
+#include "runtime/foundation/VXJsonIndex.h"
 #include "runtime/foundation/VXJsonScan.h"
 #include "runtime/foundation/VXLargePages.h"
 
@@ -12,8 +13,6 @@ namespace Vexlor
 namespace
 {
 
-constexpr const char* kNoMemory = "1:1: not enough memory";
-
 using Value = std::shared_ptr<const IVXJsonValue>;
 
 Value Fail(std::string* error, std::string message)
@@ -23,67 +22,39 @@ Value Fail(std::string* error, std::string message)
     return {};
 }
 
-// Room behind the text, which the parser reads in blocks.
-std::string WithRoomFor(std::size_t size)
+// The slow way, for texts that were refused.
+std::string FaultOf(std::string_view text)
 {
-    std::string text;
-    text.reserve(size + simdjson::SIMDJSON_PADDING);
-    UseLargePages(text.data(), text.capacity());
-    return text;
-}
-
-// simdjson refuses integers beyond 64 bits, but not the same number with a fraction.
-std::string WithFractions(std::string_view text, const std::vector<std::size_t>& ends)
-{
-    std::string result = WithRoomFor(text.size() + 2 * ends.size());
-    std::size_t from = 0;
-    for (const std::size_t end : ends)
-    {
-        result.append(text, from, end - from).append(".0");
-        from = end;
-    }
-    result.append(text, from);
-    return result; // moved: a copy would have no room behind the text
-}
-
-// The slow way, for texts that the parser refused: finds the reason, or what makes the text acceptable.
-Value ParseCarefully(std::string_view text, simdjson::error_code refusal, std::string* error)
-{
-    if (refusal == simdjson::MEMALLOC)
-        return Fail(error, kNoMemory);
     const JsonScan scan = ScanJson(text);
-    if (!scan.reason.empty())
-        return Fail(error, JsonPlace(text, scan.offset) + ": " + scan.reason);
-    const auto document = std::make_shared<VXJsonDocument>();
-    const auto fractions = WithFractions(text, scan.longIntegers);
-    if (document->Parse(fractions) != simdjson::SUCCESS)
-        return Fail(error, JsonPlace(text, text.size()) + ": not valid JSON");
-    return document->Root();
+    if (scan.reason.empty())
+        return JsonPlace(text, text.size()) + ": not valid JSON";
+    return JsonPlace(text, scan.offset) + ": " + scan.reason;
 }
 
 } // namespace
 
-Value ParsePadded(std::string_view text, std::string* error)
+Value ParseOwnJson(std::string text, std::string* error)
 {
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-    if (text.substr(0, kByteOrderMark.size()) == kByteOrderMark)
-        text.remove_prefix(kByteOrderMark.size());
+    if (text.starts_with("\xEF\xBB\xBF"))
+        text.erase(0, 3); // a byte order mark
     const auto document = std::make_shared<VXJsonDocument>();
-    const auto refusal = document->Parse(text);
-    return refusal == simdjson::SUCCESS ? document->Root() : ParseCarefully(text, refusal, error);
+    return document->Read(std::move(text)) ? document->Root() : Fail(error, FaultOf(document->Text()));
 }
 
 Value ParseJson(std::string_view text, std::string* error)
 {
-    if (text.size() > simdjson::SIMDJSON_MAXSIZE_BYTES)
+    if (text.size() > VXJsonIndex::kMostBytes)
         return Fail(error, "1:1: the document is larger than 4 GiB");
     try
     {
-        return ParsePadded(WithRoomFor(text.size()).append(text), error);
+        std::string own;
+        own.reserve(text.size() + VXJsonIndex::kRoom);
+        UseLargePages(own.data(), own.capacity());
+        return ParseOwnJson(std::move(own.append(text)), error);
     }
     catch (const std::bad_alloc&)
     {
-        return Fail(error, kNoMemory);
+        return Fail(error, "1:1: not enough memory");
     }
 }
 

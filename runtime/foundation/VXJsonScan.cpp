@@ -1,10 +1,10 @@
 #include "runtime/foundation/VXJsonScan.h"
 
 #include "runtime/foundation/VXJson.h"
+#include "runtime/foundation/VXJsonNumber.h"
 
 #include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
-#include <simdjson.h>
 
 #include <algorithm>
 #include <array>
@@ -47,15 +47,7 @@ const char* ReasonOf(rapidjson::ParseErrorCode code)
     return row == kReasons.end() ? "not valid JSON" : row->reason;
 }
 
-bool FastParserTakes(const std::string& number)
-{
-    simdjson::dom::parser parser;
-    return parser.parse(number).error() == simdjson::SUCCESS;
-}
-
-bool IsInteger(std::string_view number) { return number.find_first_of(".eE") == std::string_view::npos; }
-
-// Watches what RapidJSON lets pass and simdjson does not.
+// Watches what RapidJSON lets pass and the fast parser does not.
 class Watch final : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Watch>
 {
 public:
@@ -68,15 +60,8 @@ public:
 
     bool RawNumber(const char* digits, rapidjson::SizeType length, bool)
     {
-        constexpr std::size_t kAlwaysFits = 18;
-        const std::string number(digits, length);
-        if ((length <= kAlwaysFits && number.find_first_of("eE") == std::string::npos) ||
-            FastParserTakes(number))
-            return true;
-        if (!IsInteger(number) || !FastParserTakes(number + ".0"))
-            return Refuse("number too large", m_stream.Tell() - length);
-        m_scan.longIntegers.push_back(m_stream.Tell());
-        return true;
+        return JsonNumber({digits, length}).kind != JsonKind::Absent ||
+               Refuse("number too large", m_stream.Tell() - length);
     }
 
 private:

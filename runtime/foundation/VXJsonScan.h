@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace Vexlor
 {
@@ -15,8 +14,6 @@ struct JsonScan
     std::string reason;
     /// Where, in bytes.
     std::size_t offset = 0;
-    /// Where the integers end that need more than 64 bits, in bytes, as far as the text was read.
-    std::vector<std::size_t> longIntegers;
 };
 
 JsonScan ScanJson(std::string_view text);

@@ -31,6 +31,37 @@ TEST(JsonParse, TakesBlanksAround)
     EXPECT_EQ("{\"a\":[1]}", JsonText(*Parse(" \r\n\t{ \"a\" : [ 1 ] } \n")));
 }
 
+TEST(JsonParse, TakesBlanksBehindEveryToken)
+{
+    EXPECT_EQ(
+        R"({"a":12,"b":-3,"c":"x ","d":[true,null,1.5,"y"]})",
+        JsonText(*Parse("{ \"a\" : 12 , \"b\"\n:\r-3\t, \"c\" : \"x \" , \"d\" : [ true , null\n, 1.5 , "
+                        "\"y\" ] } ")));
+}
+
+TEST(JsonParse, IntegersOfEveryLengthAreExact)
+{
+    std::string digits;
+    for (const char digit : std::string_view("1234567890123456789"))
+    {
+        digits += digit;
+        for (const auto& number : {digits, '-' + digits})
+        {
+            EXPECT_EQ(number, JsonText(*Parse(number)));
+            const auto value = Parse("{\"n\": " + number + "}");
+            EXPECT_EQ(std::stoll(number), value->GetValueInt64("n"));
+            EXPECT_EQ(number, JsonText(*(*value)["n"]));
+        }
+    }
+}
+
+TEST(JsonParse, EscapeSequencesAreResolvedEverywhere)
+{
+    const auto value = Parse(R"({"\\a": "\u0022\u00e9\ud83d\ude00", "b": ["\\\"", "plain", {"\t": "\/"}]})");
+    EXPECT_EQ("\"é😀", value->GetValueString("\\a"));
+    EXPECT_EQ(R"({"\\a":"\"é😀","b":["\\\"","plain",{"\t":"/"}]})", JsonText(*value));
+}
+
 TEST(JsonParse, TakesAByteOrderMark) { EXPECT_EQ("[1]", JsonText(*Parse("\xEF\xBB\xBF[1]"))); }
 
 TEST(JsonParse, TakesATextThatEndsWhereItsMemoryEnds)
