@@ -45,7 +45,7 @@ void MessageBar::Say(const QString& text)
 void MessageBar::Offer(const QString& label, const std::function<void()>& action)
 {
     auto* button = new QPushButton(label, this);
-    m_layout->insertWidget(m_layout->count() - static_cast<int>(m_buttons.size() > 0), button);
+    m_layout->insertWidget(m_layout->count() - (m_buttons.empty() ? 0 : 1), button);
     m_buttons.append(button);
     connect(button, &QPushButton::clicked, this,
             [this, action]

@@ -5,12 +5,14 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace Vexlor::Studio
 {
 
-RecentFiles::RecentFiles(const QString& title, const QString& settingsKey, const UserSettings& settings,
+RecentFiles::RecentFiles(const QString& title, QString settingsKey, const UserSettings& settings,
                          QWidget* parent)
-    : QMenu(title, parent), m_key(settingsKey), m_settings(settings)
+    : QMenu(title, parent), m_key(std::move(settingsKey)), m_settings(settings)
 {
     setToolTipsVisible(true);
     Fill();

@@ -17,7 +17,7 @@ public:
     static constexpr int kMost = 8;
 
     /// The settings must outlive the menu.
-    RecentFiles(const QString& title, const QString& settingsKey, const UserSettings& settings,
+    RecentFiles(const QString& title, QString settingsKey, const UserSettings& settings,
                 QWidget* parent = nullptr);
 
     /// Puts the file to the front.

@@ -102,14 +102,13 @@ void StudioWindow::MakeThemeMenu(QMenu& view)
         QString text;
         const char* shortcut;
     };
-    auto* group = new QActionGroup(this);
     auto& menu = *view.addMenu(tr("Co&lours"));
     const auto current = Themes::ThemeOf(UserSettings::Value("window/theme").toString());
     for (const auto& choice :
          {Choice{Theme::System, tr("&System"), "Ctrl+Alt+S"},
           Choice{Theme::Light, tr("&Light"), "Ctrl+Alt+L"}, Choice{Theme::Dark, tr("&Dark"), "Ctrl+Alt+D"}})
     {
-        auto* action = group->addAction(menu.addAction(choice.text));
+        auto* action = m_themeChoices->addAction(menu.addAction(choice.text));
         action->setShortcut(QKeySequence(choice.shortcut));
         action->setCheckable(true);
         action->setChecked(choice.theme == current);

@@ -13,6 +13,7 @@
 
 #include "IVXFormatPreset.h"
 
+#include <QActionGroup>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
@@ -46,7 +47,8 @@ constexpr auto* kOutputFolder = "output/folder";
 } // namespace
 
 StudioWindow::StudioWindow(QWidget* parent)
-    : QMainWindow(parent), m_recovery(m_document), m_recent(m_document), m_messages(new MessageBar(this)),
+    : QMainWindow(parent), m_recovery(m_document), m_recent(m_document),
+      m_themeChoices(new QActionGroup(this)), m_messages(new MessageBar(this)),
       m_lossMessage(new MessageBar(this)), m_tree(new TreePane(m_document, m_icons, this)),
       m_preset(new PresetPane(m_document, this)), m_outcome(new OutcomePane(m_document, this)),
       m_findings(new FindingsPane(this)), m_splitter(new QSplitter(this)),
@@ -248,7 +250,7 @@ void StudioWindow::closeEvent(QCloseEvent* event)
             [this]
             {
                 m_mayClose = true;
-                QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+                QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
             });
         return;
     }

@@ -10,6 +10,7 @@
 #include <QMainWindow>
 #include <QPointer>
 
+class QActionGroup;
 class QDockWidget;
 class QSplitter;
 
@@ -82,6 +83,7 @@ private:
     RecentUse m_recent;
     FaceIcons m_icons;
     Themes m_themes;
+    QActionGroup* m_themeChoices;
     MessageBar* m_messages;
     MessageBar* m_lossMessage;
     TreePane* m_tree;
