@@ -82,16 +82,21 @@ private:
             if (first != '{' && first != '[')
                 return ReadScalar(place);
             const bool isObject = first == '{';
-            m_open.push_back({.kind = isObject ? JsonKind::Object : JsonKind::Array,
-                              .first = isObject ? m_members.size() : m_views.size()});
-            ++place;
-            if (m_open.size() > kJsonMaxDepth)
+            if (!Begin(isObject))
                 return Fault();
+            ++place;
             if (m_index.First(place) == (isObject ? '}' : ']'))
                 return place;
             if (isObject)
                 place = ReadName(place);
         }
+    }
+
+    bool Begin(bool isObject)
+    {
+        m_open.push_back({.kind = isObject ? JsonKind::Object : JsonKind::Array,
+                          .first = isObject ? m_members.size() : m_views.size()});
+        return m_open.size() <= kJsonMaxDepth;
     }
 
     // What stands behind a value, up to the next one.
