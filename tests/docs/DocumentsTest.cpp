@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <set>
@@ -114,25 +115,49 @@ TEST_P(Document, DoesWhatItShows)
     }
 }
 
-/// Rows of blocks.txt: the document, how the block begins, the reason.
-std::vector<std::array<std::string, 3>> ListedBlocks()
+/// A row of blocks.txt.
+struct ListedBlock
 {
-    std::vector<std::array<std::string, 3>> rows;
+    std::string document;
+    std::string begin;
+    std::string sum; ///< of the block, or "whole" where what runs it takes all of it as it stands
+    std::string reason;
+};
+
+std::vector<ListedBlock> ListedBlocks()
+{
+    std::vector<ListedBlock> rows;
     std::istringstream lines(ContentOf((kSource / "tests/docs/blocks.txt").string()));
     for (std::string line; std::getline(lines, line);)
     {
-        const auto first = line.find(" | ");
-        const auto last = line.rfind(" | ");
-        if (!line.starts_with('#'))
-            rows.push_back(
-                {line.substr(0, first), line.substr(first + 3, last - first - 3), line.substr(last + 3)});
+        std::vector<std::string> cells;
+        for (std::size_t at = 0, end = 0; end != std::string::npos; at = end + 3)
+        {
+            end = line.find(" | ", at);
+            cells.push_back(line.substr(at, end == std::string::npos ? end : end - at));
+        }
+        if (!line.starts_with('#') && cells.size() == 4)
+            rows.push_back({cells[0], cells[1], cells[2], cells[3]});
+        else
+            EXPECT_TRUE(line.starts_with('#')) << line;
     }
     return rows;
 }
 
-bool IsListed(const std::array<std::string, 3>& row, const std::string& document, const DocumentBlock& block)
+/// FNV-1a, of 32 bits.
+std::string SumOf(const std::string& text)
 {
-    return row[0] == document && block.text.starts_with(row[1]);
+    std::uint32_t sum = 2166136261U;
+    for (const char letter : text)
+        sum = (sum ^ static_cast<unsigned char>(letter)) * 16777619U;
+    std::ostringstream digits;
+    digits << std::hex << sum;
+    return digits.str();
+}
+
+bool IsListed(const ListedBlock& row, const std::string& document, const DocumentBlock& block)
+{
+    return row.document == document && block.text.starts_with(row.begin);
 }
 
 TEST_P(Document, HasNoBlockThatIsNeitherRunNorListed)
@@ -150,29 +175,67 @@ TEST_P(Document, HasNoBlockThatIsNeitherRunNorListed)
     }
 }
 
-/// The words of the commands of the tool that are told inside the text, as far as they name commands.
-std::set<std::string> InlineCommands(const std::string& document)
+bool IsWord(const std::string& text)
 {
-    std::set<std::string> commands;
-    const std::string begin = "`vxpresets ";
-    const auto text = ContentOf((kSource / document).string());
-    for (auto at = text.find(begin); at != std::string::npos; at = text.find(begin, at + 1))
-    {
-        std::istringstream words(text.substr(at + begin.size(), text.find('`', at + 1) - at - begin.size()));
-        std::string command;
-        for (std::string word;
-             words >> word &&
-             std::ranges::all_of(word, [](char letter) { return letter >= 'a' && letter <= 'z'; });)
-            command += (command.empty() ? "" : " ") + word;
-        commands.insert(command);
-    }
-    return commands;
+    return std::ranges::all_of(text, [](char letter) { return letter >= 'a' && letter <= 'z'; });
 }
 
-TEST_P(Document, TellsOfCommandsThatAreThere)
+/// What stands between ` inside the text that begins so.
+std::set<std::string> InlineCode(const std::string& document, const std::string& begin)
 {
-    for (const auto& command : InlineCommands(GetParam()))
-        EXPECT_EQ(0, RunLine("vxpresets " + command + " --help", kSource.string()).exitCode) << command;
+    std::set<std::string> spans;
+    const auto text = ContentOf((kSource / document).string());
+    for (auto at = text.find('`' + begin); at != std::string::npos; at = text.find('`' + begin, at + 1))
+        spans.insert(text.substr(at + 1, text.find('`', at + 1) - at - 1));
+    return spans;
+}
+
+/// A command of the tool as it is told inside the text: the words that name it, and its long options.
+struct ToldCommand
+{
+    std::string name;
+    std::vector<std::string> options = {};
+};
+
+ToldCommand ReadCommand(const std::string& code)
+{
+    ToldCommand command;
+    bool isName = true;
+    std::istringstream words(code);
+    for (std::string word; words >> word;)
+    {
+        isName = isName && IsWord(word);
+        if (isName)
+            command.name += (command.name.empty() ? "" : " ") + word;
+        else if (word.starts_with("--"))
+            command.options.push_back(word.substr(0, word.find('=')));
+    }
+    return command;
+}
+
+TEST_P(Document, TellsOfCommandsAndOptionsThatAreThere)
+{
+    for (const auto& code : InlineCode(GetParam(), "vxpresets "))
+    {
+        const auto command = ReadCommand(code);
+        const auto help = RunLine(command.name + " --help", kSource.string());
+        EXPECT_EQ(0, help.exitCode) << code;
+        for (const auto& option : command.options)
+            EXPECT_NE(std::string::npos, help.out.find(option)) << code;
+    }
+}
+
+TEST_P(Document, TellsOfFilesThatAreThere)
+{
+    for (const std::string folder :
+         {".ci/", "apps/", "bench/", "catalog/", "docs/", "examples/", "packaging/", "scripts/", "tests/"})
+    {
+        for (const auto& code : InlineCode(GetParam(), folder))
+        {
+            const auto path = code.substr(0, code.find_first_of(" \n"));
+            EXPECT_TRUE(path.find('*') != std::string::npos || fs::exists(kSource / path)) << code;
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(All, Document, testing::ValuesIn(Documents()),
@@ -187,12 +250,29 @@ TEST(Documents, ListNoBlockThatIsNotThere)
 {
     for (const auto& row : ListedBlocks())
     {
-        const auto blocks = BlocksOf(row[0]);
-        EXPECT_TRUE(
-            std::ranges::any_of(blocks, [&](const auto& block) { return IsListed(row, row[0], block); }))
-            << row[0] << " | " << row[1];
-        EXPECT_FALSE(row[2].empty());
+        const auto blocks = BlocksOf(row.document);
+        EXPECT_TRUE(std::ranges::any_of(blocks, [&](const auto& block)
+                                        { return IsListed(row, row.document, block); }))
+            << row.document << " | " << row.begin;
+        EXPECT_FALSE(row.reason.empty());
     }
+}
+
+// Who changes a block sees here that nothing else would have noticed, and looks at what the list tells of it.
+TEST(Documents, HaveListedBlocksAsTheyWereWhenTheyWereListed)
+{
+    for (const auto& row : ListedBlocks())
+        for (const auto& block : BlocksOf(row.document))
+            EXPECT_TRUE(!IsListed(row, row.document, block) || row.sum == "whole" ||
+                        row.sum == SumOf(block.text))
+                << row.document << ':' << block.line << " has the sum " << SumOf(block.text);
+}
+
+TEST(Documents, HaveCommandsReadWithTheirOptions)
+{
+    const auto command = ReadCommand("vxpresets match MEDIA --preset PRESET --target=25MB");
+    EXPECT_EQ("vxpresets match", command.name);
+    EXPECT_EQ((std::vector<std::string>{"--preset", "--target"}), command.options);
 }
 
 TEST(DocumentBlocks, AreReadWithTheirCommandsAndOutputs)
