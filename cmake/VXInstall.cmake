@@ -63,3 +63,18 @@ if(VX_BUILD_STUDIO)
   install(FILES ${studio}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT studio)
   install(FILES ${studio}.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT studio)
 endif()
+
+# Who installs all of it reads the licence; the packages, a component each, have theirs in Debian's form.
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT licence)
+set(packages libraries libvxmediapresets${PROJECT_VERSION_MAJOR} development libvxmediapresets-dev)
+if(VX_BUILD_APPS)
+  list(APPEND packages tools vxpresets)
+endif()
+if(VX_BUILD_STUDIO)
+  list(APPEND packages studio vxpresetstudio)
+endif()
+while(packages)
+  list(POP_FRONT packages component package)
+  install(FILES packaging/debian/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${package} COMPONENT ${component}
+          EXCLUDE_FROM_ALL)
+endwhile()

@@ -2,7 +2,7 @@
 set(CPACK_PACKAGE_NAME vxmediapresets)
 set(CPACK_PACKAGE_VENDOR Vexlor)
 set(CPACK_PACKAGE_CONTACT "the developers of VXMediaPresets <vxmediapresets@example.org>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "${PROJECT_DESCRIPTION}")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # or it would stand in front of each package's own, which is its first line
 set(CPACK_RESOURCE_FILE_LICENSE ${PROJECT_SOURCE_DIR}/LICENSE)
 set(CPACK_STRIP_FILES ON)
 
@@ -31,12 +31,12 @@ set(CPACK_DEBIAN_STUDIO_PACKAGE_NAME vxpresetstudio)
 set(CPACK_DEBIAN_STUDIO_PACKAGE_SECTION video)
 set(CPACK_DEBIAN_STUDIO_PACKAGE_DEPENDS "libqt6svg6") # draws its icon, and is no library that it is linked with
 set(CPACK_DEBIAN_STUDIO_PACKAGE_RECOMMENDS "ffmpeg, qt6-translations-l10n")
-set(CPACK_COMPONENT_LIBRARIES_DESCRIPTION "The libraries that programs run with.")
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, the CMake package and pkg-config files.")
+set(CPACK_COMPONENT_LIBRARIES_DESCRIPTION "output presets of a media converter: libraries\nWhat programs run with: the tree of presets, matching, JSON, codecs on FFmpeg.")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "output presets of a media converter: development files\nHeaders, the CMake package and pkg-config files.")
 set(CPACK_COMPONENT_DEVELOPMENT_DEPENDS libraries)
-set(CPACK_COMPONENT_TOOLS_DESCRIPTION "The command line tool with its manual page, completions and icons.")
+set(CPACK_COMPONENT_TOOLS_DESCRIPTION "output presets of a media converter: command line tool\nShows, matches, checks, edits and converts with presets; with manual page, completions and icons.")
 set(CPACK_COMPONENT_TOOLS_DEPENDS libraries)
-set(CPACK_COMPONENT_STUDIO_DESCRIPTION "The window program: see, pick and edit presets.")
+set(CPACK_COMPONENT_STUDIO_DESCRIPTION "output presets of a media converter: window program\nSee, pick and edit presets, and what a source becomes with them.")
 set(CPACK_COMPONENT_STUDIO_DEPENDS libraries)
 
 set(CPACK_SOURCE_GENERATOR TGZ)
