@@ -68,13 +68,13 @@ HandleList<IVXFrameratePreset> FrameratesWithinLimits(const IVXCodecs& codecs)
     return list;
 }
 
-// A choice between at least two values can be left open. The copies stand in one block.
+// A choice between at least two values can be left open.
 template <typename Preset>
 HandleList<Preset> BehindAuto(HandleList<Preset> list, std::shared_ptr<Preset> autoPreset)
 {
     if (list.size() >= 2)
         list.insert(list.begin(), std::move(autoPreset));
-    return CloneValues<Preset>(std::move(list)).Handles();
+    return list;
 }
 
 } // namespace
@@ -168,7 +168,7 @@ HandleList<IVXProfilePreset> IVXCodecPreset::DefaultProfiles(int codecID)
         IVXProfilePreset::MallocProfilePreset(IVXCodecs::VXProfileUnknown, "Unknown")};
     for (const int profile : codecs->SupportedProfiles({}))
         list.push_back(IVXProfilePreset::MallocProfilePreset(profile, codecs->ProfileName(profile)));
-    return CloneValues<IVXProfilePreset>(std::move(list)).Handles();
+    return list;
 }
 
 HandleList<IVXLevelPreset> IVXCodecPreset::DefaultLevels(int codecID)
@@ -179,7 +179,7 @@ HandleList<IVXLevelPreset> IVXCodecPreset::DefaultLevels(int codecID)
     HandleList<IVXLevelPreset> list{IVXLevelPreset::MallocLevelPreset(IVXCodecs::VXLevelUnknown, "Unknown")};
     for (const int level : codecs->SupportedLevels({}))
         list.push_back(IVXLevelPreset::MallocLevelPreset(level, codecs->LevelName(level)));
-    return CloneValues<IVXLevelPreset>(std::move(list)).Handles();
+    return list;
 }
 
 } // namespace Vexlor

@@ -51,7 +51,7 @@ public:
         m_resolutions.Add(IVXResolutionPreset::MallocResolutionPreset(width, height));
     }
     void RemoveResolutionPreset(int index) override { m_resolutions.Remove(index); }
-    void ResetResolutionPresets() override { m_resolutions.Reset(DefaultResolutions(m_codecID)); }
+    void ResetResolutionPresets() override { m_resolutions.ResetToCopies(DefaultResolutions(m_codecID)); }
     int IndexForResolutionPreset() const override { return m_resolutions.Index(); }
     void SetIndexForResolutionPreset(int index) override { m_resolutions.SetIndex(index); }
     void InsertResolutionPresets(const HandleList<IVXResolutionPreset>& presets, int position) override
@@ -75,7 +75,7 @@ public:
         m_framerates.Add(IVXFrameratePreset::MallocFrameratePreset(num, den));
     }
     void RemoveFrameratePreset(int index) override { m_framerates.Remove(index); }
-    void ResetFrameratePresets() override { m_framerates.Reset(DefaultFramerates(m_codecID)); }
+    void ResetFrameratePresets() override { m_framerates.ResetToCopies(DefaultFramerates(m_codecID)); }
     int IndexForFrameratePresets() const override { return m_framerates.Index(); }
     void SetIndexForFrameratePresets(int index) override { m_framerates.SetIndex(index); }
     void InsertFrameratePresets(const HandleList<IVXFrameratePreset>& presets, int position) override
@@ -116,7 +116,7 @@ public:
         m_samplerates.Add(IVXSampleratePreset::MallocSampleratePreset(samplerate));
     }
     void RemoveSampleratePreset(int index) override { m_samplerates.Remove(index); }
-    void ResetSampleratePresets() override { m_samplerates.Reset(DefaultSamplerates(m_codecID)); }
+    void ResetSampleratePresets() override { m_samplerates.ResetToCopies(DefaultSamplerates(m_codecID)); }
     int IndexForSampleratePresets() const override { return m_samplerates.Index(); }
     void SetIndexForSampleratePresets(int index) override { m_samplerates.SetIndex(index); }
     void InsertSampleratePresets(const HandleList<IVXSampleratePreset>& presets, int position) override
@@ -140,7 +140,10 @@ public:
         m_channelLayouts.Add(IVXChannelLayoutPreset::MallocChannelLayoutPreset(layout));
     }
     void RemoveChannelLayoutPreset(int index) override { m_channelLayouts.Remove(index); }
-    void ResetChannelLayoutPresets() override { m_channelLayouts.Reset(DefaultChannelLayouts(m_codecID)); }
+    void ResetChannelLayoutPresets() override
+    {
+        m_channelLayouts.ResetToCopies(DefaultChannelLayouts(m_codecID));
+    }
     int IndexForChannelLayoutPresets() const override { return m_channelLayouts.Index(); }
     void SetIndexForChannelLayoutPresets(int index) override { m_channelLayouts.SetIndex(index); }
     void InsertChannelLayoutPresets(const HandleList<IVXChannelLayoutPreset>& presets, int position) override
@@ -164,7 +167,7 @@ public:
         m_profiles.Add(IVXProfilePreset::MallocProfilePreset(profile, ProfileName(profile)));
     }
     void RemoveProfilePreset(int index) override { m_profiles.Remove(index); }
-    void ResetProfilePresets() override { m_profiles.Reset(DefaultProfiles(m_codecID)); }
+    void ResetProfilePresets() override { m_profiles.ResetToCopies(DefaultProfiles(m_codecID)); }
     int IndexForProfilesPresets() const override { return m_profiles.Index(); }
     void SetIndexForProfilesPresets(int index) override { m_profiles.SetIndex(index); }
     void InsertProfilePresets(const HandleList<IVXProfilePreset>& presets, int position) override
@@ -185,7 +188,7 @@ public:
         m_levels.Add(IVXLevelPreset::MallocLevelPreset(level, LevelName(level)));
     }
     void RemoveLevelPreset(int index) override { m_levels.Remove(index); }
-    void ResetLevelPresets() override { m_levels.Reset(DefaultLevels(m_codecID)); }
+    void ResetLevelPresets() override { m_levels.ResetToCopies(DefaultLevels(m_codecID)); }
     int IndexForLevelPresets() const override { return m_levels.Index(); }
     void SetIndexForLevelPresets(int index) override { m_levels.SetIndex(index); }
     void InsertLevelPresets(const HandleList<IVXLevelPreset>& presets, int position) override

@@ -33,6 +33,7 @@ public:
     void Add(std::shared_ptr<Preset> preset) { m_entries.Changing().push_back(std::move(preset)); }
     void Remove(int index) { EraseEntry(m_entries.Changing(), index); }
     void Reset(VXValueList<Preset> entries) { m_entries = std::move(entries); }
+    void ResetToCopies(HandleList<Preset> entries) { m_entries = CloneValues<Preset>(std::move(entries)); }
     void Insert(const HandleList<Preset>& presets, int position)
     {
         InsertWithin(m_entries.Changing(), presets, position);

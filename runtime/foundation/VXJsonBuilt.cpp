@@ -179,7 +179,7 @@ JsonItem WrittenItem(const JsonMember& member)
 class VXJsonObject final : public VXJsonGetters<VXJsonObject>
 {
 public:
-    VXJsonObject() = default;
+    VXJsonObject();
     VXJsonObject(const VXJsonObject&) = delete;
     VXJsonObject& operator=(const VXJsonObject&) = delete;
     ~VXJsonObject()
@@ -290,6 +290,9 @@ private:
 
     VXJsonMembers m_members;
 };
+
+// Not in the class, or all of an object would be set to 0 first.
+VXJsonObject::VXJsonObject() = default;
 
 // Writes a value that nobody else holds, and that so can change no more.
 bool Finish(const Finished& out, const Handle& handle, int& depth)

@@ -37,9 +37,11 @@ std::size_t ScalarLength(std::string_view text)
     return text[0] == '"' ? StringLength(text) : text.find(',');
 }
 
+// The few names of one object mostly differ in length or first letter.
 std::uint16_t NearBit(std::string_view name)
 {
-    return static_cast<std::uint16_t>(1U << JsonNameHash(name) % 16);
+    const std::size_t first = name.empty() ? 0 : static_cast<unsigned char>(name[0]);
+    return static_cast<std::uint16_t>(1U << (name.size() ^ first) % 16);
 }
 
 // The name as it is kept.
@@ -148,7 +150,7 @@ VXJsonManyMembers& VXJsonMembers::SetFar(std::string_view name, const Value& val
     return far;
 }
 
-bool VXJsonMembers::AppendNear(std::string_view name, std::string_view value)
+inline bool VXJsonMembers::AppendNear(std::string_view name, std::string_view value)
 {
     const std::size_t start = std::max<std::size_t>(m_size, 1);
     const std::size_t end = start + name.size() + value.size() + kJsonMarks;
@@ -163,7 +165,7 @@ bool VXJsonMembers::AppendNear(std::string_view name, std::string_view value)
     return true;
 }
 
-void VXJsonMembers::SetPlain(std::string_view name, std::string_view value)
+inline void VXJsonMembers::SetPlain(std::string_view name, std::string_view value)
 {
     if (!AppendNear(name, value))
         SetFar(name, value);
