@@ -123,6 +123,8 @@ std::string ReasonAt(std::string_view text, std::size_t offset, rapidjson::Parse
     const bool isWhole = code == rapidjson::kParseErrorDocumentEmpty || inString;
     if (offset >= text.size() && !isWhole)
         return "unexpected end of the document";
+    if (offset < text.size() && text[offset] == '\0')
+        return "a zero byte, which no JSON text has";
     return ReasonOf(code);
 }
 

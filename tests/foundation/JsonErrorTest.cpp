@@ -30,6 +30,8 @@ const std::vector<ErrorCase> kErrors = {
     {"OrderMarkIsNoColumn", "\xEF\xBB\xBFx", "1:1: no JSON value"},
     {"TwoDocuments", "{} {}", "1:4: more text behind the end of the document"},
     {"TextBehind", "[1]]", "1:4: more text behind the end of the document"},
+    {"NulInFront", "\0{}"sv, "1:1: a zero byte, which no JSON text has"},
+    {"NulBetween", "[1,\0 2]"sv, "1:4: a zero byte, which no JSON text has"},
     {"NulBehind", "[1]\0"sv, "1:4: more text behind the end of the document"},
     {"MissingComma", "{\n  \"a\": 1\n  \"b\": 2\n}", "3:3: missing comma or closing brace"},
     {"MissingCommaInArray", "[1 2]", "1:4: missing comma or closing bracket"},
