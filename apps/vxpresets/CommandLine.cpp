@@ -95,6 +95,7 @@ void AddGenerate(CLI::App& app, std::string& text)
     auto kind = std::make_shared<std::string>();
     generate->add_option("KIND", *kind, "What to print: " + kinds)
         ->required()
+        ->type_name("man|bash|zsh|fish")
         ->check(CLI::IsMember({"man", "bash", "zsh", "fish"}).description(""));
     generate->callback([&app, &text, kind] { text = Generated(*kind, OutlineOf(app)); });
 }

@@ -22,9 +22,10 @@ std::vector<std::string> NamesOf(const CLI::Option& option)
 
 OutlinedOption Outlined(const CLI::Option& option)
 {
-    const bool takesValue = option.get_items_expected_max() > 0;
-    return {NamesOf(option), takesValue ? option.get_type_name() : std::string(), option.get_description(),
-            option.get_required()};
+    const auto value = option.get_items_expected_max() > 0 ? option.get_type_name() : std::string();
+    const bool isChoice = value.find('|') != std::string::npos;
+    return {NamesOf(option), value, option.get_description(), option.get_required(),
+            isChoice ? CLI::detail::split(value, '|') : std::vector<std::string>()};
 }
 
 void AddOutline(const CLI::App& app, std::vector<std::string> path, std::vector<OutlinedCommand>& outline)

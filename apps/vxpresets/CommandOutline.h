@@ -18,6 +18,7 @@ struct OutlinedOption
     std::string value;              ///< what it takes: "FILE"; empty for a flag
     std::string help;
     bool required = false;
+    std::vector<std::string> choices = {}; ///< of a value that is one of several words: "a|b"
 };
 
 /// A command: what it is called, what it says of itself, what it takes.

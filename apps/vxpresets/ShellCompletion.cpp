@@ -23,6 +23,15 @@ bool TakesPreset(const OutlinedCommand& command)
     return false;
 }
 
+/// The words that may come next, besides options: commands below it, or what an argument may be.
+std::vector<std::string> NextWords(const OutlinedCommand& command)
+{
+    auto words = command.commands;
+    for (const auto& argument : command.arguments)
+        words.insert(words.end(), argument.choices.begin(), argument.choices.end());
+    return words;
+}
+
 std::string SingleQuoted(const std::string& text)
 {
     std::string quoted = "'";
@@ -56,7 +65,7 @@ std::string Cases(const std::vector<OutlinedCommand>& outline)
     std::string cases;
     for (const auto& command : outline)
         cases += "        " + SingleQuoted(PlaceOf(command)) +
-                 ") commands=" + SingleQuoted(Joined(command.commands, " ")) +
+                 ") commands=" + SingleQuoted(Joined(NextWords(command), " ")) +
                  " options=" + SingleQuoted(Joined(OptionNames(command), " ")) +
                  (TakesPreset(command) ? " presets=yes" : "") + " ;;\n";
     return cases;
@@ -160,6 +169,9 @@ std::string FishCompletion(const std::vector<OutlinedCommand>& outline)
             if (below.path.size() == command.path.size() + 1 &&
                 std::equal(command.path.begin(), command.path.end(), below.path.begin()))
                 text += prefix + " -f -a " + below.path.back() + " -d " + SingleQuoted(below.help) + '\n';
+        for (const auto& argument : command.arguments)
+            if (!argument.choices.empty())
+                text += prefix + " -f -a " + SingleQuoted(Joined(argument.choices, " ")) + '\n';
         for (const auto& option : command.options)
             text += FishOption(prefix, option);
         if (TakesPreset(command))
