@@ -1,4 +1,4 @@
-#include "runtime/foundation/VXJson.h"
+#include "runtime/foundation/VXJsonDocument.h"
 #include "runtime/foundation/VXJsonEscape.h"
 #include "runtime/foundation/VXJsonMembers.h"
 #include "runtime/foundation/VXJsonNode.h"
@@ -228,7 +228,8 @@ public:
             return JsonNull();
         if (member.child)
             return OrNull(*member.child);
-        return IsContainer(member.value) ? ParseJson(member.value) : MakeValue<VXJsonScalar>(member.value);
+        return IsContainer(member.value) ? ParseOwnJson(std::string(member.value), nullptr)
+                                         : MakeValue<VXJsonScalar>(member.value);
     }
     std::shared_ptr<const IVXJsonValue> GetValueArray(std::string_view name) const override
     {

@@ -49,7 +49,7 @@ inline JsonItem ItemAt(const char* text, std::size_t length)
 
 inline JsonItem ItemOf(const char* text, std::uint32_t value, std::uint32_t length)
 {
-    if (length != JsonMember::kInteger)
+    if (length != JsonDocumentMember::kInteger)
         return ItemAt(text + value, length);
     const std::int64_t number = static_cast<std::int32_t>(value);
     return {.kind = JsonKind::Int64, .bits = static_cast<std::uint64_t>(number), .text = {}, .node = nullptr};
@@ -68,12 +68,12 @@ inline const VXJsonView& VXJsonView::View(std::size_t number) const
     return m_document->m_content.views[number];
 }
 
-inline const JsonMember* VXJsonView::FindMember(std::string_view name) const
+inline const JsonDocumentMember* VXJsonView::FindMember(std::string_view name) const
 {
     if (m_kind != JsonKind::Object)
         return nullptr;
     const char* const text = Text();
-    const JsonMember* const first = m_document->m_content.members.data() + m_first;
+    const JsonDocumentMember* const first = m_document->m_content.members.data() + m_first;
     for (const auto* member = first; member != first + m_count; ++member)
         if (name == std::string_view(text + member->name, member->nameLength))
             return member;
@@ -85,7 +85,7 @@ std::shared_ptr<const IVXJsonValue> VXJsonView::Handle() const
     return {m_document->shared_from_this(), this};
 }
 
-inline JsonItem VXJsonView::Item(const JsonMember& member) const
+inline JsonItem VXJsonView::Item(const JsonDocumentMember& member) const
 {
     return member.IsContainer() ? View(member.value).Self() : ItemOf(Text(), member.value, member.length);
 }

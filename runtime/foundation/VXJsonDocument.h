@@ -11,7 +11,7 @@ namespace Vexlor
 class VXJsonDocument;
 
 /// A member of an object of a parsed document.
-struct JsonMember
+struct JsonDocumentMember
 {
     static constexpr std::uint32_t kInteger = 0xFFFFFFFF;
 
@@ -48,9 +48,9 @@ public:
     std::shared_ptr<const IVXJsonValue> At(int index) const override;
 
 private:
-    const JsonMember* FindMember(std::string_view name) const;
+    const JsonDocumentMember* FindMember(std::string_view name) const;
     const VXJsonView& View(std::size_t number) const;
-    JsonItem Item(const JsonMember& member) const;
+    JsonItem Item(const JsonDocumentMember& member) const;
     const char* Text() const;
 
     const VXJsonDocument* m_document;
@@ -65,7 +65,7 @@ static_assert(sizeof(VXJsonView) <= 32, "a document holds a view for each of its
 /// of arrays, those of one array next to each other; the last one is the root's.
 struct JsonContent
 {
-    std::vector<JsonMember> members;
+    std::vector<JsonDocumentMember> members;
     std::vector<VXJsonView> views;
 };
 
@@ -89,7 +89,7 @@ private:
     JsonContent m_content;
 };
 
-/// Reads a whole text, as ParseJson, and keeps it.
+/// Reads a whole text, as ParseJson, and keeps it. Throws std::bad_alloc when memory is short.
 std::shared_ptr<const IVXJsonValue> ParseOwnJson(std::string text, std::string* error);
 
 } // namespace Vexlor

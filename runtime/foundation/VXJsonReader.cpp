@@ -136,7 +136,7 @@ private:
         if (m_index.First(place) == '"')
             Put(m_index.Offset(place), StringLength(place) + kQuotes);
         else if (const auto number = ShortInteger(token))
-            Put(static_cast<std::uint32_t>(*number), JsonMember::kInteger);
+            Put(static_cast<std::uint32_t>(*number), JsonDocumentMember::kInteger);
         else if (const auto trimmed = WithoutBlanksBehind(token); IsScalar(trimmed))
             Put(m_index.Offset(place), trimmed.size());
         else
@@ -234,7 +234,7 @@ private:
     const VXJsonDocument& m_document;
     JsonContent& m_content;
     // Children of containers that are open.
-    std::vector<JsonMember> m_members;
+    std::vector<JsonDocumentMember> m_members;
     std::vector<VXJsonView> m_views;
     std::vector<Open> m_open;
     simdjson::dom::parser m_parser; // of strings with escape sequences
@@ -250,7 +250,7 @@ bool ReadContent(const VXJsonIndex& index, char* text, const VXJsonDocument& doc
     constexpr std::size_t kTokensAView = 8; // most have as many, with their members
     constexpr std::size_t kTokensAMember = 4;
     content.members.reserve(index.Count() / kTokensAMember);
-    UseLargePages(content.members.data(), content.members.capacity() * sizeof(JsonMember));
+    UseLargePages(content.members.data(), content.members.capacity() * sizeof(JsonDocumentMember));
     content.views.reserve(index.Count() / kTokensAView);
     UseLargePages(content.views.data(), content.views.capacity() * sizeof(VXJsonView));
     Reader reader(index, document, content);

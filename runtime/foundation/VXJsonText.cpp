@@ -1,4 +1,5 @@
 #include "runtime/foundation/VXJson.h"
+#include "runtime/foundation/VXJsonDocument.h"
 #include "runtime/foundation/VXJsonEscape.h"
 #include "runtime/foundation/VXJsonNode.h"
 
@@ -132,7 +133,7 @@ private:
             item.kind == JsonKind::Text && (item.text[0] == '{' || item.text[0] == '[');
         if (isContainerText && m_indented)
         {
-            const auto value = ParseJson(item.text);
+            const auto value = ParseOwnJson(std::string(item.text), nullptr);
             return WriteWhole(static_cast<const VXJsonNode&>(*value).Self());
         }
         if (item.kind == JsonKind::Array || item.kind == JsonKind::Object)

@@ -1,4 +1,4 @@
-#include "tests/memory/CountedMemory.h"
+#include "tests/memory/RefusedMemory.h"
 
 #include "IVXCodecParameter.h"
 #include "IVXFormatNode.h"
@@ -13,7 +13,6 @@
 
 #include <gtest/gtest.h>
 
-#include <new>
 #include <string>
 
 // Every allocation of an operation is refused once: std::bad_alloc comes out, what was there before is as it
@@ -51,30 +50,6 @@ constexpr const char* kDocument = R"({
                  "channelLayoutPresets": [{"chLayout": 3}, {"chLayout": 63}]}],
             "maxWidth": 640, "maxHeight": 480, "maxVideoBitrate": 8000000, "minVideoBitrate": 1000}],
         "childList": [{"name": "A child of a child, empty as such nodes are"}]}]})";
-
-enum class Outcome
-{
-    Done,
-    BadAlloc,
-    Swallowed, ///< an allocation was refused and nobody was told
-};
-
-/// What comes of the operation; what it makes is dropped when there is memory again.
-template <class Operation>
-Outcome OutcomeOf(Operation operation, std::size_t granted, Refusal refusal)
-{
-    decltype(operation()) made;
-    const AllocationLimit limit(granted, refusal);
-    try
-    {
-        made = operation();
-        return limit.WasReached() ? Outcome::Swallowed : Outcome::Done;
-    }
-    catch (const std::bad_alloc&)
-    {
-        return Outcome::BadAlloc;
-    }
-}
 
 class AllocationFailure : public testing::TestWithParam<Refusal>
 {

@@ -53,8 +53,8 @@ void* Discounted(void* memory, std::size_t header)
 
 } // namespace
 
-// Every form is replaced, so that none is freed by another; not inlined, or the compiler takes free() for the
-// wrong partner of what it sees as operator new.
+// Every form that is used is replaced, so that none is freed by another; not inlined, or the compiler takes
+// free() for the wrong partner of what it sees as operator new.
 #define VX_NOT_INLINED __attribute__((noinline))
 
 VX_NOT_INLINED void* operator new(std::size_t size, const std::nothrow_t&) noexcept
