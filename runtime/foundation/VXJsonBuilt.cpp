@@ -10,6 +10,7 @@
 #include <atomic>
 #include <charconv>
 #include <iterator>
+#include <new>
 #include <typeinfo>
 #include <utility>
 
@@ -29,26 +30,45 @@ constexpr std::size_t kSoon = 8;
 constexpr std::size_t kLongFinished = 64000;
 constexpr int kDeepFinished = 16;
 
-// Lets go of children without the destructors of deep values calling each other: the first of them on this
-// thread empties a list in a loop, those that it runs only add to that list.
-void LetGo(Handles children)
+// How deep destructors of values in values may call each other.
+constexpr int kMostNested = 100;
+
+// False where memory for the list is short.
+template <class Take>
+bool PutBy(Handles& waiting, Take take) noexcept
 {
+    try
+    {
+        auto children = take();
+        waiting.insert(waiting.end(), std::move_iterator(children.begin()),
+                       std::move_iterator(children.end()));
+        return true;
+    }
+    catch (const std::bad_alloc&)
+    {
+        return false;
+    }
+}
+
+// Drops the children of a value that dies. Those of very deep ones are taken instead, and wait for the
+// outermost value on this thread: the stack would not do for all.
+template <class Drop, class Take>
+void LetGo(Drop drop, Take take) noexcept
+{
+    thread_local int nested = 0;
     thread_local Handles* waiting = nullptr;
-    if (waiting)
-    {
-        waiting->insert(waiting->end(), std::move_iterator(children.begin()),
-                        std::move_iterator(children.end()));
+    if (nested >= kMostNested && PutBy(*waiting, take))
         return;
-    }
-    waiting = &children;
-    while (!children.empty())
+    Handles later;
+    if (++nested == 1)
+        waiting = &later;
+    drop();
+    while (!later.empty())
     {
-        if (children.size() > kSoon)
-            Prefetch(children[children.size() - 1 - kSoon].get());
-        const Handle last = std::move(children.back());
-        children.pop_back();
+        const Handle last = std::move(later.back());
+        later.pop_back();
     }
-    waiting = nullptr;
+    --nested;
 }
 
 std::shared_ptr<const IVXJsonValue> OrNull(const Handle& handle)
@@ -128,7 +148,10 @@ public:
     }
     VXJsonArray(const VXJsonArray&) = delete;
     VXJsonArray& operator=(const VXJsonArray&) = delete;
-    ~VXJsonArray() { LetGo(std::move(m_elements)); }
+    ~VXJsonArray()
+    {
+        LetGo([this] { m_elements.clear(); }, [this] { return std::move(m_elements); });
+    }
 
     JsonItem Self() const override { return {.kind = JsonKind::Array, .bits = 0, .text = {}, .node = this}; }
     bool Next(JsonCursor& cursor, JsonEntry& entry) const override
@@ -184,8 +207,8 @@ public:
     VXJsonObject& operator=(const VXJsonObject&) = delete;
     ~VXJsonObject()
     {
-        if (auto children = m_members.TakeChildren(); !children.empty())
-            LetGo(std::move(children));
+        if (m_members.HasChildren())
+            LetGo([this] { m_members.DropChildren(); }, [this] { return m_members.TakeChildren(); });
     }
 
     JsonItem Find(std::string_view name) const

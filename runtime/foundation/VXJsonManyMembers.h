@@ -102,7 +102,9 @@ public:
 
     /// As those of VXJsonMembers.
     bool NextWritten(std::size_t& cursor, std::string_view& text, const JsonChild*& child) const;
+    bool HasChildren() const { return !m_gaps.empty(); }
     JsonChildren TakeChildren();
+    void DropChildren() noexcept { m_gaps.clear(); }
     int TextDepth() const { return m_textDepth; }
     /// The object's whole text, but for a comma in place of the closing brace; empty while it has children.
     std::string_view Whole() const { return m_gaps.empty() ? std::string_view(m_text) : std::string_view(); }

@@ -46,8 +46,14 @@ public:
     bool NextWritten(std::size_t& cursor, std::string_view& text, const JsonChild*& child) const;
     /// See VXJsonManyMembers; also empty while there is no member.
     std::string_view Whole() const { return IsFar() ? Far().Whole() : Near(); }
-    /// Leaves members that must not be looked up any more.
+    bool HasChildren() const { return IsFar() && Far().HasChildren(); }
+    /// Both leave members that must not be looked up any more. Dropping needs no memory.
     JsonChildren TakeChildren() { return IsFar() ? Far().TakeChildren() : JsonChildren(); }
+    void DropChildren() noexcept
+    {
+        if (IsFar())
+            Far().DropChildren();
+    }
 
 private:
     bool IsFar() const { return m_size == kFar; }
