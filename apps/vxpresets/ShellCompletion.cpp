@@ -1,6 +1,8 @@
 #include "CommandOutline.h"
 #include "apps/host/Text.h"
 
+#include <algorithm>
+
 namespace Vexlor::Tool
 {
 
@@ -17,10 +19,8 @@ std::vector<std::string> OptionNames(const OutlinedCommand& command)
 
 bool TakesPreset(const OutlinedCommand& command)
 {
-    for (const auto& argument : command.arguments)
-        if (argument.names.front() == "PRESET")
-            return true;
-    return false;
+    return std::ranges::any_of(command.arguments, [](const OutlinedOption& argument)
+                               { return argument.names.front() == "PRESET"; });
 }
 
 /// The words that may come next, besides options: commands below it, or what an argument may be.
@@ -104,6 +104,15 @@ std::string FishCondition(const OutlinedCommand& command, const std::vector<Outl
     return Joined(terms, "; and ");
 }
 
+std::string FishChoices(const std::string& prefix, const OutlinedCommand& command)
+{
+    std::string lines;
+    for (const auto& argument : command.arguments)
+        if (!argument.choices.empty())
+            lines += prefix + " -f -a " + SingleQuoted(Joined(argument.choices, " ")) + '\n';
+    return lines;
+}
+
 std::string FishOption(const std::string& prefix, const OutlinedOption& option)
 {
     std::string line = prefix;
@@ -169,9 +178,7 @@ std::string FishCompletion(const std::vector<OutlinedCommand>& outline)
             if (below.path.size() == command.path.size() + 1 &&
                 std::equal(command.path.begin(), command.path.end(), below.path.begin()))
                 text += prefix + " -f -a " + below.path.back() + " -d " + SingleQuoted(below.help) + '\n';
-        for (const auto& argument : command.arguments)
-            if (!argument.choices.empty())
-                text += prefix + " -f -a " + SingleQuoted(Joined(argument.choices, " ")) + '\n';
+        text += FishChoices(prefix, command);
         for (const auto& option : command.options)
             text += FishOption(prefix, option);
         if (TakesPreset(command))
