@@ -123,4 +123,27 @@ TEST_F(RecentPresetsTest, MoveToTheFrontWhenTheyAreUsedThemselves)
     EXPECT_EQ(used, document.Root()->FindChild("Recently Used")->FirstFormatPreset());
 }
 
+TEST_F(RecentPresetsTest, HaveCopiesOfWhatIsMovedThere)
+{
+    Use(*Named("a"));
+    const auto video = document.Root()->FindChild("Video");
+    const auto mine = video->FindFormatPreset("MP4");
+    const int count = video->FormatPresetCount();
+    TreeEditor(document).Move({{{}, mine}}, {document.Root()->FindChild("Recently Used")});
+    EXPECT_EQ("a MP4 ", Recent());
+    for (int i = 0; i < kMostRecentPresets; ++i)
+        Use(*Named(std::to_string(i)));
+    EXPECT_EQ(count, video->FormatPresetCount());
+    EXPECT_EQ(mine, video->FindFormatPreset("MP4"));
+}
+
+TEST_F(RecentPresetsTest, AreMovedAmongThemselves)
+{
+    for (const auto* name : {"c", "b", "a"})
+        Use(*Named(name));
+    const auto recent = document.Root()->FindChild("Recently Used");
+    TreeEditor(document).Move({{{}, recent->FirstFormatPreset()}}, {recent});
+    EXPECT_EQ("b c a ", Recent());
+}
+
 } // namespace

@@ -18,11 +18,8 @@ constexpr const char* kRecentCategory = "Recently Used";
 
 Node RecentCategory(PresetTree& tree)
 {
-    for (const auto& child : tree.Root()->GetChildList())
-        if (child->FaceID() == IVXArtworkImageMgr::CategoryFaceIDRecentList)
-            return child;
-    if (auto child = tree.Root()->FindChild(kRecentCategory))
-        return child;
+    if (auto found = FindRecentCategory(*tree.Root()))
+        return found;
     auto made = IVXFormatNode::MallocFormatNode(Node());
     made->SetName(kRecentCategory);
     made->SetFaceID(IVXArtworkImageMgr::CategoryFaceIDRecentList);
@@ -31,6 +28,14 @@ Node RecentCategory(PresetTree& tree)
 }
 
 } // namespace
+
+Node FindRecentCategory(IVXFormatNode& root)
+{
+    for (const auto& child : root.GetChildList())
+        if (child->FaceID() == IVXArtworkImageMgr::CategoryFaceIDRecentList)
+            return child;
+    return root.FindChild(kRecentCategory);
+}
 
 bool IsSamePreset(const IVXFormatPreset& one, const IVXFormatPreset& other)
 {

@@ -4,8 +4,9 @@
 
 namespace Vexlor
 {
+class IVXFormatNode;
 class IVXFormatPreset;
-}
+} // namespace Vexlor
 
 namespace Vexlor::Studio
 {
@@ -14,6 +15,10 @@ class PresetTree;
 
 /// So many presets are kept as recently used.
 inline constexpr int kMostRecentPresets = 10;
+
+/// The category of recently used presets below that root; empty where there is none. It keeps itself: what
+/// stands there may go at any time, so that nothing may stand there alone.
+std::shared_ptr<IVXFormatNode> FindRecentCategory(IVXFormatNode& root);
 
 /// True for presets of one name and container, of which there is one among the recently used ones.
 bool IsSamePreset(const IVXFormatPreset& one, const IVXFormatPreset& other);

@@ -1,6 +1,7 @@
 #include "TreeEditor.h"
 
 #include "FreeNames.h"
+#include "RecentPresets.h"
 #include "StudioDocument.h"
 #include "TreeEdits.h"
 #include "UndoMacro.h"
@@ -89,14 +90,22 @@ bool TreeEditor::Move(const Items& items, DropPlace to)
         return true;
     const UndoMacro macro(m_document.Undo(), tr("Move"));
     FreeNames names(*to.parent);
+    const bool keepsItself = to.parent == FindRecentCategory(*m_document.Root());
     TreePlace from;
     for (const auto& item : items)
     {
         from = m_document.Tree().PlaceBeside(item, from);
-        if (from.parent && from.parent != to.parent)
+        if (!from.parent)
+            continue;
+        const bool comesIn = from.parent != to.parent;
+        if (comesIn && keepsItself && item.IsPreset())
+        {
+            CopyOne(item, names, to);
+            continue;
+        }
+        if (comesIn)
             SetName(item, names.Take(item, NameOf(item)));
-        if (from.parent)
-            MoveOne(item, from, to);
+        MoveOne(item, from, to);
     }
     return true;
 }
@@ -124,15 +133,18 @@ Items TreeEditor::Copy(const Items& items, DropPlace to)
     FreeNames names(*to.parent);
     Items copies;
     for (const auto& item : items)
-    {
-        const auto copy = CopyOf(item);
-        Studio::SetName(copy, names.Take(copy, NameOf(copy)));
-        auto& index = IndexFor(copy, to);
-        index = std::clamp(index, 0, CountLike(*to.parent, copy));
-        Insert(copy, {to.parent, index++});
-        copies.push_back(copy);
-    }
+        copies.push_back(CopyOne(item, names, to));
     return copies;
+}
+
+TreeItem TreeEditor::CopyOne(const TreeItem& item, FreeNames& names, DropPlace& to)
+{
+    auto copy = CopyOf(item);
+    Studio::SetName(copy, names.Take(copy, NameOf(copy)));
+    auto& index = IndexFor(copy, to);
+    index = std::clamp(index, 0, CountLike(*to.parent, copy));
+    Insert(copy, {to.parent, index++});
+    return copy;
 }
 
 void TreeEditor::Shift(const TreeItem& item, int by)

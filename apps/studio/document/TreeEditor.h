@@ -11,6 +11,7 @@
 namespace Vexlor::Studio
 {
 
+class FreeNames;
 class StudioDocument;
 
 /// Where items go to: into that category, in front of those positions; to the ends of its lists where none
@@ -36,7 +37,8 @@ public:
     /// Gives the item another name; answers why not, in words, where that one is empty or taken.
     QString Rename(const TreeItem& item, const QString& name);
     void Remove(const Items& items);
-    /// Moves the items so that they follow one another there. Answers false, and nothing happens, where a
+    /// Moves the items so that they follow one another there; presets that come into the category of recently
+    /// used ones, which keeps itself, are copied instead. Answers false, and nothing happens, where a
     /// category would come into itself.
     bool Move(const Items& items, DropPlace to);
     /// Copies the items to that place; answers the copies.
@@ -57,6 +59,7 @@ private:
     TreeItem OwnCategory();
     void Insert(const TreeItem& item, const TreePlace& place);
     bool IsThere(const TreeItem& item, DropPlace place) const;
+    TreeItem CopyOne(const TreeItem& item, FreeNames& names, DropPlace& to);
     void SetName(const TreeItem& item, const QString& name);
     void MoveOne(const TreeItem& item, const TreePlace& from, DropPlace& to);
     void Absorb(const std::shared_ptr<IVXFormatNode>& into, IVXFormatNode& node, Items& presets);

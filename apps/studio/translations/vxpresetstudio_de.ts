@@ -211,11 +211,11 @@
     <name>Vexlor::Studio::AspectRow</name>
     <message>
         <source>sample aspect</source>
-        <translation>Pixelseitenverhältnis</translation>
+        <translation>Pixelverhältnis</translation>
     </message>
     <message>
         <source>ratio of the sample aspect</source>
-        <translation>Zahlen des Pixelseitenverhältnisses</translation>
+        <translation>Zahlen des Pixelverhältnisses</translation>
     </message>
     <message>
         <source>Unknown shape %1</source>
@@ -332,7 +332,7 @@
     <name>Vexlor::Studio::CodecPage</name>
     <message>
         <source>&amp;Sample aspect</source>
-        <translation>&amp;Pixelseitenverhältnis</translation>
+        <translation>&amp;Pixelverhältnis</translation>
     </message>
 </context>
 <context>
@@ -635,6 +635,10 @@
     <message>
         <source>Reload</source>
         <translation>Neu laden</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is there already. Replace it?</source>
+        <translation>„%1“ gibt es schon. Ersetzen?</translation>
     </message>
 </context>
 <context>
@@ -1467,6 +1471,10 @@
         <source>M&amp;ove Up</source>
         <translation>Nach &amp;oben</translation>
     </message>
+    <message>
+        <source>Recently used presets come and go: paste what was cut elsewhere.</source>
+        <translation>Zuletzt benutzte Vorgaben kommen und gehen: Ausgeschnittenes bitte anderswo einfügen.</translation>
+    </message>
 </context>
 <context>
     <name>Vexlor::Studio::TreeEditor</name>
@@ -1537,6 +1545,10 @@ Esc zeigt wieder alle Vorgaben.</translation>
             <numerusform>%n Vorgabe gefunden</numerusform>
             <numerusform>%n Vorgaben gefunden</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>This document has no presets yet. Make one with Presets &gt; New Preset, or bring in those of another program with Presets &gt; Import.</source>
+        <translation>Dieses Dokument hat noch keine Vorgaben. Legen Sie mit Vorgaben &gt; Neue Vorgabe eine an, oder holen Sie mit Vorgaben &gt; Importieren die eines anderen Programms.</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "TreeActions.h"
 
+#include "apps/studio/document/RecentPresets.h"
 #include "apps/studio/document/StudioDocument.h"
 #include "apps/studio/tree/TreeMime.h"
 #include "apps/studio/tree/TreePane.h"
@@ -86,19 +87,21 @@ void TreeActions::ShowPossible()
 
 void TreeActions::Cut()
 {
-    Copy();
+    ToClipboard(true);
     Delete();
 }
 
 // What is pasted is what was copied, whatever becomes of it until then.
-void TreeActions::Copy()
+void TreeActions::ToClipboard(bool isCut)
 {
     auto items = m_pane.Selected();
     if (items.empty())
         return;
     std::ranges::transform(items, items.begin(), CopyOf);
-    QGuiApplication::clipboard()->setMimeData(new TreeMime(std::move(items)));
+    QGuiApplication::clipboard()->setMimeData(new TreeMime(std::move(items), isCut));
 }
+
+void TreeActions::Copy() { ToClipboard(false); }
 
 void TreeActions::Paste()
 {
@@ -106,6 +109,11 @@ void TreeActions::Paste()
     if (data == nullptr || !data->hasFormat(kTreeMimeType))
         return;
     DropPlace place{m_pane.CurrentCategory()};
+    if (IsCut(*data) && place.parent == FindRecentCategory(*m_document.Root()))
+    {
+        emit m_pane.Refused(tr("Recently used presets come and go: paste what was cut elsewhere."));
+        return;
+    }
     const auto current = m_pane.Current();
     if (current.IsPreset())
         place.presetIndex = IndexOf(*place.parent, current) + 1;

@@ -35,6 +35,7 @@ private:
     void ShowPossible();
     void Cut();
     void Copy();
+    void ToClipboard(bool isCut);
     void Paste();
     void Delete();
     void Rename();
