@@ -11,8 +11,10 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QFileDialog>
 #include <QImage>
+#include <QLockFile>
 #include <QMenu>
 #include <QSemaphore>
 #include <QSplitter>
@@ -253,6 +255,23 @@ TEST_F(ScreenshotTest, LeavesNoTraceInTheSettings)
     EXPECT_EQ(1, opened.count());
     window->close();
     EXPECT_EQ(QStringList(), QSettings().allKeys());
+}
+
+TEST_F(StudioKeepingTest, KeepsRecentlyUsedPresetsOnceTheirFileIsFree)
+{
+    Convert("Video/MKV");
+    QLockFile other(RecentStore::LockPath());
+    ASSERT_TRUE(other.lock());
+    QElapsedTimer clock;
+    clock.start();
+    Convert("Video/MP4");
+    EXPECT_LT(clock.elapsed(), 1500);
+    EXPECT_EQ("MP4 MKV ", Recent());
+    EXPECT_EQ(1U, RecentStore::PresetsOf({}).size());
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return window->statusBar()->currentMessage().contains("another program"); }, kPatience));
+    other.unlock();
+    EXPECT_TRUE(QTest::qWaitFor([] { return RecentStore::PresetsOf({}).size() == 2; }, kPatience));
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 #include "apps/host/Failure.h"
 #include "apps/host/document/DocumentChanges.h"
 #include "apps/host/document/DocumentFile.h"
-#include "apps/host/document/FolderLock.h"
 #include "apps/host/document/Qualities.h"
 
 #include "IVXFormatPreset.h"
@@ -15,6 +14,7 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -29,6 +29,7 @@ namespace
 constexpr const char* kDocuments = "documents";
 constexpr const char* kDocumentPath = "path";
 constexpr const char* kPresets = "presets";
+constexpr int kPatience = 100; // milliseconds: the window stands still meanwhile
 constexpr std::size_t kMostBytes = 16 << 20;
 
 /// What is kept of one document.
@@ -112,6 +113,21 @@ void DropOldest(Entries& entries)
         entries.pop_back();
 }
 
+/// The only one who writes, while it lives.
+class Turn final
+{
+public:
+    Turn() : m_lock(RecentStore::LockPath())
+    {
+        m_lock.setStaleLockTime(0); // only that of a program which has gone is
+        if (!m_lock.tryLock(kPatience) && m_lock.error() == QLockFile::LockFailedError)
+            throw RecentStore::Busy(FilePath() + ": another program is writing it");
+    }
+
+private:
+    QLockFile m_lock;
+};
+
 void WriteEntries(Entries entries)
 {
     if (entries.size() > static_cast<std::size_t>(RecentStore::kMostDocuments))
@@ -149,6 +165,8 @@ QString RecentStore::Path()
     return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/recent.json";
 }
 
+QString RecentStore::LockPath() { return Path() + ".lock"; }
+
 std::vector<std::shared_ptr<IVXFormatPreset>> RecentStore::PresetsOf(const QString& document)
 {
     auto entries = ReadEntries();
@@ -162,7 +180,7 @@ std::vector<std::shared_ptr<IVXFormatPreset>> RecentStore::PresetsOf(const QStri
 void RecentStore::Note(const QString& document, const IVXFormatPreset& preset)
 {
     QDir().mkpath(QFileInfo(Path()).path());
-    const Tool::FolderLock lock(FilePath());
+    const Turn turn;
     auto entries = ReadEntries();
     auto entry = Taken(entries, document.toStdString());
     std::erase_if(entry.presets,
@@ -177,7 +195,7 @@ void RecentStore::Forget(const QString& document)
 {
     if (!QFileInfo::exists(Path()))
         return;
-    const Tool::FolderLock lock(FilePath());
+    const Turn turn;
     auto entries = ReadEntries();
     if (!Taken(entries, document.toStdString()).presets.empty())
         WriteEntries(std::move(entries));

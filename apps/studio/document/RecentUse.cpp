@@ -3,21 +3,41 @@
 #include "RecentStore.h"
 #include "StudioDocument.h"
 
+#include "IVXFormatPreset.h"
+
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 namespace Vexlor::Studio
 {
 
+namespace
+{
+
+constexpr int kRest = 2000; // milliseconds, until it is tried again
+
+} // namespace
+
 RecentUse::RecentUse(StudioDocument& document, QObject* parent) : QObject(parent), m_document(document)
 {
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(kRest);
+    connect(&m_timer, &QTimer::timeout, this, &RecentUse::DoPending);
     connect(&document, &StudioDocument::Replaced, this, &RecentUse::BringBack);
+}
+
+// The last chance; nobody is left to be told.
+RecentUse::~RecentUse()
+{
+    blockSignals(true);
+    DoPending();
 }
 
 void RecentUse::Note(const IVXFormatPreset& preset, const IVXFormatPreset& asItWas)
 {
     m_document.NoteUsed(preset, asItWas);
-    Try([&] { RecentStore::Note(m_document.Path(), asItWas); });
+    Do([path = m_document.Path(), preset = asItWas.Clone()] { RecentStore::Note(path, *preset); });
 }
 
 void RecentUse::BringBack()
@@ -34,19 +54,40 @@ void RecentUse::BringBack()
 
 void RecentUse::Forget()
 {
-    Try([this] { RecentStore::Forget(m_document.Path()); });
+    Do([path = m_document.Path()] { RecentStore::Forget(path); });
 }
 
-void RecentUse::Try(const std::function<void()>& work)
+void RecentUse::Do(std::function<void()> work)
+{
+    m_pending.push_back(std::move(work));
+    DoPending();
+}
+
+void RecentUse::DoPending()
+{
+    while (!m_pending.empty() && Try(m_pending.front()))
+        m_pending.pop_front();
+    if (!m_pending.empty())
+        m_timer.start();
+}
+
+/// Answers false where it is to be tried again.
+bool RecentUse::Try(const std::function<void()>& work)
 {
     try
     {
         work();
     }
+    catch (const RecentStore::Busy& busy)
+    {
+        emit Failed(QString::fromUtf8(busy.what()));
+        return false;
+    }
     catch (const std::exception& failure)
     {
         emit Failed(QString::fromUtf8(failure.what()));
     }
+    return true;
 }
 
 } // namespace Vexlor::Studio

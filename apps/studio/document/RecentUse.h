@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 
+#include <deque>
 #include <functional>
 
 namespace Vexlor
@@ -22,8 +24,10 @@ class RecentUse : public QObject
 
 public:
     explicit RecentUse(StudioDocument& document, QObject* parent = nullptr);
+    ~RecentUse() override;
 
-    /// Puts the preset in front of the recently used ones, as it was when it was used, and keeps it at once.
+    /// Puts the preset in front of the recently used ones, as it was when it was used, and keeps it; at once,
+    /// as long as no other program is keeping something.
     void Note(const IVXFormatPreset& preset, const IVXFormatPreset& asItWas);
     /// Puts what is kept of the document in front of what it has itself.
     void BringBack();
@@ -35,9 +39,13 @@ signals:
     void Failed(const QString& reason);
 
 private:
-    void Try(const std::function<void()>& work);
+    void Do(std::function<void()> work);
+    void DoPending();
+    bool Try(const std::function<void()>& work);
 
     StudioDocument& m_document;
+    std::deque<std::function<void()>> m_pending; // in the order in which they are to be done
+    QTimer m_timer;
 };
 
 } // namespace Vexlor::Studio
