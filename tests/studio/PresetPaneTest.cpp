@@ -67,7 +67,29 @@ TEST_F(PresetPaneTest, KeepsTheOldNameInPlaceOfNone)
     EXPECT_TRUE(Messages(pane).contains("needs a name"));
     QTest::keyClick(&name, Qt::Key_Return);
     EXPECT_EQ("Phone", name.text());
+    EXPECT_TRUE(Messages(pane).contains("needs a name"));
+    QTest::keyClicks(&name, "s");
     EXPECT_FALSE(Messages(pane).contains("needs a name"));
+}
+
+TEST_F(PresetPaneTest, GoesBackToTheOldNameWhenItIsEmptiedLetterByLetter)
+{
+    auto& name = *pane.findChild<QLineEdit*>("name");
+    name.setFocus();
+    for (int i = 0; i < 5; ++i)
+        QTest::keyClick(&name, Qt::Key_Backspace);
+    QTest::keyClick(&name, Qt::Key_Return);
+    EXPECT_EQ("Phone", preset->Name());
+    EXPECT_EQ(0, document.Undo().count());
+}
+
+TEST_F(PresetPaneTest, TrimsAName)
+{
+    auto& name = *pane.findChild<QLineEdit*>("name");
+    Type(name, " My phone ");
+    QTest::keyClick(&name, Qt::Key_Return);
+    EXPECT_EQ("My phone", preset->Name());
+    EXPECT_EQ(1, document.Undo().count());
 }
 
 TEST_F(PresetPaneTest, KeepsTheOldNameInPlaceOfOneThatIsThere)
@@ -79,9 +101,22 @@ TEST_F(PresetPaneTest, KeepsTheOldNameInPlaceOfOneThatIsThere)
     name.setFocus();
     name.selectAll();
     QTest::keyClicks(&name, "MP4");
-    EXPECT_EQ("MP", mkv->Name());
     EXPECT_TRUE(Messages(pane).contains("is there already"));
-    QTest::keyClicks(&name, "x");
+    QTest::keyClick(&name, Qt::Key_Return);
+    EXPECT_EQ("MKV", mkv->Name());
+    EXPECT_EQ("MKV", name.text());
+    EXPECT_TRUE(Messages(pane).contains("is there already"));
+    pane.ShowItem({{}, preset});
+    EXPECT_FALSE(Messages(pane).contains("is there already"));
+}
+
+TEST_F(PresetPaneTest, TakesANameThatBeginsWithOneThatIsThere)
+{
+    const auto mkv = document.Root()->FindChild("Video")->FindFormatPreset("MKV");
+    pane.ShowItem({{}, mkv});
+    auto& name = *pane.findChild<QLineEdit*>("name");
+    Type(name, "MP4x");
+    QTest::keyClick(&name, Qt::Key_Return);
     EXPECT_EQ("MP4x", mkv->Name());
 }
 

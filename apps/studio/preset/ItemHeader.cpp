@@ -18,6 +18,8 @@
 #include <QLabel>
 #include <QSignalBlocker>
 
+#include <utility>
+
 namespace Vexlor::Studio
 {
 
@@ -74,6 +76,8 @@ void ItemHeader::Refresh()
 {
     if (!m_session.Item())
         return;
+    if (!(m_named == m_session.Item()))
+        BeginName();
     const auto look = LookOf(m_session.Item());
     const auto& preset = m_session.Preset();
     m_name->Show(look.name);
@@ -84,13 +88,27 @@ void ItemHeader::Refresh()
     ShowFace(look.faceID);
 }
 
+void ItemHeader::BeginName()
+{
+    m_named = m_session.Item();
+    m_nameRun = 0;
+    m_nameMessage->Say({});
+}
+
 void ItemHeader::StoreName(const QString& name, int run)
 {
+    if (std::exchange(m_nameRun, run) != run)
+        m_nameBefore = LookOf(m_session.Item()).name;
     const auto reason = ReasonAgainst(name.trimmed());
     m_nameMessage->Say(reason);
     if (reason.isEmpty())
-        m_session.EditLook(
-            ChangeText(tr("name")), [&](ItemLook& look) { look.name = name; }, run);
+        SetName(name, run);
+}
+
+void ItemHeader::SetName(const QString& name, int run)
+{
+    m_session.EditLook(
+        ChangeText(tr("name")), [&](ItemLook& look) { look.name = name; }, run);
 }
 
 QString ItemHeader::ReasonAgainst(const QString& name) const
@@ -100,9 +118,14 @@ QString ItemHeader::ReasonAgainst(const QString& name) const
     return m_session.IsNameTaken(name) ? tr("\"%1\" is there already.").arg(name) : QString();
 }
 
+// What was typed on the way to a name that is refused was never meant to be one. The reason stays.
 void ItemHeader::FinishName()
 {
-    m_nameMessage->Say({});
+    const int run = std::exchange(m_nameRun, 0);
+    if (run == 0 || !(m_named == m_session.Item()))
+        return;
+    const auto name = m_name->text().trimmed();
+    SetName(ReasonAgainst(name).isEmpty() ? name : m_nameBefore, run);
     Refresh();
 }
 

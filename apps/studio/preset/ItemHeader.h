@@ -1,5 +1,7 @@
 #pragma once
 
+#include "apps/studio/document/TreeItem.h"
+
 #include <QWidget>
 
 class QComboBox;
@@ -31,6 +33,8 @@ private:
     void SetUpName(QFormLayout& form);
     void SetUpFace(QFormLayout& form, FieldManners& manners);
     void SetUpDescription(QFormLayout& form);
+    void BeginName();
+    void SetName(const QString& name, int run);
     void StoreName(const QString& name, int run);
     QString ReasonAgainst(const QString& name) const;
     void FinishName();
@@ -44,6 +48,9 @@ private:
     QFormLayout* m_form;
     QLabel* m_container;
     DescriptionField* m_description;
+    TreeItem m_named;     ///< what the name that is shown belongs to
+    int m_nameRun = 0;    ///< while a name is typed, its run
+    QString m_nameBefore; ///< the name that stood there then
 };
 
 } // namespace Vexlor::Studio
