@@ -83,4 +83,16 @@ TEST(FindingsPane, LeadsToWhatIsChosen)
     EXPECT_EQ(item, spy.at(0).at(0).value<TreeItem>());
 }
 
+TEST(FindingSources, TellPresetsApartWhoseNamesBeginAlike)
+{
+    StudioDocument document;
+    Tool::Import import;
+    import.presets = {"Fast", "Fast Two"};
+    import.findings.resize(1);
+    import.findings[0].path = "Fast Two";
+    const std::vector<TreeItem> presets{{{}, document.Root()->FindChild("Video")->GetFormatPreset(0)},
+                                        {{}, document.Root()->FindChild("Video")->GetFormatPreset(1)}};
+    EXPECT_EQ(presets[1], FindingTexts::Of(import, presets).front().item);
+}
+
 } // namespace

@@ -116,7 +116,8 @@ Findings FindingTexts::Of(const Tool::Import& import, const std::vector<TreeItem
     Findings findings;
     for (const auto& finding : import.findings)
     {
-        const auto isAbout = [&finding](const std::string& path) { return finding.path.starts_with(path); };
+        const auto isAbout = [&finding](const std::string& path)
+        { return (finding.path + '/').starts_with(path + '/'); };
         const auto about = std::ranges::find_if(import.presets, isAbout) - import.presets.begin();
         findings.push_back({finding.isLost ? Finding::Kind::Warning : Finding::Kind::Note,
                             QString::fromStdString(finding.path), QString::fromStdString(finding.what)});
