@@ -123,8 +123,9 @@ TEST_F(StudioWindowTest, OffersWhatACrashHasLeft)
     StudioWindow next;
     next.show();
     next.Start({});
-    auto& bar = *next.findChild<QWidget*>("messageBar");
+    auto& bar = *next.findChild<QWidget*>("lostOffer");
     ASSERT_TRUE(bar.isVisible());
+    emit next.Files().Files().Failed("Something else");
     for (auto* button : bar.findChildren<QPushButton*>())
         if (button->text() == "Restore")
             QTest::mouseClick(button, Qt::LeftButton);
@@ -224,6 +225,28 @@ TEST_F(StudioWindowTest, HasNoShortcutTwice)
     once.removeDuplicates();
     shortcuts.sort();
     EXPECT_EQ(once.size(), shortcuts.size()) << qPrintable(shortcuts.join(' '));
+}
+
+TEST_F(StudioWindowTest, PastesNothingThatWasCutAmongTheRecentlyUsed)
+{
+    window->Tree().SelectByPath("Video/MKV");
+    auto preset = window->Tree().Current().preset;
+    emit window->Outcome().ConversionDone(preset, preset->Clone());
+    window->Tree().SelectByPath("Video/MP4");
+    QTest::keyClick(&window->Tree().View(), Qt::Key_X, Qt::ControlModifier);
+    const auto recent = window->Document().Root()->FindChild("Recently Used");
+    window->Tree().Select({{recent}});
+    QTest::keyClick(&window->Tree().View(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(1, recent->FormatPresetCount());
+    window->Tree().Select({{window->Document().Root()->FindChild("Video")}});
+    QTest::keyClick(&window->Tree().View(), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_TRUE(window->Document().Root()->FindChild("Video")->FindFormatPreset("MP4"));
+}
+
+TEST_F(StudioWindowTest, QuitsByKey)
+{
+    QTest::keyClick(window.get(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_FALSE(window->isVisible());
 }
 
 } // namespace

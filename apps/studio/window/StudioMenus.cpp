@@ -37,7 +37,7 @@ void StudioWindow::MakeFileMenu()
     menu.addMenu(m_recentMedia);
     menu.addAction(tr("&Convert…"), QKeySequence("Ctrl+Return"), m_outcome, &OutcomePane::AskToConvert);
     menu.addSeparator();
-    menu.addAction(tr("&Quit"), QKeySequence(QKeySequence::Quit), this, &QWidget::close);
+    menu.addAction(tr("&Quit"), QKeySequence("Ctrl+Q"), this, &QWidget::close);
 }
 
 void StudioWindow::MakeEditMenu()

@@ -49,10 +49,10 @@ constexpr auto* kOutputFolder = "output/folder";
 StudioWindow::StudioWindow(QWidget* parent)
     : QMainWindow(parent), m_recovery(m_document), m_recent(m_document),
       m_themeChoices(new QActionGroup(this)), m_messages(new MessageBar(this)),
-      m_lossMessage(new MessageBar(this)), m_tree(new TreePane(m_document, m_icons, this)),
-      m_preset(new PresetPane(m_document, this)), m_outcome(new OutcomePane(m_document, this)),
-      m_findings(new FindingsPane(this)), m_splitter(new QSplitter(this)),
-      m_findingsDock(new QDockWidget(tr("Findings"), this)),
+      m_lossMessage(new MessageBar(this)), m_lostOffer(new MessageBar(this)),
+      m_tree(new TreePane(m_document, m_icons, this)), m_preset(new PresetPane(m_document, this)),
+      m_outcome(new OutcomePane(m_document, this)), m_findings(new FindingsPane(this)),
+      m_splitter(new QSplitter(this)), m_findingsDock(new QDockWidget(tr("Findings"), this)),
       m_recentMedia(new RecentFiles(tr("Open Recent M&edia"), "recentMedia", m_settings, this)),
       m_files(new FileActions(m_document, m_settings, *m_messages, this)),
       m_presets(new PresetActions(m_document, m_files->Files(), *m_findings, *m_messages, this)),
@@ -93,9 +93,10 @@ void StudioWindow::Lay()
     auto* center = new QWidget(this);
     auto* layout = new QVBoxLayout(center);
     layout->setContentsMargins(6, 6, 6, 0);
-    layout->addWidget(m_messages);
-    layout->addWidget(m_lossMessage);
+    for (auto* line : {m_messages, m_lossMessage, m_lostOffer})
+        layout->addWidget(line);
     m_lossMessage->setObjectName("lossMessage");
+    m_lostOffer->setObjectName("lostOffer");
     layout->addWidget(m_splitter, 1);
     setCentralWidget(center);
     m_findingsDock->setObjectName("findingsDock");
@@ -208,19 +209,19 @@ void StudioWindow::OfferLost()
     if (!lost)
         return;
     const auto name = lost->path.isEmpty() ? tr("the built-in presets") : QFileInfo(lost->path).fileName();
-    m_messages->Say(tr("The program ended unexpectedly. Changes of %1 were put by on %2.")
-                        .arg(name, QLocale().toString(lost->saved, QLocale::ShortFormat)));
-    m_messages->Offer(tr("Discard"), [lost = *lost] { Recovery::Discard(lost); });
-    m_messages->Offer(tr("Restore"),
-                      [this, lost = *lost]
-                      {
-                          m_files->WhenNothingIsLost(
-                              [this, lost]
-                              {
-                                  if (const auto reason = m_recovery.Recover(lost); !reason.isEmpty())
-                                      m_messages->Say(reason);
-                              });
-                      });
+    m_lostOffer->Say(tr("The program ended unexpectedly. Changes of %1 were put by on %2.")
+                         .arg(name, QLocale().toString(lost->saved, QLocale::ShortFormat)));
+    m_lostOffer->Offer(tr("Discard"), [lost = *lost] { Recovery::Discard(lost); });
+    m_lostOffer->Offer(tr("Restore"),
+                       [this, lost = *lost]
+                       {
+                           m_files->WhenNothingIsLost(
+                               [this, lost]
+                               {
+                                   if (const auto reason = m_recovery.Recover(lost); !reason.isEmpty())
+                                       m_messages->Say(reason);
+                               });
+                       });
 }
 
 // Each reason once, however often it stands in the way.

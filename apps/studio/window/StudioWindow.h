@@ -86,6 +86,7 @@ private:
     QActionGroup* m_themeChoices;
     MessageBar* m_messages;
     MessageBar* m_lossMessage;
+    MessageBar* m_lostOffer;
     TreePane* m_tree;
     PresetPane* m_preset;
     OutcomePane* m_outcome;
