@@ -78,6 +78,15 @@ TEST_F(OutcomeConvert, AsksBeforeItReplacesAFile)
     EXPECT_FALSE(IsShown("replaceOutput"));
 }
 
+TEST_F(OutcomeConvert, NoLongerAsksWhenAnotherPresetIsPicked)
+{
+    folder.Write("out.mkv", "mine");
+    pane.ConvertTo(Here("out.mkv"));
+    ASSERT_TRUE(IsShown("replaceOutput"));
+    pane.ShowPreset(PresetOf("MKV", VXCodecID_VP9, VXCodecID_None));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !IsShown("replaceOutput"); }, kPatience));
+}
+
 TEST_F(OutcomeConvert, ReplacesAFileWhenTold)
 {
     folder.Write("out.mkv", "mine");

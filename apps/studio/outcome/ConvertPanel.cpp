@@ -17,6 +17,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <utility>
 
 namespace Vexlor::Studio
 {
@@ -77,7 +78,8 @@ void ConvertPanel::Lay()
 
 void ConvertPanel::ConnectStatus()
 {
-    connect(m_status, &ConversionStatus::ReplaceWanted, this, [this] { Start(m_wanted, true); });
+    connect(m_status, &ConversionStatus::ReplaceWanted, this,
+            [this] { Start(std::exchange(m_wanted, {}), true); });
     connect(m_status, &ConversionStatus::AnotherWanted, this, &ConvertPanel::AskForOutput);
     connect(m_status, &ConversionStatus::CancelWanted, this, &ConvertPanel::Cancel);
     connect(&m_job, &ConversionJob::Progressed, this,
@@ -91,8 +93,12 @@ void ConvertPanel::ConnectStatus()
 
 void ConvertPanel::Offer(const ConversionOffer& offer)
 {
-    if (offer.source != m_offer.source && !IsConverting())
+    const bool isAskedForAnother = offer.preset != m_offer.preset && !m_wanted.isEmpty();
+    if ((offer.source != m_offer.source || isAskedForAnother) && !IsConverting())
+    {
+        m_wanted.clear();
         m_status->Clear();
+    }
     m_offer = offer;
     const bool hasPicture = HasPicture(offer.outcome.get());
     m_fitLabel->setVisible(hasPicture);
@@ -164,8 +170,9 @@ void ConvertPanel::ConvertTo(const QString& path)
 {
     if (!m_convert->isEnabled())
         return;
-    m_wanted = path;
-    if (QFileInfo::exists(path) && QFileInfo(path) != QFileInfo(m_offer.source))
+    const bool isThere = QFileInfo::exists(path) && QFileInfo(path) != QFileInfo(m_offer.source);
+    m_wanted = isThere ? path : QString();
+    if (isThere)
         return m_status->AskToReplace(path);
     Start(path, false);
 }
