@@ -10,6 +10,7 @@
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
 
+#include <QFileDialog>
 #include <QLabel>
 
 namespace
@@ -96,6 +97,32 @@ TEST_F(StudioSavingTest, TellsWhileChangesCannotBePutBy)
     EXPECT_TRUE(line.findChild<QLabel*>("message")->text().endsWith("/recovery: No space left on device"));
     emit window->Lost().FailureChanged("");
     EXPECT_FALSE(line.isVisible());
+}
+
+TEST_F(StudioSavingTest, SaysNoMoreWhyItFailedOnceItHasSaved)
+{
+    emit window->Files().Files().Failed("mine.json: is write-protected");
+    EXPECT_TRUE(The<QWidget>("messageBar").isVisible());
+    SaveTo(folder.filePath("other.json"));
+    EXPECT_FALSE(The<QWidget>("messageBar").isVisible());
+}
+
+TEST_F(StudioSavingTest, GivesAFileItsEnding)
+{
+    QTimer::singleShot(50, window.get(),
+                       [this]
+                       {
+                           auto* dialog = window->findChild<QFileDialog*>();
+                           ASSERT_NE(nullptr, dialog);
+                           EXPECT_EQ("json", dialog->defaultSuffix());
+                           dialog->setDirectory(folder.path());
+                           dialog->findChild<QLineEdit*>("fileNameEdit")->setText("mine");
+                           static_cast<QDialog*>(dialog)->accept();
+                       });
+    QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
+    window->Files().SaveAs();
+    ASSERT_TRUE(saved.count() > 0 || saved.wait(kPatience));
+    EXPECT_TRUE(QFileInfo::exists(folder.filePath("mine.json")));
 }
 
 } // namespace

@@ -47,7 +47,7 @@ void FileActions::Connect()
             [this](const QString& reason)
             {
                 m_next = nullptr;
-                m_messages.Say(reason);
+                Tell(reason);
             });
 }
 
@@ -88,14 +88,35 @@ void FileActions::Save()
 
 void FileActions::SaveAs()
 {
-    const auto path =
-        QFileDialog::getSaveFileName(m_window, tr("Save Preset Document"),
-                                     m_document.Path().isEmpty() ? tr("presets.json") : m_document.Path(),
-                                     tr("Preset documents (*.json)"));
+    const auto path = AskForPath();
     if (path.isEmpty())
         m_next = nullptr;
     else
-        SaveTo(path, true); // the dialog has asked
+        SaveTo(path, true); // it was asked for
+}
+
+QString FileActions::AskForPath()
+{
+    const QFileInfo suggestion(m_document.Path().isEmpty() ? tr("presets.json") : m_document.Path());
+    QFileDialog dialog(m_window, tr("Save Preset Document"), suggestion.path(),
+                       tr("Preset documents (*.json)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // not every one asks with the ending that it adds
+    dialog.setDefaultSuffix("json");
+    dialog.selectFile(suggestion.fileName());
+    while (dialog.exec() == QDialog::Accepted)
+        if (const auto path = dialog.selectedFiles().value(0); MayReplace(path))
+            return path;
+    return {};
+}
+
+bool FileActions::MayReplace(const QString& path)
+{
+    return !QFileInfo::exists(path) ||
+           QMessageBox::question(
+               m_window, tr("Save Preset Document"),
+               tr("\"%1\" is there already. Replace it?").arg(QFileInfo(path).fileName())) ==
+               QMessageBox::Yes;
 }
 
 void FileActions::SaveTo(const QString& path, bool overwrites)
@@ -104,8 +125,16 @@ void FileActions::SaveTo(const QString& path, bool overwrites)
     m_files.Save(path, overwrites);
 }
 
+// What is said of a file that cannot be saved as it is.
+void FileActions::Tell(const QString& trouble)
+{
+    m_trouble = trouble;
+    m_messages.Say(trouble);
+}
+
 void FileActions::AfterSaving()
 {
+    m_messages.TakeBack(m_trouble);
     if (const auto note = std::exchange(m_note, {}); !note.isEmpty())
         m_messages.Say(note);
     if (const auto next = std::exchange(m_next, nullptr))
@@ -134,16 +163,16 @@ void FileActions::WhenNothingIsLost(const std::function<void()>& next)
 void FileActions::TellOfRefusal(const QString& path)
 {
     m_next = nullptr;
-    m_messages.Say(tr("\"%1\" was not saved: another program has changed it since it was opened.")
-                       .arg(QFileInfo(path).fileName()));
+    Tell(tr("\"%1\" was not saved: another program has changed it since it was opened.")
+             .arg(QFileInfo(path).fileName()));
     m_messages.Offer(tr("Save As…"), [this] { SaveAs(); });
     m_messages.Offer(tr("Overwrite"), [this, path] { SaveTo(path, true); });
 }
 
 void FileActions::TellOfChange(const QString& path)
 {
-    m_messages.Say(tr("Another program has changed \"%1\". What is shown here is as it was before.")
-                       .arg(m_document.Title()));
+    Tell(tr("Another program has changed \"%1\". What is shown here is as it was before.")
+             .arg(m_document.Title()));
     m_messages.Offer(tr("Reload"), [this, path] { Open(path); });
 }
 

@@ -47,7 +47,10 @@ public:
 
 private:
     void Connect();
+    QString AskForPath();
+    bool MayReplace(const QString& path);
     void SaveTo(const QString& path, bool overwrites);
+    void Tell(const QString& trouble);
     void AfterSaving();
     void TellOfRefusal(const QString& path);
     void TellOfChange(const QString& path);
@@ -63,6 +66,7 @@ private:
     QAction* m_saveAs;
     std::function<void()> m_next; // when the document is saved
     QString m_note;               // to be told then
+    QString m_trouble;            // that was told last
 };
 
 } // namespace Vexlor::Studio

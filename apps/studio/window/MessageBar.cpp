@@ -42,6 +42,12 @@ void MessageBar::Say(const QString& text)
     QAccessible::updateAccessibility(&event);
 }
 
+void MessageBar::TakeBack(const QString& text)
+{
+    if (m_text->text() == text)
+        hide();
+}
+
 void MessageBar::Offer(const QString& label, const std::function<void()>& action)
 {
     auto* button = new QPushButton(label, this);

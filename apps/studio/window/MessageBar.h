@@ -20,6 +20,8 @@ public:
 
     /// Shows a text in place of what was shown. Any button hides it.
     void Say(const QString& text);
+    /// Hides that text, where it is shown still.
+    void TakeBack(const QString& text);
     /// Adds a button to the text that is shown.
     void Offer(const QString& label, const std::function<void()>& action);
 
