@@ -169,4 +169,16 @@ TEST_F(TreePaneTest, StaysWhereItIsWhenSomethingIsAskedForThatIsGone)
     EXPECT_EQ("mp3", Search().text());
 }
 
+TEST_F(TreePaneTest, TellsWhatToDoWithADocumentWithoutPresets)
+{
+    EXPECT_FALSE(Count().isVisible());
+    const auto root = IVXFormatNode::MallocFormatNode(std::shared_ptr<IVXFormatNode>());
+    document.SetContent({root, std::make_shared<DocumentBasis>()}, {});
+    EXPECT_TRUE(Count().isVisible());
+    EXPECT_TRUE(Count().text().contains("New Preset"));
+    EXPECT_TRUE(Count().text().contains("Import"));
+    TreeEditor(document).AddPreset(document.Root(), "MP4");
+    EXPECT_FALSE(Count().isVisible());
+}
+
 } // namespace

@@ -50,6 +50,8 @@ TreePane::TreePane(StudioDocument& document, const FaceIcons& icons, QWidget* pa
     layout->addWidget(m_count);
     connect(m_model, &FormatTreeModel::Refused, this, &TreePane::Refused);
     connect(m_model, &FormatTreeModel::Dropped, this, &TreePane::Select, Qt::QueuedConnection);
+    for (const auto change : {&PresetTree::Reset, &PresetTree::Inserted, &PresetTree::Removed})
+        connect(&document.Tree(), change, this, &TreePane::ShowState);
     connect(&document.Tree(), &PresetTree::Reset, this, &TreePane::KeepCurrent);
     connect(&document.Tree(), &PresetTree::Removed, this, &TreePane::KeepCurrent);
 }
@@ -165,15 +167,27 @@ void TreePane::Narrow(const QString& text)
         m_view->scrollTo(ShownIndexOf(Current()), QAbstractItemView::PositionAtCenter);
 }
 
+// What the list itself does not say.
+void TreePane::ShowState()
+{
+    const bool isEmpty = m_model->rowCount() == 0;
+    m_count->setVisible(isEmpty || m_filter->IsNarrowed());
+    const int count = m_filter->FoundCount();
+    if (isEmpty)
+        m_count->setText(tr("This document has no presets yet. Make one with Presets > New Preset, or bring "
+                            "in those of another program with Presets > Import."));
+    else if (count == 0)
+        m_count->setText(tr("No preset has all of these words.\nPress Esc to see all presets."));
+    else
+        m_count->setText(tr("%n preset(s) found", nullptr, count));
+}
+
 void TreePane::ShowFound()
 {
-    const int count = m_filter->FoundCount();
-    m_count->setVisible(m_filter->IsNarrowed());
-    m_count->setText(count == 0 ? tr("No preset has all of these words.\nPress Esc to see all presets.")
-                                : tr("%n preset(s) found", nullptr, count));
+    ShowState();
     if (!m_filter->IsNarrowed())
         return;
-    if (count <= kMostExpanded)
+    if (m_filter->FoundCount() <= kMostExpanded)
         m_view->expandAll();
     else
         m_view->expandToDepth(0);

@@ -57,6 +57,7 @@ private:
     void MakeSearch();
     void MakeView();
     void Narrow(const QString& text);
+    void ShowState();
     void ShowFound();
     void LeaveRows(const QModelIndex& parent, int first, int last);
     void KeepCurrent();
