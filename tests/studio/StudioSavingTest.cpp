@@ -3,6 +3,7 @@
 #include "apps/studio/document/TreeEditor.h"
 #include "apps/studio/outcome/OutcomePane.h"
 #include "apps/studio/preset/QualityBitrate.h"
+#include "apps/studio/window/StartOptions.h"
 #include "tests/studio/Patience.h"
 
 #include "IVXCodecPreset.h"
@@ -22,6 +23,21 @@ using namespace Vexlor::Studio;
 /// What happens while a document is written, and after.
 class StudioSavingTest : public StudioWindowTest
 {
+protected:
+    /// Gives a preset what documents cannot hold.
+    void ChooseOwnBitrate()
+    {
+        window->Tree().SelectByPath("Video/MP4");
+        const auto chooseOwn = [](IVXFormatPreset& preset)
+        {
+            const auto codec = preset.VideoCodecPreset(1);
+            for (int i = 0; i < codec->CodecQualityPresetCount(); ++i)
+                if (codec->CodecQualityPresetAt(i)->IsCustom())
+                    codec->SetIndexForQualityPresets(i);
+        };
+        window->Document().EditPreset(window->Tree().Current().preset, "Bitrate", chooseOwn);
+        ASSERT_TRUE(HasOwnBitrate(*window->Tree().Current().preset->VideoCodecPreset(1)));
+    }
 };
 
 TEST_F(StudioSavingTest, LocksEveryWayToChangeWhatIsBeingSaved)
@@ -71,16 +87,7 @@ TEST_F(StudioSavingTest, ShowsARecentlyUsedPresetThatIsConvertedStill)
 TEST_F(StudioSavingTest, TellsOfABitrateOfOnesOwnThatTheFileDoesNotHold)
 {
     SaveTo(folder.filePath("mine.json"));
-    window->Tree().SelectByPath("Video/MP4");
-    const auto chooseOwn = [](IVXFormatPreset& preset)
-    {
-        const auto codec = preset.VideoCodecPreset(1);
-        for (int i = 0; i < codec->CodecQualityPresetCount(); ++i)
-            if (codec->CodecQualityPresetAt(i)->IsCustom())
-                codec->SetIndexForQualityPresets(i);
-    };
-    window->Document().EditPreset(window->Tree().Current().preset, "Bitrate", chooseOwn);
-    ASSERT_TRUE(HasOwnBitrate(*window->Tree().Current().preset->VideoCodecPreset(1)));
+    ChooseOwnBitrate();
     QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
     window->Files().Save();
     ASSERT_TRUE(saved.wait(kPatience));
@@ -123,6 +130,28 @@ TEST_F(StudioSavingTest, GivesAFileItsEnding)
     window->Files().SaveAs();
     ASSERT_TRUE(saved.count() > 0 || saved.wait(kPatience));
     EXPECT_TRUE(QFileInfo::exists(folder.filePath("mine.json")));
+}
+
+TEST_F(StudioSavingTest, TellsOfABitrateOfOnesOwnThatACrashHasTaken)
+{
+    ChooseOwnBitrate();
+    QSignalSpy kept(&window->Lost(), &Recovery::Kept);
+    window->Lost().Keep();
+    ASSERT_TRUE(kept.wait(kPatience));
+    const QDir recovery(Recovery::Folder());
+    for (const auto& copy : recovery.entryInfoList({"*.json", "*.path", "*.note"}))
+        QFile::copy(copy.filePath(), recovery.filePath("crashed." + copy.suffix()));
+
+    StudioWindow next;
+    next.show();
+    next.Start({});
+    for (auto* button : next.findChild<QWidget*>("lostOffer")->findChildren<QPushButton*>())
+        if (button->text() == "Restore")
+            QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_TRUE(next.findChild<QWidget*>("messageBar")->isVisible());
+    EXPECT_TRUE(
+        next.findChild<QWidget*>("messageBar")->findChild<QLabel*>("message")->text().contains("\"MP4\""));
+    next.Document().SetContent(BuiltInContent(), {});
 }
 
 } // namespace

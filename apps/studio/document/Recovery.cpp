@@ -16,6 +16,7 @@
 #include <QUuid>
 
 #include <algorithm>
+#include <array>
 #include <exception>
 #include <utility>
 
@@ -25,10 +26,13 @@ namespace Vexlor::Studio
 namespace
 {
 
-constexpr int kDelay = 5000; // milliseconds
-constexpr int kRest = 10;    // times as long as a copy takes, until the next one
+constexpr int kDelay = 5000;       // milliseconds
+constexpr qint64 kMostNote = 4096; // bytes
+constexpr int kRest = 10;          // times as long as a copy takes, until the next one
 constexpr auto* kTextEnding = ".json";
 constexpr auto* kPathEnding = ".path"; // a file that tells of the document's own file
+constexpr auto* kNoteEnding = ".note"; // a file that tells of what the copy lacks
+constexpr std::array kEndings{kTextEnding, kPathEnding, kNoteEnding};
 constexpr auto* kLockEnding = ".lock";
 
 QString Sibling(const QString& recovery, const char* ending)
@@ -64,6 +68,12 @@ Original OriginalOf(const QString& recovery)
         return {};
     const auto hash = file.readLine().trimmed();
     return {hash, QString::fromUtf8(file.readAll())};
+}
+
+QString NoteOf(const QString& recovery)
+{
+    QFile file(Sibling(recovery, kNoteEnding));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.read(kMostNote)) : QString();
 }
 
 std::string TextOfFile(const QString& path)
@@ -143,12 +153,14 @@ void Recovery::Keep()
     const bool isBasis = &m_document.TextOfFile() == &m_document.Basis()->text; // which is not copied
     const auto work = [plan = m_document.Plan(), basis = m_document.Basis(), isBasis,
                        other = isBasis ? std::string() : m_document.TextOfFile(),
-                       document = m_document.Path().toStdString(),
+                       document = m_document.Path().toStdString(), note = m_note().toStdString(),
+                       noteFile = PathOf(kNoteEnding).toStdString(),
                        pathFile = PathOf(kPathEnding).toStdString(),
                        textFile = PathOf(kTextEnding).toStdString()]
     {
         const auto hash = HashOf(isBasis ? basis->text : other).toStdString();
         Write(pathFile, hash + '\n' + document);
+        Write(noteFile, note);
         Write(textFile, TextOf(plan, *basis));
         return true;
     };
@@ -183,7 +195,7 @@ void Recovery::Forget()
     m_timer.stop();
     m_isStale = false;
     TellOf({}); // there is nothing to lose
-    for (const auto* ending : {kTextEnding, kPathEnding})
+    for (const auto* ending : kEndings)
         QFile::remove(PathOf(ending));
 }
 
@@ -194,7 +206,8 @@ std::optional<LostDocument> Recovery::FindLost()
         folder.entryInfoList({QString("*") + kTextEnding}, QDir::Files, QDir::Time); // the newest first
     for (const auto& copy : copies)
         if (!IsInUse(copy.filePath()))
-            return LostDocument{OriginalOf(copy.filePath()).path, copy.lastModified(), copy.filePath()};
+            return LostDocument{OriginalOf(copy.filePath()).path, copy.lastModified(), copy.filePath(),
+                                NoteOf(copy.filePath())};
     return {};
 }
 
@@ -211,7 +224,7 @@ QString Recovery::Recover(const LostDocument& lost)
     {
         return QString::fromUtf8(failure.what());
     }
-    for (const auto* ending : {kTextEnding, kPathEnding})
+    for (const auto* ending : kEndings)
         QFile::rename(Sibling(lost.recovery, ending), PathOf(ending));
     Discard(lost);
     return {};
@@ -219,8 +232,9 @@ QString Recovery::Recover(const LostDocument& lost)
 
 void Recovery::Discard(const LostDocument& lost)
 {
-    for (const auto* ending : {kTextEnding, kPathEnding, kLockEnding})
+    for (const auto* ending : kEndings)
         QFile::remove(Sibling(lost.recovery, ending));
+    QFile::remove(Sibling(lost.recovery, kLockEnding));
 }
 
 } // namespace Vexlor::Studio

@@ -9,8 +9,10 @@
 #include <QString>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 
 namespace Vexlor::Studio
 {
@@ -23,6 +25,7 @@ struct LostDocument
     QString path = {};     ///< of its file; empty for one without
     QDateTime saved = {};  ///< when the changes were put by
     QString recovery = {}; ///< the file that they are in
+    QString note = {};     ///< what that file does not hold, in words
 };
 
 /// Keeps a copy of a document with unsaved changes beside the user's other data, and finds those that were
@@ -40,6 +43,8 @@ public:
 
     /// How long after a change the copy is made, in milliseconds.
     void SetDelay(int milliseconds) { m_timer.setInterval(milliseconds); }
+    /// Has copies come with the answer to what they cannot hold, in words; asked whenever one is made.
+    void SetNote(std::function<QString()> note) { m_note = std::move(note); }
     /// Begins to make the copy; does nothing where there is nothing to lose.
     void Keep();
     /// Removes the copy.
@@ -66,6 +71,7 @@ private:
     QString PathOf(const char* ending) const;
 
     StudioDocument& m_document;
+    std::function<QString()> m_note = [] { return QString(); };
     QString m_name;
     std::unique_ptr<QLockFile> m_lock;
     QTimer m_timer;

@@ -2,6 +2,7 @@
 
 #include "FileActions.h"
 #include "MessageBar.h"
+#include "OwnBitrates.h"
 #include "PresetActions.h"
 #include "RecentFiles.h"
 #include "StartOptions.h"
@@ -112,6 +113,7 @@ void StudioWindow::Connect()
     connect(m_tree, &TreePane::Refused, this,
             [this](const QString& reason) { statusBar()->showMessage(reason, kMessageTime); });
     connect(&m_document, &StudioDocument::StateChanged, this, &StudioWindow::ShowState);
+    m_recovery.SetNote([this] { return OwnBitrates::NoteOf(m_document); });
     connect(&m_recovery, &Recovery::FailureChanged, m_lossMessage,
             [this](const QString& failure) { TellOfLoss(failure); });
     connect(&m_files->Files(), &DocumentFiles::BusyChanged, this, &StudioWindow::SetBusy);
@@ -218,8 +220,10 @@ void StudioWindow::OfferLost()
                            m_files->WhenNothingIsLost(
                                [this, lost]
                                {
-                                   if (const auto reason = m_recovery.Recover(lost); !reason.isEmpty())
-                                       m_messages->Say(reason);
+                                   const auto reason = m_recovery.Recover(lost);
+                                   if (const auto& text = reason.isEmpty() ? lost.note : reason;
+                                       !text.isEmpty())
+                                       m_messages->Say(text);
                                });
                        });
 }
