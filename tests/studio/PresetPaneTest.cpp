@@ -2,6 +2,7 @@
 
 #include "IVXFormatNode.h"
 
+#include <QLayout>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QWheelEvent>
@@ -273,5 +274,17 @@ TEST_F(PresetPaneTest, FitsIntoANarrowPlace)
 }
 
 } // namespace
+
+TEST_F(PresetPaneTest, IsNoWiderForLongWords)
+{
+    auto& aspect = Row("sample aspect");
+    auto& page = *aspect.parentWidget();
+    const int width = page.minimumSizeHint().width();
+    for (auto* label : page.findChildren<QLabel*>())
+        if (label->buddy() == aspect.focusProxy())
+            label->setText("Sample aspect of a pixel");
+    page.layout()->activate();
+    EXPECT_LE(page.minimumSizeHint().width(), width);
+}
 
 } // namespace Vexlor::Studio

@@ -17,6 +17,7 @@ CodecPage::CodecPage(CodecSession& session, FieldManners& manners, QWidget* pare
 {
     m_form->setContentsMargins(0, 0, 0, 0);
     m_form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    m_form->setRowWrapPolicy(QFormLayout::WrapLongRows); // some languages have long words
     for (const auto& family : FamiliesOf(session.Family().kind))
         AddRow(family, manners);
     if (session.Family().kind == Tool::StreamKind::Video)

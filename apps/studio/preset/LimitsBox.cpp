@@ -87,6 +87,7 @@ LimitsBox::LimitsBox(PresetSession& session, bool isVideo, FieldManners& manners
       m_message(new MessageLine(this))
 {
     auto* form = new QFormLayout(this);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     if (isVideo)
         for (const auto& row : kVideo)
             AddRow(*form, row, manners);
