@@ -77,8 +77,10 @@ TEST_F(PresetPaneTest, GoesBackToTheOldNameWhenItIsEmptiedLetterByLetter)
 {
     auto& name = *pane.findChild<QLineEdit*>("name");
     name.setFocus();
+    name.end(false);
     for (int i = 0; i < 5; ++i)
         QTest::keyClick(&name, Qt::Key_Backspace);
+    EXPECT_EQ("P", preset->Name());
     QTest::keyClick(&name, Qt::Key_Return);
     EXPECT_EQ("Phone", preset->Name());
     EXPECT_EQ(0, document.Undo().count());
