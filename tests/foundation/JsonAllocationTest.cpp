@@ -93,7 +93,8 @@ TEST_F(JsonAllocation, NumbersAreReadWithoutAny)
 TEST_F(JsonAllocation, MembersOfABuiltValueAreFoundWithoutAny)
 {
     const auto value = IVXJsonValue::JsonValueNull();
-    value->SetValueObject("child", IVXJsonValue::JsonValueNull());
+    const auto child = IVXJsonValue::JsonValueNull(); // held, or it would be kept as text
+    value->SetValueObject("child", child);
     value->SetValueArray("list", {nullptr});
     EXPECT_EQ(0, AllocationsOf([&] { EXPECT_TRUE((*value)["child"]); }));
     EXPECT_EQ(0, AllocationsOf([&] { EXPECT_EQ(1, value->GetValueArray("list")->Size()); }));
