@@ -1,5 +1,6 @@
 #include "runtime/foundation/VXJsonDocument.h"
 #include "runtime/foundation/VXJsonEscape.h"
+#include "runtime/foundation/VXJsonLetGo.h"
 #include "runtime/foundation/VXJsonMembers.h"
 #include "runtime/foundation/VXJsonNode.h"
 #include "runtime/foundation/VXJsonPieces.h"
@@ -9,8 +10,6 @@
 #include <array>
 #include <atomic>
 #include <charconv>
-#include <iterator>
-#include <new>
 #include <typeinfo>
 #include <utility>
 
@@ -29,47 +28,6 @@ constexpr std::size_t kSoon = 8;
 // What finished children may become at most: a text that is copied while it is at hand, and that can be read.
 constexpr std::size_t kLongFinished = 64000;
 constexpr int kDeepFinished = 16;
-
-// How deep destructors of values in values may call each other.
-constexpr int kMostNested = 100;
-
-// False where memory for the list is short.
-template <class Take>
-bool PutBy(Handles& waiting, Take take) noexcept
-{
-    try
-    {
-        auto children = take();
-        waiting.insert(waiting.end(), std::move_iterator(children.begin()),
-                       std::move_iterator(children.end()));
-        return true;
-    }
-    catch (const std::bad_alloc&)
-    {
-        return false;
-    }
-}
-
-// Drops the children of a value that dies. Those of very deep ones are taken instead, and wait for the
-// outermost value on this thread: the stack would not do for all.
-template <class Drop, class Take>
-void LetGo(Drop drop, Take take) noexcept
-{
-    thread_local int nested = 0;
-    thread_local Handles* waiting = nullptr;
-    if (nested >= kMostNested && PutBy(*waiting, take))
-        return;
-    Handles later;
-    if (++nested == 1)
-        waiting = &later;
-    drop();
-    while (!later.empty())
-    {
-        const Handle last = std::move(later.back());
-        later.pop_back();
-    }
-    --nested;
-}
 
 std::shared_ptr<const IVXJsonValue> OrNull(const Handle& handle)
 {
