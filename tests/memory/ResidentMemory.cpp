@@ -1,0 +1,37 @@
+#include "tests/memory/ResidentMemory.h"
+
+#include <cstdio>
+
+#include <malloc.h>
+#include <unistd.h>
+
+// The address sanitizer keeps what was freed, to watch it.
+#if defined(__clang__)
+#define VX_KEEPS_FREED __has_feature(address_sanitizer)
+#elif defined(__SANITIZE_ADDRESS__)
+#define VX_KEEPS_FREED 1
+#else
+#define VX_KEEPS_FREED 0
+#endif
+
+namespace Vexlor
+{
+
+#if VX_KEEPS_FREED
+std::size_t ResidentBytes() { return 0; }
+#else
+std::size_t ResidentBytes()
+{
+    ::malloc_trim(0);
+    std::FILE* file = std::fopen("/proc/self/statm", "r");
+    if (!file)
+        return 0;
+    std::size_t mapped = 0;
+    std::size_t pages = 0;
+    const bool isRead = std::fscanf(file, "%zu %zu", &mapped, &pages) == 2;
+    static_cast<void>(std::fclose(file));
+    return isRead ? pages * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE)) : 0;
+}
+#endif
+
+} // namespace Vexlor
