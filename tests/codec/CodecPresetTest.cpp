@@ -134,6 +134,11 @@ TEST_F(CodecPreset, OfACodecItAsksInAFixedOrder)
               questions);
 }
 
+TEST_F(CodecPreset, OfANegativeCodecItIsNotAuto)
+{
+    EXPECT_FALSE(IVXCodecPreset::MallocCodecPreset(-1)->IsAutoValue());
+}
+
 TEST_F(CodecPreset, OfAnUnknownCodecItHasNoNameAndOnlyTheQualityList)
 {
     const auto preset = IVXCodecPreset::MallocCodecPreset(8);

@@ -99,6 +99,13 @@ TEST_F(FormatPreset, DefaultListsWithoutCodecsAreEmpty)
     EXPECT_THAT(IVXFormatPreset::DefaultAudioCodecPresets("none"), IsEmpty());
 }
 
+TEST_F(FormatPreset, DefaultListsOfAContainerThatCannotBeMadeAreEmpty)
+{
+    platform.Format("MP4").made = false;
+    EXPECT_THAT(IVXFormatPreset::DefaultVideoCodecPresets("MP4"), IsEmpty());
+    EXPECT_THAT(IVXFormatPreset::DefaultAudioCodecPresets("MP4"), IsEmpty());
+}
+
 TEST_F(FormatPreset, DefaultListsAskForTheContainerWithoutAHint)
 {
     IVXFormatPreset::DefaultVideoCodecPresets("MP4");

@@ -29,6 +29,8 @@ std::shared_ptr<IVXFormat> IVXFormat::MallocFormat(const std::string& formatName
     ScriptedPlatform::Record(CallText("MallocFormat", formatName, formatHint));
     const auto* platform = ScriptedPlatform::Current();
     const auto* format = platform ? platform->FindFormat(formatName) : nullptr;
+    if (format && !format->made)
+        return nullptr;
     return std::make_shared<VXFormat>(format ? *format : ScriptedFormat());
 }
 

@@ -23,6 +23,7 @@ struct ScriptedFormat
     std::vector<int> videoCodecIDs;
     std::vector<int> audioCodecIDs;
     bool listed = true; ///< whether VXMediaCodecSupportOutputAllMediaFormats names it
+    bool made = true;   ///< whether MallocFormat makes it
 };
 
 /// One line of the log; without a level when it was written by the form that takes none.
