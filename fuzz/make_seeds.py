@@ -89,6 +89,24 @@ DOCUMENTS = {
 }
 
 
+SAMPLES = pathlib.Path(__file__).parent.parent / "tests" / "data" / "import"
+TARGET = b"[GStreamer Encoding Target]\nname=x\n[profile-a]\nname=a\n"
+STREAM = b"[streamprofile-b]\nparent=a\ntype=video\n"
+IMPORTS = {
+    "handbrake": (SAMPLES / "handbrake.json").read_bytes(),
+    "camera": (SAMPLES / "camera.gep").read_bytes(),
+    "list_of_presets": b'[{"PresetName":"A","FileFormat":"mkv","VideoEncoder":"x264","AudioList":[{"AudioEncoder":"copy"}]}]',
+    "folders": b'{"PresetList":[' + b'{"Folder":true,"ChildrenArray":[' * 20 + b'{"FileFormat":"mp4"}' + b"]}" * 20 + b"]}",
+    "numbers": b'[{"FileFormat":"mp4","VideoEncoder":"VP9","VideoQualitySlider":1e300,"VideoFramerate":-1,'
+               b'"PictureWidth":99999999999,"PictureHeight":1e-9,"AudioList":[{"AudioEncoder":"mp3","AudioBitrate":1e9}]}]',
+    "empty_range": TARGET + b"format=video/x-matroska\n" + STREAM +
+                   b"format=video/x-h264\nrestriction=video/x-raw,width=[9,2],height=[2,9,1]\n",
+    "quoted_caps": TARGET + b'format=video/quicktime, variant="iso"\n' + STREAM + b'format=video/x-h264,profile=(string){"hi\\"gh",main}\n',
+    "broken_caps": TARGET + b"format=video/webm, =,{[\n",
+    "no_target": b"[Other]\nkey\\s=\\n\n",
+}
+
+
 def command_line(*arguments, text=document(FULL, container(name="a"), children=[PHONES])):
     return "\n".join(arguments).encode() + b"\0" + text
 
@@ -105,26 +123,30 @@ COMMAND_LINES = {
     "manual": command_line("generate", "man"),
     "wrong_command": command_line("tre", "--json"),
     "picture": command_line("artwork", "add", "f", "--picture", "0:normal=x", "--picture", "1:normal=y"),
-    "match": command_line("match", "a.mov", "--preset", "Any", text=b""),
+    "match": command_line("match", "film.mov", "--preset", "Any"),
+    "match_ffmpeg": command_line("match", "film.mkv", "--preset", "Any", "--ffmpeg", "out.mp4", "--crop"),
+    "match_all": command_line("match", "music.opus", "--all", "--json"),
+    "match_nothing": command_line("match", "a.mov", "--preset", "Any", text=b""),
+    "size": command_line("size", "film.mp4", "--preset", "Any", "--target", "25MB"),
+    "size_json": command_line("size", "film.webm", "--json", "--preset", "Any", "--target", "1.5 KiB"),
+    "formats": command_line("formats", "--json"),
+    "check": command_line("check", "a.json", "--json"),
+    "check_faults": command_line("check", "a.json", text=DOCUMENTS["other_kinds"]),
+    "edit_category": command_line("edit", "add", "a.json", "New/Sub", "--category", "--parents", "--first", "face=20000001"),
+    "edit_container": command_line("edit", "add", "a.json", "Pho\\/nes/Clip", "--container", "MP4", "--json", "video-codec=H.264",
+                                   "resolution=640x360", "--before", "Small"),
+    "edit_copy": command_line("edit", "add", "a.json", "Copy", "--from", "Any", "--from-document", "a.json", "--backup"),
+    "edit_remove": command_line("edit", "remove", "a.json", "a", "Pho\\/nes", "--recursive"),
+    "edit_move": command_line("edit", "move", "a.json", "a", "--into", "Pho\\/nes", "--after", "Small"),
+    "edit_rename": command_line("edit", "rename", "a.json", "/childList/0", "Tele/phones"),
+    "edit_clone": command_line("edit", "clone", "a.json", "Any", "--name", "Mine", "frame-rate=30000/1001"),
+    "edit_set": command_line("edit", "set", "a.json", "Any", "max-size=1280x720", "video-bitrate=4M", "description=x"),
+    "edit_nothing": command_line("edit", "set", "a.json", "Any", "no=thing", text=DOCUMENTS["cut"]),
+    "import": command_line("import", "a.json", "--json", text=IMPORTS["handbrake"]),
+    "import_into": command_line("import", "a.gep", "--into", "b.json", "--backup", text=IMPORTS["camera"]),
+    "import_output": command_line("import", "a.json", "--output", "b.json", text=IMPORTS["list_of_presets"]),
     "broken_document": command_line("tree", text=b'{"childList":['),
     "same_path_twice": command_line("show", "a", text=document(container(name="a"), container(name="a"))),
-}
-
-SAMPLES = pathlib.Path(__file__).parent.parent / "tests" / "data" / "import"
-TARGET = b"[GStreamer Encoding Target]\nname=x\n[profile-a]\nname=a\n"
-STREAM = b"[streamprofile-b]\nparent=a\ntype=video\n"
-IMPORTS = {
-    "handbrake": (SAMPLES / "handbrake.json").read_bytes(),
-    "camera": (SAMPLES / "camera.gep").read_bytes(),
-    "list_of_presets": b'[{"PresetName":"A","FileFormat":"mkv","VideoEncoder":"x264","AudioList":[{"AudioEncoder":"copy"}]}]',
-    "folders": b'{"PresetList":[' + b'{"Folder":true,"ChildrenArray":[' * 20 + b'{"FileFormat":"mp4"}' + b"]}" * 20 + b"]}",
-    "numbers": b'[{"FileFormat":"mp4","VideoEncoder":"VP9","VideoQualitySlider":1e300,"VideoFramerate":-1,'
-               b'"PictureWidth":99999999999,"PictureHeight":1e-9,"AudioList":[{"AudioEncoder":"mp3","AudioBitrate":1e9}]}]',
-    "empty_range": TARGET + b"format=video/x-matroska\n" + STREAM +
-                   b"format=video/x-h264\nrestriction=video/x-raw,width=[9,2],height=[2,9,1]\n",
-    "quoted_caps": TARGET + b'format=video/quicktime, variant="iso"\n' + STREAM + b'format=video/x-h264,profile=(string){"hi\\"gh",main}\n',
-    "broken_caps": TARGET + b"format=video/webm, =,{[\n",
-    "no_target": b"[Other]\nkey\\s=\\n\n",
 }
 for target, seeds in (("artwork_group", GROUPS), ("artwork_file", FILES), ("document", DOCUMENTS),
                       ("arguments", COMMAND_LINES), ("import", IMPORTS)):

@@ -91,6 +91,13 @@ struct Members
     }
 };
 
+/// Made once: reading the schema takes longer than checking a small document.
+const DocumentSchema& BuiltInSchema()
+{
+    static const DocumentSchema s_schema;
+    return s_schema;
+}
+
 /// Walks the document with the schema. Each object is held against its own part of the schema, without the
 /// objects inside of it: what is wrong is found where it stands, and memory does not grow with what is wrong.
 class ShapeCheck
@@ -112,7 +119,7 @@ private:
 
     const DocumentTree& m_tree;
     DocumentFindings& m_findings;
-    DocumentSchema m_schema;
+    const DocumentSchema& m_schema = BuiltInSchema();
     // The texts of objects that were found right. Documents repeat the same small objects many times.
     std::unordered_map<const SchemaObject*, std::unordered_set<std::string_view>> m_right;
 };
