@@ -1,5 +1,7 @@
 #pragma once
 
+#include "apps/studio/texts/ToolText.h"
+
 #include <QCoreApplication>
 #include <QPointer>
 #include <QThreadPool>
@@ -34,7 +36,7 @@ void RunAside(QObject* owner, std::function<Value()> work, std::function<void(As
         }
         catch (const std::exception& failure)
         {
-            result->error = QString::fromUtf8(failure.what());
+            result->error = ToolText(failure.what());
         }
         const auto answer = [done, owner, result]
         {

@@ -2,6 +2,7 @@
 
 #include "RecentStore.h"
 #include "StudioDocument.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include "IVXFormatPreset.h"
 
@@ -80,12 +81,12 @@ bool RecentUse::Try(const std::function<void()>& work)
     }
     catch (const RecentStore::Busy& busy)
     {
-        emit Failed(QString::fromUtf8(busy.what()));
+        emit Failed(ToolText(busy.what()));
         return false;
     }
     catch (const std::exception& failure)
     {
-        emit Failed(QString::fromUtf8(failure.what()));
+        emit Failed(ToolText(failure.what()));
     }
     return true;
 }

@@ -222,7 +222,7 @@ QString Recovery::Recover(const LostDocument& lost)
     }
     catch (const std::exception& failure)
     {
-        return QString::fromUtf8(failure.what());
+        return ToolText(failure.what());
     }
     for (const auto* ending : kEndings)
         QFile::rename(Sibling(lost.recovery, ending), PathOf(ending));

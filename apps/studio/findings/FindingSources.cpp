@@ -6,6 +6,7 @@
 #include "apps/host/import/Import.h"
 #include "apps/studio/document/DocumentText.h"
 #include "apps/studio/document/StudioDocument.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
@@ -52,8 +53,10 @@ const void* OwnerOf(Tool::DocumentPosition value, const Objects& objects, const 
 
 QString TextOf(const Tool::DocumentWording& wording)
 {
-    const auto what = QString::fromStdString(wording.what);
-    return wording.expected.empty() ? what : what + "; expected " + QString::fromStdString(wording.expected);
+    const auto what = ToolText(wording.what);
+    return wording.expected.empty()
+               ? what
+               : FindingTexts::tr("%1; expected %2").arg(what, ToolText(wording.expected));
 }
 
 /// Every item of the tree by its object.
@@ -120,7 +123,7 @@ Findings FindingTexts::Of(const Tool::Import& import, const std::vector<TreeItem
         { return (finding.path + '/').starts_with(path + '/'); };
         const auto about = std::ranges::find_if(import.presets, isAbout) - import.presets.begin();
         findings.push_back({finding.isLost ? Finding::Kind::Warning : Finding::Kind::Note,
-                            QString::fromStdString(finding.path), QString::fromStdString(finding.what)});
+                            QString::fromStdString(finding.path), ToolText(finding.what)});
         if (static_cast<std::size_t>(about) < presets.size())
             findings.back().item = presets[static_cast<std::size_t>(about)];
     }

@@ -1,6 +1,7 @@
 #include "BitrateWords.h"
 
 #include "apps/host/Units.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include "IVXCodecs.h"
 
@@ -15,7 +16,7 @@ namespace
 
 QString GradeName(int grade)
 {
-    return QString::fromStdString(IVXCodecs::QualityLevelName(static_cast<IVXCodecs::QualityLevel>(grade)));
+    return GradeText(IVXCodecs::QualityLevelName(static_cast<IVXCodecs::QualityLevel>(grade)));
 }
 
 /// Makes the sentences.
@@ -68,7 +69,7 @@ QString GradeText(const GradeMark& mark) { return Words::Marks(mark); }
 
 QString BitrateShown(int bitrate)
 {
-    return bitrate < 1 ? QStringLiteral("–") : QString::fromStdString(Tool::BitrateText(bitrate));
+    return bitrate < 1 ? QStringLiteral("–") : ToolText(Tool::BitrateText(bitrate));
 }
 
 QString BitrateDescription(const BitrateFacts& facts) { return Words::Describe(facts); }

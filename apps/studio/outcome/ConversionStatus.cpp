@@ -2,6 +2,7 @@
 
 #include "ConversionTexts.h"
 #include "apps/studio/ShownText.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include <QAccessible>
 #include <QDesktopServices>
@@ -135,14 +136,14 @@ void ConversionStatus::ShowEnd(const ConversionEnd& end, const QStringList& chan
     {
     case ConversionEnd::Kind::Done:
         Say(tr("%1 is made: %2 in %3")
-                .arg(NameOf(m_path), ShownText(Tool::SizeOfBytes(double(end.result.bytes))),
+                .arg(NameOf(m_path), ToolText(Tool::SizeOfBytes(double(end.result.bytes))),
                      ConversionTexts::Duration(end.result.seconds)),
             DetailsOf(end.result, changes), {m_folder});
         return m_folder->setFocus();
     case ConversionEnd::Kind::Cancelled:
         return Say(tr("Cancelled: nothing is left of %1").arg(NameOf(m_path)), {}, {});
     default:
-        return ShowError(ShownText(end.error));
+        return ShowError(ToolText(end.error));
     }
 }
 

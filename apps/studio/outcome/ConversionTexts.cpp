@@ -1,5 +1,5 @@
 #include "ConversionTexts.h"
-#include "apps/studio/ShownText.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include <QLatin1Char>
 #include <QStringList>
@@ -33,19 +33,19 @@ QString ConversionTexts::Progress(const Tool::ConversionProgress& progress)
         parts << tr("%1× speed").arg(progress.speed, 0, 'g', 3);
     if (progress.Left() >= 0)
         parts << tr("%1 left").arg(Duration(progress.Left()));
-    parts << ShownText(Tool::SizeOfBytes(double(progress.bytes)));
+    parts << ToolText(Tool::SizeOfBytes(double(progress.bytes)));
     return parts.join(QStringLiteral(", "));
 }
 
 QString ConversionTexts::LikelySize(const Tool::SizeRange& size)
 {
-    return tr("about %1").arg(ShownText(Tool::SizeOfBytes(size.likely)));
+    return tr("about %1").arg(ToolText(Tool::SizeOfBytes(size.likely)));
 }
 
 QString ConversionTexts::SizeSpan(const Tool::SizeRange& size)
 {
-    const auto least = ShownText(Tool::SizeOfBytes(size.least));
-    const auto most = ShownText(Tool::SizeOfBytes(size.most));
+    const auto least = ToolText(Tool::SizeOfBytes(size.least));
+    const auto most = ToolText(Tool::SizeOfBytes(size.most));
     return least == most ? least : tr("%1 to %2", "sizes of files").arg(least, most);
 }
 

@@ -5,6 +5,7 @@
 #include "OutputName.h"
 #include "apps/host/Failure.h"
 #include "apps/studio/ShownText.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include "IVXFormatParameter.h"
 #include "IVXFormatPreset.h"
@@ -31,7 +32,7 @@ QStringList LinesOf(const std::vector<std::string>& texts)
 {
     QStringList lines;
     for (const auto& text : texts)
-        lines << ShownText(text);
+        lines << ToolText(text);
     return lines;
 }
 
@@ -126,7 +127,7 @@ QString ConvertPanel::Reason() const
         return m_offer.source.isEmpty() ? tr("There is no source to convert.")
                                         : tr("Choose a preset to see what becomes of this file.");
     if (!m_offer.outcome->obstacle.empty())
-        return tr("Cannot be converted here: %1").arg(ShownText(m_offer.outcome->obstacle));
+        return tr("Cannot be converted here: %1").arg(ToolText(m_offer.outcome->obstacle));
     return {};
 }
 
@@ -195,7 +196,7 @@ void ConvertPanel::Start(const QString& path, bool overwrites)
     }
     catch (const Tool::Failure& failure)
     {
-        return m_status->ShowError(ShownText(failure.what()));
+        return m_status->ShowError(ToolText(failure.what()));
     }
     UpdateButton();
     m_status->ShowStart(path);

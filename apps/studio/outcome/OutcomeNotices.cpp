@@ -1,7 +1,7 @@
 #include "OutcomeNotices.h"
 
 #include "Outcome.h"
-#include "apps/studio/ShownText.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include <QCoreApplication>
 
@@ -29,7 +29,7 @@ public:
     }
 
 private:
-    static QString Escaped(const std::string& text) { return ShownText(text).toHtmlEscaped(); }
+    static QString Escaped(const std::string& text) { return ToolText(text).toHtmlEscaped(); }
 
     static QString Entry(const QString& title, const std::string& text, const QString& remedies)
     {
@@ -41,7 +41,7 @@ private:
     {
         QString items;
         for (const auto& remedy : warning.remedies)
-            if (!offered.contains(ShownText(remedy.text)))
+            if (!offered.contains(ToolText(remedy.text)))
                 items += QStringLiteral("<li>%1</li>").arg(Escaped(remedy.text));
         return items.isEmpty() ? QString() : QStringLiteral("<ul style=\"margin:0\">%1</ul>").arg(items);
     }

@@ -7,8 +7,8 @@
 #include "OutcomeView.h"
 #include "RemedyButtons.h"
 #include "SourceBar.h"
-#include "apps/studio/ShownText.h"
 #include "apps/studio/document/StudioDocument.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include "IVXFormatParameter.h"
 #include "IVXFormatPreset.h"
@@ -151,7 +151,7 @@ bool OutcomePane::IsConverting() const { return m_convert->IsConverting(); }
 void OutcomePane::TakeSource(const QString& path, const VXMediaFile& media)
 {
     if (!media.parameter)
-        return m_source->ShowError(ShownText(media.error));
+        return m_source->ShowError(ToolText(media.error));
     m_path = path;
     m_media = media;
     m_source->ShowSource(path);

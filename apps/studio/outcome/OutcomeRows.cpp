@@ -3,6 +3,7 @@
 #include "ConversionTexts.h"
 #include "Outcome.h"
 #include "apps/studio/ShownText.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include "IVXCodecParameter.h"
 #include "IVXFormatParameter.h"
@@ -93,7 +94,7 @@ private:
         const auto length = m_media.duration > 0 ? ConversionTexts::Duration(m_media.duration) : QString();
         Add(tr("Length"), length, m_outcome ? length : QString(), {});
         const bool isPredicted = m_outcome && m_outcome->size;
-        Add(tr("Size of the file"), ShownText(Tool::SizeOfBytes(double(m_media.size))),
+        Add(tr("Size of the file"), ToolText(Tool::SizeOfBytes(double(m_media.size))),
             isPredicted ? ConversionTexts::LikelySize(m_outcome->size->Total()) : QString(),
             isPredicted ? tr("predicted from the bitrates: %1")
                               .arg(ConversionTexts::SizeSpan(m_outcome->size->Total()))
@@ -124,12 +125,16 @@ private:
 
     static QString TextOf(const Tool::MatchRow& row, const Tool::Stream& stream)
     {
-        return stream.parameter ? ShownText(row.text(*stream.parameter)) : QString();
+        return stream.parameter ? ToolText(row.text(*stream.parameter)) : QString();
     }
 
     static QString Why(const Sides& sides, Tool::MatchValue value)
     {
-        return sides.reasons ? ShownText(Tool::ReasonText(*sides.reasons, value)) : QString();
+        QStringList steps;
+        if (sides.reasons && sides.reasons->contains(value))
+            for (const auto& step : sides.reasons->at(value))
+                steps << ToolText(step.text);
+        return steps.join(QStringLiteral(", "));
     }
 
     const VXMediaFile& m_media;

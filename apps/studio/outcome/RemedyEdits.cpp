@@ -2,7 +2,7 @@
 
 #include "Outcome.h"
 
-#include "apps/studio/ShownText.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include "IVXCodecParameter.h"
 #include "IVXCodecPreset.h"
@@ -124,7 +124,7 @@ std::vector<RemedyEdit> RemedyEditsOf(const Outcome& outcome, const IVXFormatPre
     {
         const auto change = [remedy = remedy.remedy, bitrate](IVXFormatPreset& changed)
         { Apply(remedy, bitrate, changed); };
-        if (RemedyEdit edit{ShownText(remedy.text), change}; Helps(edit, outcome, preset))
+        if (RemedyEdit edit{ToolText(remedy.text), change}; Helps(edit, outcome, preset))
             edits.push_back(std::move(edit));
     }
     return edits;

@@ -9,6 +9,7 @@
 #include "apps/host/Quantities.h"
 #include "apps/host/Units.h"
 #include "apps/studio/ShownText.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include "IVXCodecPreset.h"
 #include "IVXRational.h"
@@ -46,7 +47,7 @@ QStringList ShapeTexts()
 {
     QStringList texts;
     for (const auto shape : kShapes)
-        texts.append(ShownText(IVXSampleAspectPreset::AspectPresetName(shape)));
+        texts.append(ToolText(IVXSampleAspectPreset::AspectPresetName(shape)));
     return texts;
 }
 

@@ -1,6 +1,7 @@
 #include "BitrateBox.h"
 
 #include "apps/host/Quantities.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include <QLocale>
 #include <QRegularExpression>
@@ -22,8 +23,7 @@ QString Scaled(int value, int unit, const char* name)
     QLocale locale;
     locale.setNumberOptions(QLocale::OmitGroupSeparator);
     const double scaled = static_cast<double>(value) / unit;
-    return locale.toString(scaled, 'f', QLocale::FloatingPointShortest) + QLatin1Char(' ') +
-           QLatin1String(name);
+    return locale.toString(scaled, 'f', QLocale::FloatingPointShortest) + QLatin1Char(' ') + UnitText(name);
 }
 
 } // namespace
@@ -63,7 +63,7 @@ QValidator::State BitrateBox::validate(QString& text, int&) const
     if (value && *value >= minimum() && *value <= maximum())
         return QValidator::Acceptable;
     static const QRegularExpression s_begun(
-        QStringLiteral("^\\s*\\d*[.,]?\\d*\\s*[km]?(b|b/|b/s|bp|bps)?\\s*$"),
+        QStringLiteral("^\\s*\\d*[.,]?\\d*\\s*[km]?(b|bi|bit|bit/|b/|(bit|b)/s|bp|bps)?\\s*$"),
         QRegularExpression::CaseInsensitiveOption);
     const bool isBegun =
         s_begun.match(text).hasMatch() || NoneText().startsWith(text.trimmed(), Qt::CaseInsensitive);
@@ -85,7 +85,7 @@ std::optional<int> BitrateBox::ValueOf(const QString& text) const
     const bool isBare = !typed.isEmpty() && (typed.back().isDigit() || typed.endsWith(QLatin1Char('.')));
     if (isBare)
         typed += m_unit == Unit::Mega ? QLatin1String("M") : QLatin1String("k");
-    return Tool::BitrateOf(typed.toStdString());
+    return Tool::BitrateOf(TypedText(typed));
 }
 
 } // namespace Vexlor::Studio

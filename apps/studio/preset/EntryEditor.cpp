@@ -9,7 +9,7 @@
 #include "ValueEntries.h"
 
 #include "apps/host/Failure.h"
-#include "apps/studio/ShownText.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include "IVXCodecPreset.h"
 
@@ -114,7 +114,7 @@ void EntryEditor::Add()
     }
     catch (const Tool::Failure& failure)
     {
-        m_message->Say(ShownText(failure.what()));
+        m_message->Say(ToolText(failure.what()));
         return;
     }
     if (index)

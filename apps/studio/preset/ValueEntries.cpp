@@ -2,7 +2,7 @@
 
 #include "QualityBitrate.h"
 
-#include "apps/studio/ShownText.h"
+#include "apps/studio/texts/ToolText.h"
 
 #include "IVXCodecPreset.h"
 #include "IVXCodecQualityPreset.h"
@@ -25,10 +25,10 @@ QStringList ValueEntries::Texts() const
     // The tools' list leaves out the bitrate of one's own.
     if (m_family.kind == Tool::PresetListKind::Quality)
         for (const auto& quality : m_codec.CodecQualityPresets())
-            texts.append(ShownText(quality->FormatQuality()));
+            texts.append(GradeText(quality->FormatQuality()));
     else
         for (const auto& text : m_list->Texts())
-            texts.append(ShownText(text));
+            texts.append(ToolText(text));
     return texts;
 }
 
@@ -54,7 +54,11 @@ void ValueEntries::Reset()
     Choose(static_cast<int>(std::max<qsizetype>(kept, 0)));
 }
 
-std::optional<int> ValueEntries::Add(const QString& text) { return m_list->FindValue(text.toStdString()); }
+std::optional<int> ValueEntries::Add(const QString& text)
+{
+    const auto shown = Texts().indexOf(text);
+    return shown >= 0 ? std::optional(static_cast<int>(shown)) : m_list->FindValue(TypedText(text));
+}
 
 bool ValueEntries::OffersNothing() const
 {

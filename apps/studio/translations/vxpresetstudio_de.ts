@@ -690,6 +690,10 @@
         <source>%1; %2 left out, %3 became something like it.</source>
         <translation>%1; %2 ausgelassen, %3 in Ähnliches übertragen.</translation>
     </message>
+    <message>
+        <source>%1; expected %2</source>
+        <translation>%1; erwartet: %2</translation>
+    </message>
 </context>
 <context>
     <name>Vexlor::Studio::FindingsModel</name>
@@ -734,6 +738,33 @@
     <message>
         <source>A category cannot be moved into itself.</source>
         <translation>Eine Kategorie lässt sich nicht in sich selbst verschieben.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::GradeText</name>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Low</source>
+        <translation>Niedrig</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Best</source>
+        <translation>Beste</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Eigene</translation>
     </message>
 </context>
 <context>
@@ -1426,6 +1457,1257 @@
     </message>
 </context>
 <context>
+    <name>Vexlor::Studio::ToolText</name>
+    <message>
+        <source>the document is empty</source>
+        <translation>das Dokument ist leer</translation>
+    </message>
+    <message>
+        <source>more text behind the end of the document</source>
+        <translation>weiterer Text hinter dem Ende des Dokuments</translation>
+    </message>
+    <message>
+        <source>no JSON value</source>
+        <translation>kein JSON-Wert</translation>
+    </message>
+    <message>
+        <source>missing member name</source>
+        <translation>der Name eines Elements fehlt</translation>
+    </message>
+    <message>
+        <source>missing colon behind a member name</source>
+        <translation>der Doppelpunkt hinter einem Namen fehlt</translation>
+    </message>
+    <message>
+        <source>missing comma or closing brace</source>
+        <translation>ein Komma oder eine schließende geschweifte Klammer fehlt</translation>
+    </message>
+    <message>
+        <source>missing comma or closing bracket</source>
+        <translation>ein Komma oder eine schließende eckige Klammer fehlt</translation>
+    </message>
+    <message>
+        <source>\u without four hexadecimal digits</source>
+        <translation>\u ohne vier hexadezimale Ziffern</translation>
+    </message>
+    <message>
+        <source>unpaired surrogate</source>
+        <translation>ungepaartes Surrogat</translation>
+    </message>
+    <message>
+        <source>unknown escape sequence</source>
+        <translation>unbekannte Escape-Folge</translation>
+    </message>
+    <message>
+        <source>missing closing quote</source>
+        <translation>das schließende Anführungszeichen fehlt</translation>
+    </message>
+    <message>
+        <source>not valid UTF-8</source>
+        <translation>kein gültiges UTF-8</translation>
+    </message>
+    <message>
+        <source>number too large</source>
+        <translation>die Zahl ist zu groß</translation>
+    </message>
+    <message>
+        <source>missing digits behind the decimal point</source>
+        <translation>hinter dem Dezimalpunkt fehlen Ziffern</translation>
+    </message>
+    <message>
+        <source>missing digits of the exponent</source>
+        <translation>die Ziffern des Exponenten fehlen</translation>
+    </message>
+    <message>
+        <source>not valid JSON</source>
+        <translation>kein gültiges JSON</translation>
+    </message>
+    <message>
+        <source>nested deeper than %1 levels</source>
+        <translation>tiefer als %1 Ebenen verschachtelt</translation>
+    </message>
+    <message>
+        <source>control character in a string</source>
+        <translation>Steuerzeichen in einem Text</translation>
+    </message>
+    <message>
+        <source>unexpected end of the document</source>
+        <translation>unerwartetes Ende des Dokuments</translation>
+    </message>
+    <message>
+        <source>a zero byte, which no JSON text has</source>
+        <translation>ein Nullbyte, das kein JSON-Text hat</translation>
+    </message>
+    <message>
+        <source>one of %1</source>
+        <translation>eines von %1</translation>
+    </message>
+    <message>
+        <source>such as %1</source>
+        <translation>etwa %1</translation>
+    </message>
+    <message>
+        <source>is %1</source>
+        <translation>ist %1</translation>
+    </message>
+    <message>
+        <source>is an object</source>
+        <translation>ist ein Objekt</translation>
+    </message>
+    <message>
+        <source>is a list</source>
+        <translation>ist eine Liste</translation>
+    </message>
+    <message>
+        <source>is a text</source>
+        <translation>ist ein Text</translation>
+    </message>
+    <message>
+        <source>is a longer number</source>
+        <translation>ist eine längere Zahl</translation>
+    </message>
+    <message>
+        <source>is the text %1</source>
+        <translation>ist der Text %1</translation>
+    </message>
+    <message>
+        <source>an object</source>
+        <translation>ein Objekt</translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation>ein Text</translation>
+    </message>
+    <message>
+        <source>a list of objects</source>
+        <translation>eine Liste von Objekten</translation>
+    </message>
+    <message>
+        <source>an integer of 64 bits</source>
+        <translation>eine ganze Zahl mit 64 Bit</translation>
+    </message>
+    <message>
+        <source>an integer of 32 bits</source>
+        <translation>eine ganze Zahl mit 32 Bit</translation>
+    </message>
+    <message>
+        <source>an integer from %1 to %2</source>
+        <translation>eine ganze Zahl von %1 bis %2</translation>
+    </message>
+    <message>
+        <source>nobody reads this member</source>
+        <translation>niemand liest dieses Element</translation>
+    </message>
+    <message>
+        <source>stands here again; only the first is read</source>
+        <translation>steht hier noch einmal; nur das erste wird gelesen</translation>
+    </message>
+    <message>
+        <source>is %1, but the list is empty</source>
+        <translation>ist %1, aber die Liste ist leer</translation>
+    </message>
+    <message>
+        <source>0 or -1</source>
+        <translation>0 oder -1</translation>
+    </message>
+    <message>
+        <source>is %1, but the list has %2 entry</source>
+        <translation>ist %1, aber die Liste hat %2 Eintrag</translation>
+    </message>
+    <message>
+        <source>is %1, but the list has %2 entries</source>
+        <translation>ist %1, aber die Liste hat %2 Einträge</translation>
+    </message>
+    <message>
+        <source>-1 to %1</source>
+        <translation>-1 bis %1</translation>
+    </message>
+    <message>
+        <source>no codec %1</source>
+        <translation>kein Codec %1</translation>
+    </message>
+    <message>
+        <source>no codec of this kind</source>
+        <translation>kein Codec dieser Art</translation>
+    </message>
+    <message>
+        <source>a number that &quot;vxpresets codecs&quot; lists</source>
+        <translation>eine Zahl, die „vxpresets codecs“ nennt</translation>
+    </message>
+    <message>
+        <source>%1 does not take %2 here</source>
+        <translation>%1 nimmt hier %2 nicht auf</translation>
+    </message>
+    <message>
+        <source>%1 does not take %2</source>
+        <translation>%1 nimmt %2 nicht an</translation>
+    </message>
+    <message>
+        <source>%1 does not take %2; expected %3</source>
+        <translation>%1 nimmt %2 nicht an; erwartet: %3</translation>
+    </message>
+    <message>
+        <source>nobody reads the name of a codec</source>
+        <translation>niemand liest den Namen eines Codecs</translation>
+    </message>
+    <message>
+        <source>is Custom, whose bitrate no document holds</source>
+        <translation>ist „Eigene“, deren Bitrate in kein Dokument passt</translation>
+    </message>
+    <message>
+        <source>0 to 4, and bounds</source>
+        <translation>0 bis 4, und Grenzen</translation>
+    </message>
+    <message>
+        <source>a ratio without a type is square</source>
+        <translation>ein Verhältnis ohne Typ ist quadratisch</translation>
+    </message>
+    <message>
+        <source>type 13 beside num and den</source>
+        <translation>Typ 13 neben num und den</translation>
+    </message>
+    <message>
+        <source>type 13 without a ratio</source>
+        <translation>Typ 13 ohne Verhältnis</translation>
+    </message>
+    <message>
+        <source>num and den above 0</source>
+        <translation>num und den über 0</translation>
+    </message>
+    <message>
+        <source>%1 is Auto</source>
+        <translation>%1 ist Auto</translation>
+    </message>
+    <message>
+        <source>both sides above 0, or both 0</source>
+        <translation>beide Seiten über 0, oder beide 0</translation>
+    </message>
+    <message>
+        <source>%1 frames per second</source>
+        <translation>%1 Bilder je Sekunde</translation>
+    </message>
+    <message>
+        <source>num and den above 0, or num 0</source>
+        <translation>num und den über 0, oder num 0</translation>
+    </message>
+    <message>
+        <source>a rate above 0, or 0</source>
+        <translation>eine Rate über 0, oder 0</translation>
+    </message>
+    <message>
+        <source>the channel layout %1</source>
+        <translation>die Kanalanordnung %1</translation>
+    </message>
+    <message>
+        <source>profile %1</source>
+        <translation>Profil %1</translation>
+    </message>
+    <message>
+        <source>level %1</source>
+        <translation>Level %1</translation>
+    </message>
+    <message>
+        <source>none, for the codec has no pictures</source>
+        <translation>keine, denn der Codec hat keine Bilder</translation>
+    </message>
+    <message>
+        <source>none, for the codec has no sound</source>
+        <translation>keine, denn der Codec hat keinen Ton</translation>
+    </message>
+    <message>
+        <source>no container %1 can be written here</source>
+        <translation>kein Container %1 lässt sich hier schreiben</translation>
+    </message>
+    <message>
+        <source>formatName is absent</source>
+        <translation>formatName fehlt</translation>
+    </message>
+    <message>
+        <source>no icon %1 in the artwork file</source>
+        <translation>kein Symbol %1 in der Symboldatei</translation>
+    </message>
+    <message>
+        <source>bounds nothing</source>
+        <translation>begrenzt nichts</translation>
+    </message>
+    <message>
+        <source>maxWidth and maxHeight above 0</source>
+        <translation>maxWidth und maxHeight über 0</translation>
+    </message>
+    <message>
+        <source>0 is a bound</source>
+        <translation>0 ist eine Grenze</translation>
+    </message>
+    <message>
+        <source>-1 for none, or above 0</source>
+        <translation>-1 für keine, oder über 0</translation>
+    </message>
+    <message>
+        <source>is %1, and %2 is %3</source>
+        <translation>ist %1, und %2 ist %3</translation>
+    </message>
+    <message>
+        <source>has the name of number %1, too</source>
+        <translation>heißt wie Nummer %1</translation>
+    </message>
+    <message>
+        <source>a name of its own</source>
+        <translation>ein eigener Name</translation>
+    </message>
+    <message>
+        <source>larger than 4 MiB</source>
+        <translation>größer als 4 MiB</translation>
+    </message>
+    <message>
+        <source>is neither JSON, as HandBrake exports presets, nor an encoding target of GStreamer</source>
+        <translation>ist weder JSON, wie HandBrake Vorgaben exportiert, noch ein Kodierziel von GStreamer</translation>
+    </message>
+    <message>
+        <source>holds no preset that could be ours</source>
+        <translation>enthält keine Vorgabe, die hier eine sein könnte</translation>
+    </message>
+    <message>
+        <source>holds no preset that could be ours; %1</source>
+        <translation>enthält keine Vorgabe, die hier eine sein könnte; %1</translation>
+    </message>
+    <message>
+        <source>folders lie deeper than %1 in each other</source>
+        <translation>Ordner liegen tiefer als %1 ineinander</translation>
+    </message>
+    <message>
+        <source>more than %1 presets</source>
+        <translation>mehr als %1 Vorgaben</translation>
+    </message>
+    <message>
+        <source>has no &quot;PresetList&quot;, as files that HandBrake exports have</source>
+        <translation>hat kein „PresetList“, wie es Dateien haben, die HandBrake exportiert</translation>
+    </message>
+    <message>
+        <source>has no [%1]</source>
+        <translation>hat kein [%1]</translation>
+    </message>
+    <message>
+        <source>is no preset</source>
+        <translation>ist keine Vorgabe</translation>
+    </message>
+    <message>
+        <source>a name of %1 bytes is cut</source>
+        <translation>ein Name von %1 Bytes wird gekürzt</translation>
+    </message>
+    <message>
+        <source>%1 is no key=value</source>
+        <translation>%1 ist kein Schlüssel=Wert</translation>
+    </message>
+    <message>
+        <source>a value stands in front of the first group</source>
+        <translation>ein Wert steht vor der ersten Gruppe</translation>
+    </message>
+    <message>
+        <source>a group&apos;s name ends in ]</source>
+        <translation>der Name einer Gruppe endet mit ]</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 bei %2</translation>
+    </message>
+    <message>
+        <source>expected %1</source>
+        <translation>erwartet: %1</translation>
+    </message>
+    <message>
+        <source>expected a word</source>
+        <translation>ein Wort erwartet</translation>
+    </message>
+    <message>
+        <source>a range has two ends</source>
+        <translation>ein Bereich hat zwei Enden</translation>
+    </message>
+    <message>
+        <source>expected ; or the end</source>
+        <translation>; oder das Ende erwartet</translation>
+    </message>
+    <message>
+        <source>a preset here has no filters and crops nothing</source>
+        <translation>eine Vorgabe hat hier keine Filter und schneidet nichts ab</translation>
+    </message>
+    <message>
+        <source>a setting of the encoder, of which a preset here has none</source>
+        <translation>eine Einstellung des Encoders, von denen eine Vorgabe hier keine hat</translation>
+    </message>
+    <message>
+        <source>a setting of the container, of which a preset here has none</source>
+        <translation>eine Einstellung des Containers, von denen eine Vorgabe hier keine hat</translation>
+    </message>
+    <message>
+        <source>which tracks of the source are taken is no matter of a preset here</source>
+        <translation>welche Spuren der Quelle genommen werden, bestimmt hier keine Vorgabe</translation>
+    </message>
+    <message>
+        <source>a preset here has no subtitles</source>
+        <translation>eine Vorgabe hat hier keine Untertitel</translation>
+    </message>
+    <message>
+        <source>nothing is passed through here</source>
+        <translation>hier wird nichts durchgereicht</translation>
+    </message>
+    <message>
+        <source>an output has one sound track</source>
+        <translation>eine Ausgabe hat eine Tonspur</translation>
+    </message>
+    <message>
+        <source>an output has one picture and one sound track</source>
+        <translation>eine Ausgabe hat eine Bild- und eine Tonspur</translation>
+    </message>
+    <message>
+        <source>a preset here does not change how loud the sound is</source>
+        <translation>eine Vorgabe ändert hier die Lautstärke nicht</translation>
+    </message>
+    <message>
+        <source>samples are square, or have the chosen shape</source>
+        <translation>Pixel sind quadratisch oder haben die gewählte Form</translation>
+    </message>
+    <message>
+        <source>sides are what the codec takes</source>
+        <translation>die Seiten sind, was der Codec annimmt</translation>
+    </message>
+    <message>
+        <source>pictures are made as large as the source and the bounds say</source>
+        <translation>Bilder werden so groß, wie es die Quelle und die Grenzen vorgeben</translation>
+    </message>
+    <message>
+        <source>bounds are not reached by scaling up</source>
+        <translation>Grenzen werden nicht durch Vergrößern erreicht</translation>
+    </message>
+    <message>
+        <source>colours are the source&apos;s</source>
+        <translation>die Farben sind die der Quelle</translation>
+    </message>
+    <message>
+        <source>decoding is no matter of a preset here</source>
+        <translation>das Dekodieren bestimmt hier keine Vorgabe</translation>
+    </message>
+    <message>
+        <source>a preset here has no chapters</source>
+        <translation>eine Vorgabe hat hier keine Kapitel</translation>
+    </message>
+    <message>
+        <source>a preset here has no metadata</source>
+        <translation>eine Vorgabe hat hier keine Metadaten</translation>
+    </message>
+    <message>
+        <source>nothing is known of it</source>
+        <translation>darüber ist nichts bekannt</translation>
+    </message>
+    <message>
+        <source>samples are made square, with the shape of the picture kept</source>
+        <translation>Pixel werden quadratisch, die Form des Bildes bleibt</translation>
+    </message>
+    <message>
+        <source>the preset names no container</source>
+        <translation>die Vorgabe nennt keinen Container</translation>
+    </message>
+    <message>
+        <source>no container here is %1</source>
+        <translation>kein Container heißt hier %1</translation>
+    </message>
+    <message>
+        <source>no codec here is %1</source>
+        <translation>kein Codec heißt hier %1</translation>
+    </message>
+    <message>
+        <source>%1 becomes the codec; which encoder makes it is not chosen here</source>
+        <translation>%1 wird zum Codec; welcher Encoder ihn erzeugt, wird hier nicht gewählt</translation>
+    </message>
+    <message>
+        <source>the preset names no video encoder</source>
+        <translation>die Vorgabe nennt keinen Videoencoder</translation>
+    </message>
+    <message>
+        <source>%1 frames per second at most becomes that rate</source>
+        <translation>höchstens %1 Bilder je Sekunde wird zu dieser Rate</translation>
+    </message>
+    <message>
+        <source>neither an average bitrate nor a constant quality</source>
+        <translation>weder eine mittlere Bitrate noch eine konstante Qualität</translation>
+    </message>
+    <message>
+        <source>the encoder has no scale of quality that is known here</source>
+        <translation>der Encoder hat keine Qualitätsskala, die hier bekannt ist</translation>
+    </message>
+    <message>
+        <source>a constant quality of %1 becomes the grade %2</source>
+        <translation>eine konstante Qualität von %1 wird zur Stufe %2</translation>
+    </message>
+    <message>
+        <source>sound has no quality scale of the encoder here</source>
+        <translation>Ton hat hier keine Qualitätsskala des Encoders</translation>
+    </message>
+    <message>
+        <source>nothing is passed through here: the sound is encoded with %1</source>
+        <translation>hier wird nichts durchgereicht: der Ton wird mit %1 kodiert</translation>
+    </message>
+    <message>
+        <source>no channel layout here is %1</source>
+        <translation>keine Kanalanordnung heißt hier %1</translation>
+    </message>
+    <message>
+        <source>%1 becomes plain %2</source>
+        <translation>%1 wird zu einfachem %2</translation>
+    </message>
+    <message>
+        <source>the first of %1 alternatives is taken</source>
+        <translation>die erste von %1 Möglichkeiten wird genommen</translation>
+    </message>
+    <message>
+        <source>the first of %1 values is taken</source>
+        <translation>der erste von %1 Werten wird genommen</translation>
+    </message>
+    <message>
+        <source>the first of several sizes is taken</source>
+        <translation>die erste von mehreren Größen wird genommen</translation>
+    </message>
+    <message>
+        <source>the profile names no format</source>
+        <translation>das Profil nennt kein Format</translation>
+    </message>
+    <message>
+        <source>the stream names no format</source>
+        <translation>die Spur nennt kein Format</translation>
+    </message>
+    <message>
+        <source>nothing here is %1</source>
+        <translation>nichts heißt hier %1</translation>
+    </message>
+    <message>
+        <source>a bound of one side bounds nothing here</source>
+        <translation>eine Grenze einer Seite begrenzt hier nichts</translation>
+    </message>
+    <message>
+        <source>the range is empty</source>
+        <translation>der Bereich ist leer</translation>
+    </message>
+    <message>
+        <source>a range has no place here; the source&apos;s value is taken</source>
+        <translation>ein Bereich passt hier nicht; der Wert der Quelle wird genommen</translation>
+    </message>
+    <message>
+        <source>a document has one language</source>
+        <translation>ein Dokument hat eine Sprache</translation>
+    </message>
+    <message>
+        <source>a document has no kinds of categories</source>
+        <translation>ein Dokument hat keine Arten von Kategorien</translation>
+    </message>
+    <message>
+        <source>belongs to no profile</source>
+        <translation>gehört zu keinem Profil</translation>
+    </message>
+    <message>
+        <source>%1 is none of %2</source>
+        <translation>%1 ist keines von %2</translation>
+    </message>
+    <message>
+        <source>%1 is not %2</source>
+        <translation>%1 ist nicht %2</translation>
+    </message>
+    <message>
+        <source>%1 is not UTF-8</source>
+        <translation>%1 ist nicht UTF-8</translation>
+    </message>
+    <message>
+        <source>a number of pixels or none</source>
+        <translation>eine Anzahl von Pixeln oder „none“</translation>
+    </message>
+    <message>
+        <source>a size such as 1280x720, or none</source>
+        <translation>eine Größe wie 1280x720 oder „none“</translation>
+    </message>
+    <message>
+        <source>a bitrate such as 8M or 192k, or none</source>
+        <translation>eine Bitrate wie 8M oder 192k oder „none“</translation>
+    </message>
+    <message>
+        <source>%1 is no ratio such as 4:3 and none of %2</source>
+        <translation>%1 ist kein Verhältnis wie 4:3 und keines von %2</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Eigene</translation>
+    </message>
+    <message>
+        <source>variable</source>
+        <translation>variabel</translation>
+    </message>
+    <message>
+        <source>constant</source>
+        <translation>konstant</translation>
+    </message>
+    <message>
+        <source>Stereo</source>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <source>Quad</source>
+        <translation>Quadro</translation>
+    </message>
+    <message>
+        <source>%1 (back)</source>
+        <translation>%1 (hinten)</translation>
+    </message>
+    <message>
+        <source>%1 (wide)</source>
+        <translation>%1 (weit)</translation>
+    </message>
+    <message>
+        <source>%1 channel</source>
+        <translation>%1 Kanal</translation>
+    </message>
+    <message>
+        <source>%1 channels</source>
+        <translation>%1 Kanäle</translation>
+    </message>
+    <message>
+        <source>%1-bit</source>
+        <translation>%1 Bit</translation>
+    </message>
+    <message>
+        <source>%1-bit float</source>
+        <translation>%1 Bit Gleitkomma</translation>
+    </message>
+    <message>
+        <source>%1 planar</source>
+        <translation>%1 planar</translation>
+    </message>
+    <message>
+        <source>%1 full range</source>
+        <translation>%1, voller Wertebereich</translation>
+    </message>
+    <message>
+        <source>%1 with alpha</source>
+        <translation>%1 mit Alpha</translation>
+    </message>
+    <message>
+        <source>%1 with alpha first</source>
+        <translation>%1 mit Alpha zuerst</translation>
+    </message>
+    <message>
+        <source>%1 semi-planar</source>
+        <translation>%1 semiplanar</translation>
+    </message>
+    <message>
+        <source>%1 semi-planar, V first</source>
+        <translation>%1 semiplanar, V zuerst</translation>
+    </message>
+    <message>
+        <source>%1 packed, Y first</source>
+        <translation>%1 gepackt, Y zuerst</translation>
+    </message>
+    <message>
+        <source>%1 packed, U first</source>
+        <translation>%1 gepackt, U zuerst</translation>
+    </message>
+    <message>
+        <source>Gray</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Gray %1</source>
+        <translation>Grau %1</translation>
+    </message>
+    <message>
+        <source>Black and white</source>
+        <translation>Schwarzweiß</translation>
+    </message>
+    <message>
+        <source>Black and white, inverted</source>
+        <translation>Schwarzweiß, umgekehrt</translation>
+    </message>
+    <message>
+        <source>%1, padded</source>
+        <translation>%1, aufgefüllt</translation>
+    </message>
+    <message>
+        <source>RGB planar %1</source>
+        <translation>RGB planar %1</translation>
+    </message>
+    <message>
+        <source>Palette of 256 colors</source>
+        <translation>Palette mit 256 Farben</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>at least %1</source>
+        <translation>mindestens %1</translation>
+    </message>
+    <message>
+        <source>at most %1</source>
+        <translation>höchstens %1</translation>
+    </message>
+    <message>
+        <source>chosen in the preset</source>
+        <translation>in der Vorgabe gewählt</translation>
+    </message>
+    <message>
+        <source>chosen in the preset (%1)</source>
+        <translation>in der Vorgabe gewählt (%1)</translation>
+    </message>
+    <message>
+        <source>taken from the source</source>
+        <translation>aus der Quelle</translation>
+    </message>
+    <message>
+        <source>taken from the source as displayed</source>
+        <translation>aus der Quelle, wie dargestellt</translation>
+    </message>
+    <message>
+        <source>first of the list</source>
+        <translation>das Erste der Liste</translation>
+    </message>
+    <message>
+        <source>first of the list with an encoder here</source>
+        <translation>der Erste der Liste, für den es hier einen Encoder gibt</translation>
+    </message>
+    <message>
+        <source>first of the list: none has an encoder here</source>
+        <translation>der Erste der Liste: für keinen gibt es hier einen Encoder</translation>
+    </message>
+    <message>
+        <source>left to the encoder</source>
+        <translation>dem Encoder überlassen</translation>
+    </message>
+    <message>
+        <source>left to the container</source>
+        <translation>dem Container überlassen</translation>
+    </message>
+    <message>
+        <source>the codec&apos;s usual as none is known</source>
+        <translation>das Übliche des Codecs, da nichts bekannt ist</translation>
+    </message>
+    <message>
+        <source>snapped by the codec</source>
+        <translation>vom Codec angepasst</translation>
+    </message>
+    <message>
+        <source>snapped by the codec from %1</source>
+        <translation>vom Codec angepasst, statt %1</translation>
+    </message>
+    <message>
+        <source>snapped to that of the profile %1</source>
+        <translation>an das Profil %1 angepasst</translation>
+    </message>
+    <message>
+        <source>snapped to that of the profile %1 from %2</source>
+        <translation>an das Profil %1 angepasst, statt %2</translation>
+    </message>
+    <message>
+        <source>set by the container %1</source>
+        <translation>vom Container %1 bestimmt</translation>
+    </message>
+    <message>
+        <source>set by the container %1 from %2</source>
+        <translation>vom Container %1 bestimmt, statt %2</translation>
+    </message>
+    <message>
+        <source>bounded by the preset (%1) from %2</source>
+        <translation>von der Vorgabe begrenzt (%1), statt %2</translation>
+    </message>
+    <message>
+        <source>at most %1 wide</source>
+        <translation>höchstens %1 breit</translation>
+    </message>
+    <message>
+        <source>at least %1 wide</source>
+        <translation>mindestens %1 breit</translation>
+    </message>
+    <message>
+        <source>at most %1 high</source>
+        <translation>höchstens %1 hoch</translation>
+    </message>
+    <message>
+        <source>at least %1 high</source>
+        <translation>mindestens %1 hoch</translation>
+    </message>
+    <message>
+        <source>%1 wide and %2 high</source>
+        <translation>%1 breit und %2 hoch</translation>
+    </message>
+    <message>
+        <source>from size and sample aspect</source>
+        <translation>aus Maßen und Pixelverhältnis</translation>
+    </message>
+    <message>
+        <source>from the model at %1 (%2)</source>
+        <translation>nach dem Modell bei %1 (%2)</translation>
+    </message>
+    <message>
+        <source>from the model: the same at every grade</source>
+        <translation>nach dem Modell: auf jeder Stufe gleich</translation>
+    </message>
+    <message>
+        <source>the source&apos;s grade</source>
+        <translation>der Stufe der Quelle</translation>
+    </message>
+    <message>
+        <source>as the source&apos;s bitrate is not known</source>
+        <translation>da die Bitrate der Quelle nicht bekannt ist</translation>
+    </message>
+    <message>
+        <source>as the source&apos;s codec is not known</source>
+        <translation>da der Codec der Quelle nicht bekannt ist</translation>
+    </message>
+    <message>
+        <source>the codec&apos;s highest fixed bitrate</source>
+        <translation>die höchste feste Bitrate des Codecs</translation>
+    </message>
+    <message>
+        <source>bounded by the preset (%1) at %2 (%3)</source>
+        <translation>von der Vorgabe begrenzt (%1) bei %2 (%3)</translation>
+    </message>
+    <message>
+        <source>bounded by the preset (%1) against the codec&apos;s %2</source>
+        <translation>von der Vorgabe begrenzt (%1), gegen %2 des Codecs</translation>
+    </message>
+    <message>
+        <source>a bitrate chosen is its own highest</source>
+        <translation>eine gewählte Bitrate ist zugleich die höchste</translation>
+    </message>
+    <message>
+        <source>a constant bitrate is its own lowest</source>
+        <translation>eine konstante Bitrate ist zugleich die niedrigste</translation>
+    </message>
+    <message>
+        <source>as no bitrate is chosen</source>
+        <translation>da keine Bitrate gewählt ist</translation>
+    </message>
+    <message>
+        <source>%1: no file can be made</source>
+        <translation>%1: es entsteht keine Datei</translation>
+    </message>
+    <message>
+        <source>nothing of the source is left</source>
+        <translation>von der Quelle bleibt nichts übrig</translation>
+    </message>
+    <message>
+        <source>%1 needs a picture</source>
+        <translation>%1 braucht ein Bild</translation>
+    </message>
+    <message>
+        <source>the preset&apos;s codec %1 is not known; the preset stays as it is</source>
+        <translation>der Codec %1 der Vorgabe ist nicht bekannt; die Vorgabe bleibt, wie sie ist</translation>
+    </message>
+    <message>
+        <source>%1 has no encoder here; the preset stays as it is and cannot be encoded</source>
+        <translation>für %1 gibt es hier keinen Encoder; die Vorgabe bleibt, wie sie ist, und lässt sich nicht umwandeln</translation>
+    </message>
+    <message>
+        <source>level %1 is too low for %2 at %3 and %4</source>
+        <translation>Level %1 ist zu niedrig für %2 bei %3 und %4</translation>
+    </message>
+    <message>
+        <source>raise the level to %1</source>
+        <translation>das Level auf %1 anheben</translation>
+    </message>
+    <message>
+        <source>lower the bitrate to %1</source>
+        <translation>die Bitrate auf %1 senken</translation>
+    </message>
+    <message>
+        <source>lower the bitrate to %1 (%2 % less)</source>
+        <translation>die Bitrate auf %1 senken (%2 % weniger)</translation>
+    </message>
+    <message>
+        <source>lower the frame rate to %1</source>
+        <translation>die Bildrate auf %1 senken</translation>
+    </message>
+    <message>
+        <source>lower the frame rate to %1 (%2 % less)</source>
+        <translation>die Bildrate auf %1 senken (%2 % weniger)</translation>
+    </message>
+    <message>
+        <source>lower the size to %1</source>
+        <translation>die Maße auf %1 senken</translation>
+    </message>
+    <message>
+        <source>lower the size to %1 (%2 % less)</source>
+        <translation>die Maße auf %1 senken (%2 % weniger)</translation>
+    </message>
+    <message>
+        <source>lower the size to %1 and the bitrate to %2</source>
+        <translation>die Maße auf %1 und die Bitrate auf %2 senken</translation>
+    </message>
+    <message>
+        <source>lower the size to %1 and the bitrate to %2 (%3 % less)</source>
+        <translation>die Maße auf %1 und die Bitrate auf %2 senken (%3 % weniger)</translation>
+    </message>
+    <message>
+        <source>the bitrate %1 is above the source&apos;s %2</source>
+        <translation>die Bitrate %1 liegt über der der Quelle, %2</translation>
+    </message>
+    <message>
+        <source>the picture is enlarged from %1 to %2</source>
+        <translation>das Bild wird von %1 auf %2 vergrößert</translation>
+    </message>
+    <message>
+        <source>the bounds change the frame&apos;s shape from %1 to %2</source>
+        <translation>die Grenzen ändern die Form des Bildes von %1 auf %2</translation>
+    </message>
+    <message>
+        <source>pixel format %1 is not taken; %2 stands in</source>
+        <translation>das Pixelformat %1 wird nicht angenommen; %2 tritt an seine Stelle</translation>
+    </message>
+    <message>
+        <source>sample format %1 is not taken; %2 stands in</source>
+        <translation>das Abtastformat %1 wird nicht angenommen; %2 tritt an seine Stelle</translation>
+    </message>
+    <message>
+        <source>bitrate %1 is not taken; %2 stands in</source>
+        <translation>die Bitrate %1 wird nicht angenommen; %2 tritt an ihre Stelle</translation>
+    </message>
+    <message>
+        <source>constant bitrate is not taken; a variable one stands in</source>
+        <translation>eine konstante Bitrate wird nicht angenommen; eine variable tritt an ihre Stelle</translation>
+    </message>
+    <message>
+        <source>bounds of the bitrate are not taken; none stand in</source>
+        <translation>Grenzen der Bitrate werden nicht angenommen; es gibt keine</translation>
+    </message>
+    <message>
+        <source>constant bitrate is not filled up where pictures take less</source>
+        <translation>die konstante Bitrate wird nicht aufgefüllt, wo Bilder weniger brauchen</translation>
+    </message>
+    <message>
+        <source>bounds of the bitrate are not filled up where pictures take less</source>
+        <translation>die untere Grenze der Bitrate wird nicht aufgefüllt, wo Bilder weniger brauchen</translation>
+    </message>
+    <message>
+        <source>profile %1 cannot hold %2; %3 stands in</source>
+        <translation>das Profil %1 fasst %2 nicht; %3 tritt an seine Stelle</translation>
+    </message>
+    <message>
+        <source>level %1 cannot hold %2; %3 stands in</source>
+        <translation>das Level %1 fasst %2 nicht; %3 tritt an seine Stelle</translation>
+    </message>
+    <message>
+        <source>level %1 is not made; %2 stands in</source>
+        <translation>das Level %1 wird nicht erzeugt; %2 tritt an seine Stelle</translation>
+    </message>
+    <message>
+        <source>the encoder&apos;s choice</source>
+        <translation>die Wahl des Encoders</translation>
+    </message>
+    <message>
+        <source>the stream</source>
+        <translation>die Spur</translation>
+    </message>
+    <message>
+        <source>the name %1 does not end as %2 files do</source>
+        <translation>der Name %1 endet nicht wie bei %2-Dateien</translation>
+    </message>
+    <message>
+        <source>the container %1 cannot be written here</source>
+        <translation>der Container %1 lässt sich hier nicht schreiben</translation>
+    </message>
+    <message>
+        <source>codec %1 is not known</source>
+        <translation>der Codec %1 ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>%1 has no encoder %2 here</source>
+        <translation>für %1 gibt es hier den Encoder %2 nicht</translation>
+    </message>
+    <message>
+        <source>ffmpeg wrote nothing</source>
+        <translation>ffmpeg hat nichts geschrieben</translation>
+    </message>
+    <message>
+        <source>ffmpeg failed: %1</source>
+        <translation>ffmpeg ist gescheitert: %1</translation>
+    </message>
+    <message>
+        <source>there is no such program in PATH</source>
+        <translation>dieses Programm gibt es in PATH nicht</translation>
+    </message>
+    <message>
+        <source>it was ended by a signal: %1</source>
+        <translation>es wurde durch ein Signal beendet: %1</translation>
+    </message>
+    <message>
+        <source>it gives no reason</source>
+        <translation>es nennt keinen Grund</translation>
+    </message>
+    <message>
+        <source>the file to write has no name</source>
+        <translation>die zu schreibende Datei hat keinen Namen</translation>
+    </message>
+    <message>
+        <source>is not a file</source>
+        <translation>ist keine Datei</translation>
+    </message>
+    <message>
+        <source>is there already</source>
+        <translation>gibt es schon</translation>
+    </message>
+    <message>
+        <source>is the source itself</source>
+        <translation>ist die Quelle selbst</translation>
+    </message>
+    <message>
+        <source>there is no such file</source>
+        <translation>diese Datei gibt es nicht</translation>
+    </message>
+    <message>
+        <source>is a directory, not a file</source>
+        <translation>ist ein Ordner, keine Datei</translation>
+    </message>
+    <message>
+        <source>cannot be looked up (%1)</source>
+        <translation>lässt sich nicht nachsehen (%1)</translation>
+    </message>
+    <message>
+        <source>is not a regular file</source>
+        <translation>ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>cannot be opened (%1)</source>
+        <translation>lässt sich nicht öffnen (%1)</translation>
+    </message>
+    <message>
+        <source>is empty</source>
+        <translation>ist leer</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>der Speicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>is not a media file of a known kind</source>
+        <translation>ist keine Mediendatei einer bekannten Art</translation>
+    </message>
+    <message>
+        <source>is %1, not a media file</source>
+        <translation>ist %1, keine Mediendatei</translation>
+    </message>
+    <message>
+        <source>a playlist</source>
+        <translation>eine Abspielliste</translation>
+    </message>
+    <message>
+        <source>a still picture</source>
+        <translation>ein Standbild</translation>
+    </message>
+    <message>
+        <source>the description of a network stream</source>
+        <translation>die Beschreibung eines Netzwerkstroms</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>takes too long to read (more than %1 seconds)</source>
+        <translation>braucht zu lange zum Lesen (mehr als %1 Sekunden)</translation>
+    </message>
+    <message>
+        <source>is damaged or cut off (its description has no end)</source>
+        <translation>ist beschädigt oder abgeschnitten (ihre Beschreibung hat kein Ende)</translation>
+    </message>
+    <message>
+        <source>is damaged (it asks for more streams or memory than a media file may have)</source>
+        <translation>ist beschädigt (sie verlangt mehr Spuren oder Speicher, als eine Mediendatei haben darf)</translation>
+    </message>
+    <message>
+        <source>is damaged or cut off (%1)</source>
+        <translation>ist beschädigt oder abgeschnitten (%1)</translation>
+    </message>
+    <message>
+        <source>has a compressed description, which is not read</source>
+        <translation>hat eine gepackte Beschreibung, die nicht gelesen wird</translation>
+    </message>
+    <message>
+        <source>is damaged (it tells of %1 samples in %2 bytes)</source>
+        <translation>ist beschädigt (sie nennt %1 Samples in %2 Bytes)</translation>
+    </message>
+    <message>
+        <source>is damaged or cut off (no stream tells its size or its sample rate)</source>
+        <translation>ist beschädigt oder abgeschnitten (keine Spur nennt ihre Größe oder Abtastrate)</translation>
+    </message>
+    <message>
+        <source>holds neither video nor audio</source>
+        <translation>enthält weder Video noch Ton</translation>
+    </message>
+    <message>
+        <source>not enough memory</source>
+        <translation>der Speicher reicht nicht</translation>
+    </message>
+    <message>
+        <source>larger than 4 GiB</source>
+        <translation>größer als 4 GiB</translation>
+    </message>
+    <message>
+        <source>the document is larger than 4 GiB</source>
+        <translation>das Dokument ist größer als 4 GiB</translation>
+    </message>
+    <message>
+        <source>is write-protected</source>
+        <translation>ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>not changed: %1</source>
+        <translation>nicht geändert: %1</translation>
+    </message>
+    <message>
+        <source>not written, for it could not be read again: %1</source>
+        <translation>nicht geschrieben, denn es ließe sich nicht wieder lesen: %1</translation>
+    </message>
+    <message>
+        <source>what it becomes cannot be read: %1</source>
+        <translation>was daraus wird, lässt sich nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>nested too deeply to be written as a document that can be read again</source>
+        <translation>zu tief verschachtelt, um als Dokument geschrieben zu werden, das sich wieder lesen lässt</translation>
+    </message>
+    <message>
+        <source>is not a JSON object</source>
+        <translation>ist kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>is not a preset document</source>
+        <translation>ist kein Vorgabendokument</translation>
+    </message>
+    <message>
+        <source>holds presets of another program, which can be imported</source>
+        <translation>enthält Vorgaben eines anderen Programms, die sich importieren lassen</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message>
+        <source>Is a directory</source>
+        <translation>ist ein Ordner</translation>
+    </message>
+    <message>
+        <source>Not a directory</source>
+        <translation>ist kein Ordner</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>auf dem Datenträger ist kein Platz mehr</translation>
+    </message>
+    <message>
+        <source>Read-only file system</source>
+        <translation>das Dateisystem ist schreibgeschützt</translation>
+    </message>
+    <message>
+        <source>File exists</source>
+        <translation>die Datei gibt es schon</translation>
+    </message>
+    <message>
+        <source>File name too long</source>
+        <translation>der Dateiname ist zu lang</translation>
+    </message>
+    <message>
+        <source>Input/output error</source>
+        <translation>Ein-/Ausgabefehler</translation>
+    </message>
+    <message>
+        <source>No such device or address</source>
+        <translation>Gerät oder Adresse nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Disk quota exceeded</source>
+        <translation>das Speicherkontingent ist erschöpft</translation>
+    </message>
+    <message>
+        <source>File too large</source>
+        <translation>die Datei ist zu groß</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>zu viele offene Dateien</translation>
+    </message>
+    <message>
+        <source>Invalid data found when processing input</source>
+        <translation>ungültige Daten in der Eingabe</translation>
+    </message>
+    <message>
+        <source>End of file</source>
+        <translation>Ende der Datei</translation>
+    </message>
+    <message>
+        <source>b/s</source>
+        <translation>bit/s</translation>
+    </message>
+    <message>
+        <source>kb/s</source>
+        <translation>kbit/s</translation>
+    </message>
+    <message>
+        <source>Mb/s</source>
+        <translation>Mbit/s</translation>
+    </message>
+    <message>
+        <source>fps</source>
+        <translation>fps</translation>
+    </message>
+    <message>
+        <source>bytes</source>
+        <translation>Bytes</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>%1 Hz is Auto</source>
+        <translation>%1 Hz ist Auto</translation>
+    </message>
+    <message>
+        <source>categories are nested too deep for a document</source>
+        <translation>Kategorien sind zu tief für ein Dokument verschachtelt</translation>
+    </message>
+    <message>
+        <source>is no file</source>
+        <translation>ist keine Datei</translation>
+    </message>
+    <message>
+        <source>is too large</source>
+        <translation>ist zu groß</translation>
+    </message>
+    <message>
+        <source>is no list of recently used presets</source>
+        <translation>ist keine Liste zuletzt verwendeter Vorgaben</translation>
+    </message>
+    <message>
+        <source>another program is writing it</source>
+        <translation>ein anderes Programm schreibt gerade hinein</translation>
+    </message>
+</context>
+<context>
     <name>Vexlor::Studio::TreeActions</name>
     <message>
         <source>New &amp;Preset</source>
@@ -1517,6 +2799,14 @@
     <message>
         <source>New Preset</source>
         <translation>Neue Vorgabe</translation>
+    </message>
+    <message>
+        <source>A category cannot be moved into itself.</source>
+        <translation type="unfinished">Eine Kategorie lässt sich nicht in sich selbst verschieben.</translation>
+    </message>
+    <message>
+        <source>Recently used presets come and go: move yours elsewhere.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
