@@ -75,7 +75,7 @@ TEST(FreeNames, AreEnoughForThousandsOfCopies)
     EXPECT_EQ("a 3000", NameOf(copies.back()));
     const auto other = editor.AddCategory(document.Root(), "Other").category;
     editor.Copy({copies.front()}, {other});
-    EXPECT_TRUE(editor.Move(copies, {other}));
+    EXPECT_EQ("", editor.Move(copies, {other}));
     EXPECT_EQ("a 2", NameOf(copies[0]));
     EXPECT_EQ("a 2 2", NameOf(copies[1]));
     EXPECT_EQ("a 3000", NameOf(copies.back()));

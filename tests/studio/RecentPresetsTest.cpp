@@ -67,17 +67,6 @@ TEST_F(RecentPresetsTest, AreAsTheyWereWhenTheyWereUsed)
     EXPECT_EQ("used ", Recent());
 }
 
-TEST_F(RecentPresetsTest, KeepTheChangesOfOneThatStandsThereItself)
-{
-    Use(*Named("a"));
-    const auto own = document.Root()->FindChild("Recently Used")->FirstFormatPreset();
-    const auto asItWas = own->Clone();
-    document.EditPreset(own, "Bounds", [](IVXFormatPreset& preset) { preset.SetMaxWidth(77); });
-    document.NoteUsed(*own, *asItWas);
-    EXPECT_EQ("a ", Recent());
-    EXPECT_EQ(77, document.Root()->FindChild("Recently Used")->FirstFormatPreset()->MaxWidth());
-}
-
 TEST_F(RecentPresetsTest, AreNotMoreThanTheBound)
 {
     for (int i = 0; i < kMostRecentPresets + 3; ++i)
@@ -123,18 +112,13 @@ TEST_F(RecentPresetsTest, MoveToTheFrontWhenTheyAreUsedThemselves)
     EXPECT_EQ(used, document.Root()->FindChild("Recently Used")->FirstFormatPreset());
 }
 
-TEST_F(RecentPresetsTest, HaveCopiesOfWhatIsMovedThere)
+TEST_F(RecentPresetsTest, TakeNothingThatIsMovedThere)
 {
-    Use(*Named("a"));
     const auto video = document.Root()->FindChild("Video");
     const auto mine = video->FindFormatPreset("MP4");
-    const int count = video->FormatPresetCount();
-    TreeEditor(document).Move({{{}, mine}}, {document.Root()->FindChild("Recently Used")});
-    EXPECT_EQ("a MP4 ", Recent());
-    for (int i = 0; i < kMostRecentPresets; ++i)
-        Use(*Named(std::to_string(i)));
-    EXPECT_EQ(count, video->FormatPresetCount());
+    EXPECT_NE("", TreeEditor(document).Move({{{}, mine}}, {document.Root()->FindChild("Recently Used")}));
     EXPECT_EQ(mine, video->FindFormatPreset("MP4"));
+    EXPECT_EQ("", Recent());
 }
 
 TEST_F(RecentPresetsTest, AreMovedAmongThemselves)

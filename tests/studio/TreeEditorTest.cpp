@@ -84,8 +84,8 @@ TEST_F(TreeEditorTest, MovesACategoryIntoAnother)
 
 TEST_F(TreeEditorTest, NeverMovesACategoryIntoItself)
 {
-    EXPECT_FALSE(editor.Move({{At(0)}}, {At(0)}));
-    EXPECT_FALSE(editor.Move({{document.Root()}}, {At(0)}));
+    EXPECT_NE("", editor.Move({{At(0)}}, {At(0)}));
+    EXPECT_NE("", editor.Move({{document.Root()}}, {At(0)}));
     EXPECT_EQ(0, document.Undo().count());
 }
 
@@ -104,6 +104,31 @@ TEST_F(TreeEditorTest, NumbersANameThatIsTakenWhereItMovesTo)
     EXPECT_EQ("Root(A(a1 a2 a3 a1 2) B())", Outline());
     document.Undo().undo();
     EXPECT_EQ("Root(A(a1 a2 a3) B(a1))", Outline());
+}
+
+TEST_F(TreeEditorTest, MovesWhatIsThereTogetherWithWhatComesThere)
+{
+    editor.Move({Preset(0, 2), Preset(1, 0), Preset(0, 0)}, {At(0), 0, 2});
+    EXPECT_EQ("Root(A(a2 a3 b1 a1) B())", Outline());
+    document.Undo().undo();
+    EXPECT_EQ("Root(A(a1 a2 a3) B(b1))", Outline());
+    document.Undo().redo();
+    EXPECT_EQ("Root(A(a2 a3 b1 a1) B())", Outline());
+}
+
+TEST_F(TreeEditorTest, MovesCategoriesAndPresetsInOneStep)
+{
+    editor.Move({{At(1)}, Preset(0, 1)}, {document.Root(), 0, 0});
+    EXPECT_EQ("Root(B(b1) A(a1 a3) a2)", Outline());
+    EXPECT_EQ(1, document.Undo().count());
+    document.Undo().undo();
+    EXPECT_EQ("Root(A(a1 a2 a3) B(b1))", Outline());
+}
+
+TEST_F(TreeEditorTest, MakesNoStepOfSeveralThatStayWhereTheyAre)
+{
+    editor.Move({Preset(0, 1), Preset(0, 2)}, {At(0), 0, 2});
+    EXPECT_EQ(0, document.Undo().count());
 }
 
 TEST_F(TreeEditorTest, CopiesAreOtherObjects)
@@ -127,6 +152,16 @@ TEST_F(TreeEditorTest, DeletesSeveralAsOneStep)
     EXPECT_EQ("Root(A(a3))", Outline());
     document.Undo().undo();
     EXPECT_EQ("Root(A(a1 a2 a3) B(b1))", Outline());
+}
+
+TEST_F(TreeEditorTest, DeletesWhatStandsApartAndBringsItBackThere)
+{
+    editor.Remove({Preset(0, 2), Preset(0, 0), Preset(1, 0)});
+    EXPECT_EQ("Root(A(a2) B())", Outline());
+    document.Undo().undo();
+    EXPECT_EQ("Root(A(a1 a2 a3) B(b1))", Outline());
+    document.Undo().redo();
+    EXPECT_EQ("Root(A(a2) B())", Outline());
 }
 
 TEST_F(TreeEditorTest, DeletesWhatIsInsideOfADeletedCategoryOnlyOnce)

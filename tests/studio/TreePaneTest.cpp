@@ -141,6 +141,29 @@ TEST_F(TreePaneTest, SearchesTwentyThousandPresetsWithoutAHang)
     EXPECT_TRUE(Count().text().startsWith("560 ")) << qPrintable(Count().text()); // numbers with "77" in them
 }
 
+TEST_F(TreePaneTest, MovesThousandsAndBackWithoutAHang)
+{
+    const auto category = AddMany(20000);
+    pane.View().expandAll();
+    std::vector<TreeItem> items;
+    for (int i = 0; i < 5000; ++i)
+        items.push_back({{}, category->GetFormatPreset(3 * i)});
+    pane.Select(items);
+    TreeEditor editor(document);
+    QElapsedTimer timer;
+    timer.start();
+    editor.Move(items, {document.Root()->FindChild("Video")});
+    document.Undo().undo();
+    editor.Copy(items, {document.Root()->FindChild("Video")});
+    document.Undo().undo();
+    editor.Remove(items);
+    document.Undo().undo();
+    RecordProperty("milliseconds", static_cast<int>(timer.elapsed()));
+    EXPECT_LT(timer.elapsed(), 30'000); // one by one it takes minutes
+    EXPECT_EQ("preset 14997", items.back().preset->Name());
+    EXPECT_EQ(items.back().preset, category->GetFormatPreset(14997));
+}
+
 TEST_F(TreePaneTest, ShowsNothingOnTheWayWhereManyPresetsGo)
 {
     const auto video = document.Root()->FindChild("Video");
@@ -157,6 +180,39 @@ TEST_F(TreePaneTest, ShowsNothingOnTheWayWhereManyPresetsGo)
     EXPECT_EQ(static_cast<int>(items.size()), video->FormatPresetCount());
 }
 
+TEST_F(TreePaneTest, KeepsUpWithManyThatStandApart)
+{
+    const auto category = AddMany(100);
+    pane.View().expandAll();
+    std::vector<TreeItem> items;
+    for (int i = 0; i < category->FormatPresetCount(); i += 2)
+        items.push_back({{}, category->GetFormatPreset(i)});
+    pane.Select(items);
+    const QAbstractItemModelTester tester(&Shown(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    TreeEditor(document).Remove(items);
+    EXPECT_EQ("preset 99", NameOf({{}, category->GetFormatPreset(49)}));
+    EXPECT_EQ(TreeItem{category}, pane.Current());
+    document.Undo().undo();
+    for (int i = 0; i < 100; ++i)
+        EXPECT_EQ("preset " + std::to_string(i), category->GetFormatPreset(i)->Name());
+    document.Undo().redo();
+    EXPECT_EQ("preset 1", NameOf({{}, category->GetFormatPreset(0)}));
+}
+
+TEST_F(TreePaneTest, KeepsSelectedWhatIsMovedAndMovedBack)
+{
+    const auto category = AddMany(100);
+    pane.View().expandAll();
+    const std::vector<TreeItem> items{{{}, category->GetFormatPreset(3)},
+                                      {{}, category->GetFormatPreset(70)}};
+    pane.Select(items);
+    TreeEditor(document).Move(items, {document.Root()->FindChild("Customised")});
+    EXPECT_EQ(items, pane.Selected());
+    document.Undo().undo();
+    EXPECT_EQ(items, pane.Selected());
+    EXPECT_EQ(items.front(), pane.Current());
+}
+
 TEST_F(TreePaneTest, StaysWhereItIsWhenSomethingIsAskedForThatIsGone)
 {
     const auto video = document.Root()->FindChild("Video");
@@ -167,6 +223,22 @@ TEST_F(TreePaneTest, StaysWhereItIsWhenSomethingIsAskedForThatIsGone)
     pane.Select({inside});
     EXPECT_EQ("MP3", NameOf(pane.Current()));
     EXPECT_EQ("mp3", Search().text());
+}
+
+TEST_F(TreePaneTest, GoesWithARecentPresetThatBecomesOnesOwn)
+{
+    const auto used = document.Root()->FindChild("Video")->FindFormatPreset("MP4");
+    document.NoteUsed(*used, *used);
+    pane.SelectByPath("Recently Used/MP4");
+    const auto current = pane.Current();
+    const QSignalSpy told(&pane, &TreePane::Told);
+    const QSignalSpy spy(&pane, &TreePane::CurrentChanged);
+    document.EditPreset(current.preset, "Bounds", [](IVXFormatPreset& preset) { preset.SetMaxWidth(77); });
+    EXPECT_EQ(current, pane.Current());
+    EXPECT_EQ(0, spy.count());
+    ASSERT_EQ(1, told.count());
+    EXPECT_TRUE(told.at(0).at(0).toString().contains("\"MP4\" stands in \"Customised\""));
+    EXPECT_EQ("Customised", pane.View().currentIndex().parent().data().toString());
 }
 
 TEST_F(TreePaneTest, TellsWhatToDoWithADocumentWithoutPresets)

@@ -51,13 +51,21 @@ bool PresetEdit::mergeWith(const QUndoCommand* other)
     if (next == nullptr || next->m_preset != m_preset || next->m_run != m_run)
         return false;
     m_after = next->m_after;
-    setObsolete(IsIdle());
+    setObsolete(IsIdle() && childCount() == 0); // what it did besides is to be undone
     return true;
 }
 
-void PresetEdit::undo() { Become(m_before); }
+void PresetEdit::undo()
+{
+    Become(m_before);
+    QUndoCommand::undo();
+}
 
-void PresetEdit::redo() { Become(m_after); }
+void PresetEdit::redo()
+{
+    QUndoCommand::redo();
+    Become(m_after);
+}
 
 void PresetEdit::Become(const Preset& state) const
 {

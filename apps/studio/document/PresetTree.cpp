@@ -17,32 +17,50 @@ namespace
 
 using Node = std::shared_ptr<IVXFormatNode>;
 
-void Put(const TreeItem& item, const TreePlace& place)
+/// The index of what is placed there, which as a rule is where it is looked for first; -1 where it is not in
+/// that category.
+int FoundIndex(const PlacedItem& placed)
 {
-    if (item.preset)
-        return place.parent->InsertFormatPreset(item.preset, place.index);
-    place.parent->InsertChild(item.category, place.index);
-    item.category->SetParent(place.parent);
+    const auto& [item, place] = placed;
+    auto& parent = *place.parent;
+    const bool isThere = place.index >= 0 && place.index < CountLike(parent, item) &&
+                         (item.preset ? parent.GetFormatPreset(place.index) == item.preset
+                                      : parent.GetChild(place.index) == item.category);
+    return isThere ? place.index : IndexOf(parent, item);
 }
 
-void Take(const TreeItem& item, const Node& parent)
+/// The items that are in their categories still, where they are now.
+std::vector<PlacedItem> Found(std::vector<PlacedItem> items)
 {
-    if (item.preset)
-        parent->RemoveFormatPreset(item.preset);
-    else
-        parent->RemoveChild(item.category);
+    for (auto& placed : items)
+        placed.place.index = FoundIndex(placed);
+    std::erase_if(items, [](const PlacedItem& placed) { return placed.place.index < 0; });
+    return items;
 }
 
-bool Stands(const TreeItem& item, const IVXFormatNode& parent, int index)
+using Way = TreePlace MovedItem::*;
+
+std::vector<PlacedItem> Placed(const std::vector<MovedItem>& items, Way way)
 {
-    return item.preset ? parent.GetFormatPreset(index) == item.preset
-                       : item.category && parent.GetChild(index) == item.category;
+    std::vector<PlacedItem> placed;
+    placed.reserve(items.size());
+    for (const auto& moved : items)
+        placed.push_back({moved.item, moved.*way});
+    return placed;
 }
 
-TreePlace Inside(const TreeItem& item, const TreePlace& place)
+/// The items on their way to the end of their list, where the first gets that index.
+std::vector<MovedItem> ToTheEnd(const std::vector<PlacedItem>& list, int index)
 {
-    return {place.parent, std::clamp(place.index, 0, CountLike(*place.parent, item))};
+    std::vector<MovedItem> moves;
+    moves.reserve(list.size());
+    for (const auto& [item, place] : list)
+        moves.push_back({item, place, {place.parent, index++}});
+    return moves;
 }
+
+// Each run costs views as much as all rows together: of more than so many one is made at the list's end.
+constexpr std::size_t kMostRuns = 8;
 
 } // namespace
 
@@ -94,48 +112,87 @@ TreePlace PresetTree::PlaceOf(const TreeItem& item) const
     return index < 0 || !IsHere(parent) ? TreePlace{} : TreePlace{parent, index};
 }
 
-TreePlace PresetTree::PlaceBeside(const TreeItem& item, const TreePlace& other) const
+void PresetTree::Insert(const std::vector<PlacedItem>& items)
 {
-    for (int index = other.index - 1; other.parent && index <= other.index + 1; ++index)
-        if (Stands(item, *other.parent, index))
-            return {other.parent, index};
-    const int index = other.parent ? IndexOf(*other.parent, item) : -1;
-    return index >= 0 ? TreePlace{other.parent, index} : PlaceOf(item);
+    for (const auto& list : ByList(items))
+        if (const auto runs = RunsOf(list); runs.size() <= kMostRuns)
+            for (const auto& run : runs)
+                Insert(run);
+        else
+        {
+            const auto way = ToTheEnd(list, CountOf(ListOf(list.front())));
+            Insert(RunsOf(Placed(way, &MovedItem::to)).front());
+            Move(Reversed(way));
+        }
+}
+
+void PresetTree::Insert(ItemRun run)
+{
+    run.index = std::clamp(run.index, 0, CountOf(run.list));
+    emit AboutToInsert(run);
+    Studio::Insert(run);
+    emit Inserted();
+}
+
+void PresetTree::Remove(const std::vector<PlacedItem>& items)
+{
+    auto lists = ByList(Found(items));
+    std::ranges::reverse(lists);
+    for (const auto& list : lists)
+        if (const auto runs = RunsOf(list); runs.size() <= kMostRuns)
+            for (auto run = runs.rbegin(); run != runs.rend(); ++run)
+                Remove(*run);
+        else
+        {
+            const auto way = ToTheEnd(list, CountOf(ListOf(list.front())) - static_cast<int>(list.size()));
+            Move(way);
+            Remove(RunsOf(Placed(way, &MovedItem::to)).front());
+        }
+}
+
+void PresetTree::Remove(const ItemRun& run)
+{
+    emit AboutToRemove(run);
+    Studio::Remove(run);
+    emit Removed();
+}
+
+void PresetTree::Move(std::vector<MovedItem> items)
+{
+    std::erase_if(items, [](const MovedItem& moved) { return FoundIndex({moved.item, moved.from}) < 0; });
+    if (items.empty())
+        return;
+    emit AboutToRearrange();
+    for (const auto& list : ByList(Placed(items, &MovedItem::from)))
+        TakeOut(ListOf(list.front()), list);
+    for (const auto& list : ByList(Placed(items, &MovedItem::to)))
+        MergeIn(ListOf(list.front()), list);
+    for (const auto& moved : items)
+        Rename(moved);
+    emit Rearranged();
+}
+
+void PresetTree::Rename(const MovedItem& moved)
+{
+    if (moved.nameTo == moved.nameFrom)
+        return;
+    SetName(moved.item, moved.nameTo);
+    emit LookChanged(moved.item);
 }
 
 void PresetTree::Insert(const TreeItem& item, const TreePlace& place)
 {
-    const auto inside = Inside(item, place);
-    emit AboutToInsert(item, inside);
-    Put(item, inside);
-    emit Inserted();
+    Insert(std::vector{PlacedItem{item, place}});
 }
 
 void PresetTree::Remove(const TreeItem& item, const Node& parent)
 {
-    const int index = IndexOf(*parent, item);
-    if (index < 0)
-        return;
-    emit AboutToRemove(item, {parent, index});
-    Take(item, parent);
-    emit Removed();
+    Remove(std::vector{PlacedItem{item, {parent, 0}}});
 }
 
-void PresetTree::Move(const TreeItem& item, const Node& from, const TreePlace& to)
+void PresetTree::Move(const TreeItem& item, const TreePlace& from, const TreePlace& to)
 {
-    const int index = IndexOf(*from, item);
-    if (index < 0)
-        return;
-    const bool isInside = to.parent == from;
-    const int limit = CountLike(*to.parent, item) - (isInside ? 1 : 0);
-    const TreePlace target{to.parent, std::clamp(to.index, 0, limit)};
-    if (isInside && target.index == index)
-        return;
-    emit AboutToMove(item, {from, index},
-                     {target.parent, target.index + (isInside && target.index > index ? 1 : 0)});
-    Take(item, from);
-    Put(item, target);
-    emit Moved();
+    Move(std::vector{MovedItem{item, from, to}});
 }
 
 void PresetTree::SetLook(const TreeItem& item, const ItemLook& look)

@@ -42,21 +42,49 @@ bool IsSamePreset(const IVXFormatPreset& one, const IVXFormatPreset& other)
     return one.Name() == other.Name() && one.FormatName() == other.FormatName();
 }
 
-void NoteRecentPreset(PresetTree& tree, const IVXFormatPreset& preset, const IVXFormatPreset& asItWas)
+void RecentPresets::Adopt()
 {
-    const auto category = RecentCategory(tree);
-    std::shared_ptr<IVXFormatPreset> own;
+    m_kept.clear();
+    const auto category = FindRecentCategory(*m_tree.Root());
+    if (!category || category->FormatPresetCount() > kMostRecentPresets)
+        return;
+    for (int i = 0; i < category->FormatPresetCount(); ++i)
+        m_kept.insert(category->GetFormatPreset(i));
+}
+
+void RecentPresets::Note(const IVXFormatPreset& preset, const IVXFormatPreset& asItWas)
+{
+    const auto category = RecentCategory(m_tree);
+    Preset own;
     for (int i = category->FormatPresetCount() - 1; i >= 0; --i)
         if (const auto old = category->GetFormatPreset(i); old.get() == &preset)
             own = old; // it stays the one that is shown, and that steps are about
-        else if (IsSamePreset(*old, asItWas))
-            tree.Remove({{}, old}, category);
-    if (own)
-        tree.Move({{}, own}, category, {category, 0});
-    else
-        tree.Insert({{}, asItWas.Clone()}, {category, 0});
-    while (category->FormatPresetCount() > kMostRecentPresets)
-        tree.Remove({{}, category->LastFormatPreset()}, category);
+        else if (m_kept.contains(old) && IsSamePreset(*old, asItWas))
+            Drop(old, category);
+    const int index = own ? category->IndexOfFormatPreset(own) : -1;
+    if (index >= 0)
+        return m_tree.Move({{}, own}, {category, index}, {category, 0});
+    const auto copy = asItWas.Clone();
+    m_kept.insert(copy);
+    m_tree.Insert({{}, copy}, {category, 0});
+    DropOldest(category);
+}
+
+void RecentPresets::Drop(const Preset& preset, const Node& category)
+{
+    m_tree.Remove({{}, preset}, category);
+    m_kept.erase(preset);
+}
+
+void RecentPresets::DropOldest(const Node& category)
+{
+    int count = 0;
+    for (int i = 0; i < category->FormatPresetCount();)
+        if (const auto preset = category->GetFormatPreset(i);
+            m_kept.contains(preset) && ++count > kMostRecentPresets)
+            Drop(preset, category);
+        else
+            ++i;
 }
 
 } // namespace Vexlor::Studio

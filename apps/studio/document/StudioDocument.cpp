@@ -1,7 +1,7 @@
 #include "StudioDocument.h"
 
+#include "OwnCategory.h"
 #include "PresetEdit.h"
-#include "RecentPresets.h"
 #include "TreeEdits.h"
 
 #include "IVXFormatNode.h"
@@ -36,6 +36,7 @@ std::unordered_set<const void*> PresetsOf(const DocumentBasis& basis)
 
 StudioDocument::StudioDocument(QObject* parent) : QObject(parent), m_basis(std::make_shared<DocumentBasis>())
 {
+    m_recent.Adopt();
     connect(&m_undo, &QUndoStack::indexChanged, this, &StudioDocument::StateChanged);
     connect(&m_undo, &QUndoStack::cleanChanged, this, &StudioDocument::StateChanged);
     connect(&m_tree, &PresetTree::LookChanged, this, &StudioDocument::TellOfLook);
@@ -67,6 +68,7 @@ void StudioDocument::TakeUp(DocumentContent content, const QString& path)
     m_asRead = PresetsOf(*m_basis);
     m_textOfFile.reset();
     m_tree.SetRoot(std::move(content.root));
+    m_recent.Adopt();
     emit StateChanged();
 }
 
@@ -97,14 +99,16 @@ void StudioDocument::SetSaved(const QString& path, std::shared_ptr<const Documen
 void StudioDocument::EditPreset(const std::shared_ptr<IVXFormatPreset>& preset, const QString& what,
                                 const std::function<void(IVXFormatPreset&)>& change, int run)
 {
-    auto after = preset->Clone();
+    const auto after = preset->Clone();
     change(*after);
-    auto edit = std::make_unique<PresetEdit>(preset, std::move(after), run,
+    auto edit = std::make_unique<PresetEdit>(preset, after, run,
                                              [this](const auto& changed) { TellOfChange(changed); });
     if (edit->IsIdle())
         return;
-    edit->setText(what);
-    m_undo.push(edit.release());
+    const TreeItem item{{}, preset};
+    if (RecentIndexOf(item) >= 0)
+        SetName({{}, after}, NameAsOwn(*Root(), item, NameOf({{}, after})));
+    Push(std::move(edit), what, item);
 }
 
 void StudioDocument::EditLook(const TreeItem& item, const QString& what,
@@ -115,14 +119,31 @@ void StudioDocument::EditLook(const TreeItem& item, const QString& what,
     change(after);
     if (after == before)
         return;
-    auto edit = std::make_unique<LookEdit>(m_tree, item, std::move(after), run);
+    if (RecentIndexOf(item) >= 0)
+        after.name = NameAsOwn(*Root(), item, after.name);
+    Push(std::make_unique<LookEdit>(m_tree, item, std::move(after), run), what, item);
+}
+
+int StudioDocument::RecentIndexOf(const TreeItem& item) const
+{
+    const auto recent = FindRecentCategory(*Root());
+    return recent && item.preset ? recent->IndexOfFormatPreset(item.preset) : -1;
+}
+
+void StudioDocument::Push(std::unique_ptr<QUndoCommand> edit, const QString& what, const TreeItem& item)
+{
+    const int recentIndex = RecentIndexOf(item);
+    if (recentIndex >= 0)
+        AdoptAsOwn(m_tree, {item, {FindRecentCategory(*Root()), recentIndex}}, *edit);
     edit->setText(what);
     m_undo.push(edit.release());
+    if (recentIndex >= 0)
+        emit MadeOwn(item.preset);
 }
 
 void StudioDocument::NoteUsed(const IVXFormatPreset& preset, const IVXFormatPreset& asItWas)
 {
-    NoteRecentPreset(m_tree, preset, asItWas);
+    m_recent.Note(preset, asItWas);
 }
 
 void StudioDocument::TellOfLook(const TreeItem& item)

@@ -2,6 +2,7 @@
 
 #include "DocumentContent.h"
 #include "PresetTree.h"
+#include "RecentPresets.h"
 
 #include <QObject>
 #include <QString>
@@ -58,7 +59,8 @@ public:
 
     /// Changes a format preset as one step that can be undone; what names it in the Edit menu. Steps of one
     /// preset with the same nonzero run that follow one another are one: typing into a field, dragging a
-    /// slider. Nothing happens where the change leaves the preset as it was.
+    /// slider. Nothing happens where the change leaves the preset as it was. A recently used preset becomes
+    /// one of the user's own with the same step, for it might go otherwise.
     void EditPreset(const std::shared_ptr<IVXFormatPreset>& preset, const QString& what,
                     const std::function<void(IVXFormatPreset&)>& change, int run = 0);
     /// Changes what a category or a preset is called and how it is shown, in the same way.
@@ -68,6 +70,8 @@ public:
     void NoteUsed(const IVXFormatPreset& preset, const IVXFormatPreset& asItWas);
 
 signals:
+    /// After a recently used preset became one of the user's own, for it was changed.
+    void MadeOwn(const std::shared_ptr<Vexlor::IVXFormatPreset>& preset);
     /// After another document was taken up, but for one that was found after a crash.
     void Replaced();
     /// After each change of a format preset's content, undo and redo included. The codec presets inside are
@@ -78,10 +82,13 @@ signals:
 
 private:
     void TakeUp(DocumentContent content, const QString& path);
+    int RecentIndexOf(const TreeItem& item) const;
+    void Push(std::unique_ptr<QUndoCommand> edit, const QString& what, const TreeItem& item);
     void TellOfLook(const TreeItem& item);
     void TellOfChange(const std::shared_ptr<IVXFormatPreset>& preset);
 
     PresetTree m_tree;
+    RecentPresets m_recent{m_tree};
     QUndoStack m_undo;
     QString m_path;
     std::shared_ptr<const DocumentBasis> m_basis;

@@ -1,16 +1,18 @@
 #include "TreeEditor.h"
 
 #include "FreeNames.h"
+#include "OwnCategory.h"
+#include "PlaceFinder.h"
 #include "RecentPresets.h"
 #include "StudioDocument.h"
 #include "TreeEdits.h"
-#include "UndoMacro.h"
 
-#include "IVXArtworkImageMgr.h"
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
 
 #include <algorithm>
+#include <unordered_set>
+#include <utility>
 
 namespace Vexlor::Studio
 {
@@ -21,12 +23,51 @@ namespace
 using Items = TreeEditor::Items;
 using Node = std::shared_ptr<IVXFormatNode>;
 
-constexpr const char* kOwnCategory = "Customised";
-
 /// The position for items of that kind, which is counted on as they arrive.
 int& IndexFor(const TreeItem& item, DropPlace& place)
 {
     return item.preset ? place.presetIndex : place.categoryIndex;
+}
+
+/// Has the positions point into the lists, or at their ends.
+void Clamp(DropPlace& place)
+{
+    place.categoryIndex = std::clamp(place.categoryIndex, 0, place.parent->ChildCount());
+    place.presetIndex = std::clamp(place.presetIndex, 0, place.parent->FormatPresetCount());
+}
+
+/// True where the item goes with one of those categories.
+bool IsInside(const TreePlace& place, const std::unordered_set<const IVXFormatNode*>& categories)
+{
+    for (auto above = place.parent; above; above = above->Parent())
+        if (categories.contains(above.get()))
+            return true;
+    return false;
+}
+
+std::unordered_set<const IVXFormatNode*> CategoriesIn(const Items& items)
+{
+    std::unordered_set<const IVXFormatNode*> categories;
+    for (const auto& item : items)
+        if (item.category)
+            categories.insert(item.category.get());
+    return categories;
+}
+
+/// Has the items follow one another at that place of the lists as they are.
+void NumberPlaces(std::vector<MovedItem>& moves, DropPlace to)
+{
+    auto next = to;
+    for (const auto& moved : moves)
+        if (moved.from.parent == to.parent && moved.from.index < IndexFor(moved.item, to))
+            --IndexFor(moved.item, next);
+    for (auto& moved : moves)
+        moved.to.index = IndexFor(moved.item, next)++;
+}
+
+bool StaysWhereItIs(const MovedItem& moved)
+{
+    return moved.from.parent == moved.to.parent && moved.from.index == moved.to.index;
 }
 
 // As deep as what is added is nested, which its reader bounds.
@@ -50,101 +91,90 @@ QString TreeEditor::Rename(const TreeItem& item, const QString& name)
     const auto parent = m_document.Tree().ParentOf(item);
     if (parent && IsNameTaken(*parent, item, trimmed))
         return tr("\"%1\" is there already.").arg(trimmed);
-    const UndoMacro macro(m_document.Undo(), tr("Rename"));
-    SetName(item, trimmed);
+    m_document.EditLook(item, tr("Rename"), [&trimmed](ItemLook& look) { look.name = trimmed; });
     return {};
-}
-
-void TreeEditor::SetName(const TreeItem& item, const QString& name)
-{
-    auto look = LookOf(item);
-    if (look.name == name)
-        return;
-    look.name = name;
-    m_document.Undo().push(new LookEdit(m_document.Tree(), item, std::move(look)));
 }
 
 void TreeEditor::Remove(const Items& items)
 {
-    if (items.empty())
+    const PlaceFinder places(m_document.Root());
+    const auto categories = CategoriesIn(items);
+    std::vector<PlacedItem> gone;
+    for (const auto& item : items)
+        if (const auto place = places.Find(item); place.parent && !IsInside(place, categories))
+            gone.push_back({item, place});
+    if (gone.empty())
         return;
-    const UndoMacro macro(m_document.Undo(), items.size() == 1
-                                                 ? tr("Delete \"%1\"").arg(NameOf(items.front()))
-                                                 : tr("Delete Selection"));
-    TreePlace place;
-    // From the end, so that no list moves up each time.
-    for (const auto& item : Items(items.rbegin(), items.rend()))
-    {
-        place = m_document.Tree().PlaceBeside(item, place);
-        if (place.parent)
-            m_document.Undo().push(new RemoveEdit(m_document.Tree(), item, place));
-    }
+    const auto what =
+        gone.size() == 1 ? tr("Delete \"%1\"").arg(NameOf(gone.front().item)) : tr("Delete Selection");
+    auto edit = std::make_unique<RemoveEdit>(m_document.Tree(), std::move(gone));
+    edit->setText(what);
+    m_document.Undo().push(edit.release());
 }
 
-bool TreeEditor::Move(const Items& items, DropPlace to)
+QString TreeEditor::Move(const Items& items, DropPlace to)
 {
-    const auto isInside = [&to](const TreeItem& item) { return item.category && Holds(item, to.parent); };
-    if (std::ranges::any_of(items, isInside))
-        return false;
-    if (items.empty() || (items.size() == 1 && IsThere(items.front(), to)))
-        return true;
-    const UndoMacro macro(m_document.Undo(), tr("Move"));
+    const auto holdsIt = [&to](const TreeItem& item) { return item.category && Holds(item, to.parent); };
+    if (std::ranges::any_of(items, holdsIt))
+        return tr("A category cannot be moved into itself.");
+    Clamp(to);
+    auto moves = Moves(items, to);
+    const auto comesIn = [](const MovedItem& moved) { return moved.from.parent != moved.to.parent; };
+    if (KeepsItself(to.parent) && std::ranges::any_of(moves, comesIn))
+        return tr("Recently used presets come and go: move yours elsewhere.");
+    if (std::ranges::all_of(moves, &StaysWhereItIs))
+        return {};
+    Push(std::make_unique<MoveEdit>(m_document.Tree(), std::move(moves)), tr("Move"));
+    return {};
+}
+
+std::vector<MovedItem> TreeEditor::Moves(const Items& items, const DropPlace& to) const
+{
+    const PlaceFinder places(m_document.Root());
     FreeNames names(*to.parent);
-    const bool keepsItself = to.parent == FindRecentCategory(*m_document.Root());
-    TreePlace from;
+    std::vector<MovedItem> moves;
     for (const auto& item : items)
     {
-        from = m_document.Tree().PlaceBeside(item, from);
+        const auto from = places.Find(item);
         if (!from.parent)
             continue;
+        const auto name = NameOf(item);
         const bool comesIn = from.parent != to.parent;
-        if (comesIn && keepsItself && item.IsPreset())
-        {
-            CopyOne(item, names, to);
-            continue;
-        }
-        if (comesIn)
-            SetName(item, names.Take(item, NameOf(item)));
-        MoveOne(item, from, to);
+        moves.push_back({item, from, {to.parent, 0}, name, comesIn ? names.Take(item, name) : name});
     }
-    return true;
-}
-
-bool TreeEditor::IsThere(const TreeItem& item, DropPlace place) const
-{
-    const auto from = m_document.Tree().PlaceOf(item);
-    const int index = std::min(IndexFor(item, place), CountLike(*place.parent, item));
-    return from.parent == place.parent && (index == from.index || index == from.index + 1);
-}
-
-void TreeEditor::MoveOne(const TreeItem& item, const TreePlace& from, DropPlace& to)
-{
-    auto& index = IndexFor(item, to);
-    const bool isBehind = from.parent == to.parent && from.index < index;
-    const int last = CountLike(*to.parent, item) - (from.parent == to.parent ? 1 : 0);
-    const int target = std::clamp(index - (isBehind ? 1 : 0), 0, last);
-    m_document.Undo().push(new MoveEdit(m_document.Tree(), item, from, {to.parent, target}));
-    index = target + 1;
+    NumberPlaces(moves, to);
+    return moves;
 }
 
 Items TreeEditor::Copy(const Items& items, DropPlace to)
 {
-    const UndoMacro macro(m_document.Undo(), tr("Copy"));
-    FreeNames names(*to.parent);
-    Items copies;
-    for (const auto& item : items)
-        copies.push_back(CopyOne(item, names, to));
-    return copies;
+    Added added;
+    if (const auto taker = Taker(to.parent, added); taker != to.parent)
+        to = {taker};
+    return Copy(items, to, std::move(added), tr("Copy"));
 }
 
-TreeItem TreeEditor::CopyOne(const TreeItem& item, FreeNames& names, DropPlace& to)
+Items TreeEditor::CloneIntoOwn(const Items& items)
 {
-    auto copy = CopyOf(item);
-    Studio::SetName(copy, names.Take(copy, NameOf(copy)));
-    auto& index = IndexFor(copy, to);
-    index = std::clamp(index, 0, CountLike(*to.parent, copy));
-    Insert(copy, {to.parent, index++});
-    return copy;
+    Added added;
+    const DropPlace to{OwnCategory(m_document.Root(), added)};
+    return Copy(items, to, std::move(added), tr("Clone"));
+}
+
+Items TreeEditor::Copy(const Items& items, DropPlace to, Added added, const QString& what)
+{
+    Clamp(to);
+    FreeNames names(*to.parent);
+    Items copies;
+    copies.reserve(items.size());
+    for (const auto& item : items)
+    {
+        copies.push_back(CopyOf(item));
+        SetName(copies.back(), names.Take(item, NameOf(item)));
+        added.push_back({copies.back(), {to.parent, IndexFor(item, to)++}});
+    }
+    Insert(std::move(added), what);
+    return copies;
 }
 
 void TreeEditor::Shift(const TreeItem& item, int by)
@@ -153,84 +183,82 @@ void TreeEditor::Shift(const TreeItem& item, int by)
     if (!from.parent)
         return;
     const int target = std::clamp(from.index + by, 0, CountLike(*from.parent, item) - 1);
-    if (target == from.index)
-        return;
-    const UndoMacro macro(m_document.Undo(), tr("Move"));
-    m_document.Undo().push(new MoveEdit(m_document.Tree(), item, from, {from.parent, target}));
+    DropPlace to{from.parent};
+    IndexFor(item, to) = target + (target > from.index ? 1 : 0);
+    Move({item}, to);
 }
 
-Items TreeEditor::CloneIntoOwn(const Items& items)
+Node TreeEditor::Taker(const Node& wanted, Added& added) const
 {
-    const UndoMacro macro(m_document.Undo(), tr("Clone"));
-    return Copy(items, {OwnCategory().category});
+    return KeepsItself(wanted) ? OwnCategory(m_document.Root(), added) : wanted;
 }
 
-// By its icon or its name.
-TreeItem TreeEditor::OwnCategory()
+bool TreeEditor::KeepsItself(const Node& category) const
 {
-    const auto& root = m_document.Root();
-    TreeItem found{root->FindChild(kOwnCategory)};
-    for (const auto& child : root->GetChildList())
-        if (child->FaceID() == IVXArtworkImageMgr::CategoryFaceIDCustomize)
-            found.category = child;
-    if (!found)
-    {
-        found = AddCategory(root, kOwnCategory);
-        found.category->SetFaceID(IVXArtworkImageMgr::CategoryFaceIDCustomize);
-    }
-    return found;
+    return category == FindRecentCategory(*m_document.Root());
 }
 
 TreeItem TreeEditor::AddCategory(const Node& parent, const QString& name)
 {
-    TreeItem item{IVXFormatNode::MallocFormatNode(Node())};
-    Studio::SetName(item, FreeNames(*parent).Take(item, name));
-    const UndoMacro macro(m_document.Undo(), tr("New Category"));
-    Insert(item, {parent, parent->ChildCount()});
+    const TreeItem item{IVXFormatNode::MallocFormatNode(Node())};
+    SetName(item, FreeNames(*parent).Take(item, name));
+    Insert({{item, {parent, parent->ChildCount()}}}, tr("New Category"));
     return item;
 }
 
 TreeItem TreeEditor::AddPreset(const Node& parent, const QString& container)
 {
-    TreeItem item{{}, IVXFormatPreset::MallocFormatPreset(container.toStdString(), {})};
+    const TreeItem item{{}, IVXFormatPreset::MallocFormatPreset(container.toStdString(), {})};
     if (!item)
         return {};
-    Studio::SetName(item, FreeNames(*parent).Take(item, container));
-    const UndoMacro macro(m_document.Undo(), tr("New Preset"));
-    Insert(item, {parent, parent->FormatPresetCount()});
+    Added added;
+    const auto taker = Taker(parent, added);
+    SetName(item, FreeNames(*taker).Take(item, container));
+    added.push_back({item, {taker, taker->FormatPresetCount()}});
+    Insert(std::move(added), tr("New Preset"));
     return item;
 }
 
 Items TreeEditor::AddAll(IVXFormatNode& root, const QString& what)
 {
-    const UndoMacro macro(m_document.Undo(), what);
+    Added added;
     Items presets;
-    Absorb(m_document.Root(), root, presets);
+    Absorb(m_document.Root(), root, added, presets);
+    Insert(std::move(added), what);
     return presets;
 }
 
-void TreeEditor::Insert(const TreeItem& item, const TreePlace& place)
+void TreeEditor::Insert(Added items, const QString& what)
 {
-    m_document.Undo().push(new InsertEdit(m_document.Tree(), item, place));
+    if (!items.empty())
+        Push(std::make_unique<InsertEdit>(m_document.Tree(), std::move(items)), what);
+}
+
+void TreeEditor::Push(std::unique_ptr<QUndoCommand> edit, const QString& what)
+{
+    edit->setText(what);
+    m_document.Undo().push(edit.release());
 }
 
 // As deep as the categories that are there already.
-void TreeEditor::Absorb(const Node& into, IVXFormatNode& node, Items& presets)
+void TreeEditor::Absorb(const Node& into, IVXFormatNode& node, Added& added, Items& presets) const
 {
-    FreeNames names(*into);
+    const auto taker = Taker(into, added);
+    FreeNames names(*taker);
+    int presetIndex = taker->FormatPresetCount();
     for (int i = 0; i < node.FormatPresetCount(); ++i)
     {
         const TreeItem preset{{}, node.GetFormatPreset(i)};
-        Studio::SetName(preset, names.Take(preset, NameOf(preset)));
-        Insert(preset, {into, into->FormatPresetCount()});
+        SetName(preset, names.Take(preset, NameOf(preset)));
+        added.push_back({preset, {taker, presetIndex++}});
         presets.push_back(preset);
     }
     for (const auto& child : node.GetChildList())
         if (const auto same = into->FindChild(child->Name()))
-            Absorb(same, *child, presets);
+            Absorb(same, *child, added, presets);
         else
         {
-            Insert({child}, {into, into->ChildCount()});
+            added.push_back({{child}, {into, NextCategory(into, added)}});
             CollectPresets(*child, presets);
         }
 }

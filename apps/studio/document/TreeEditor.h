@@ -6,12 +6,14 @@
 #include <QString>
 
 #include <limits>
+#include <memory>
 #include <vector>
+
+class QUndoCommand;
 
 namespace Vexlor::Studio
 {
 
-class FreeNames;
 class StudioDocument;
 
 /// Where items go to: into that category, in front of those positions; to the ends of its lists where none
@@ -24,7 +26,8 @@ struct DropPlace
 };
 
 /// What a user does with categories and presets; each operation is one step that can be undone. No operation
-/// leaves two siblings of one kind and name where there were none.
+/// leaves two siblings of one kind and name where there were none. What would come into the category of
+/// recently used presets, from which anything may go, comes into that of the user's own instead.
 class TreeEditor
 {
     Q_DECLARE_TR_FUNCTIONS(Vexlor::Studio::TreeEditor)
@@ -37,10 +40,9 @@ public:
     /// Gives the item another name; answers why not, in words, where that one is empty or taken.
     QString Rename(const TreeItem& item, const QString& name);
     void Remove(const Items& items);
-    /// Moves the items so that they follow one another there; presets that come into the category of recently
-    /// used ones, which keeps itself, are copied instead. Answers false, and nothing happens, where a
-    /// category would come into itself.
-    bool Move(const Items& items, DropPlace to);
+    /// Moves the items so that they follow one another there; answers why not, in words, where a category
+    /// would come into itself, or something into the category of recently used presets, which keeps itself.
+    QString Move(const Items& items, DropPlace to);
     /// Copies the items to that place; answers the copies.
     Items Copy(const Items& items, DropPlace to);
     /// Moves the item within its list by that many places.
@@ -56,13 +58,16 @@ public:
     Items AddAll(IVXFormatNode& root, const QString& what);
 
 private:
-    TreeItem OwnCategory();
-    void Insert(const TreeItem& item, const TreePlace& place);
-    bool IsThere(const TreeItem& item, DropPlace place) const;
-    TreeItem CopyOne(const TreeItem& item, FreeNames& names, DropPlace& to);
-    void SetName(const TreeItem& item, const QString& name);
-    void MoveOne(const TreeItem& item, const TreePlace& from, DropPlace& to);
-    void Absorb(const std::shared_ptr<IVXFormatNode>& into, IVXFormatNode& node, Items& presets);
+    using Added = std::vector<PlacedItem>;
+
+    bool KeepsItself(const std::shared_ptr<IVXFormatNode>& category) const;
+    std::shared_ptr<IVXFormatNode> Taker(const std::shared_ptr<IVXFormatNode>& wanted, Added& added) const;
+    std::vector<MovedItem> Moves(const Items& items, const DropPlace& to) const;
+    Items Copy(const Items& items, DropPlace to, Added added, const QString& what);
+    void Absorb(const std::shared_ptr<IVXFormatNode>& into, IVXFormatNode& node, Added& added,
+                Items& presets) const;
+    void Insert(Added items, const QString& what);
+    void Push(std::unique_ptr<QUndoCommand> edit, const QString& what);
 
     StudioDocument& m_document;
 };

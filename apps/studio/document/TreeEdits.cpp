@@ -1,5 +1,7 @@
 #include "TreeEdits.h"
 
+#include "OwnCategory.h"
+
 #include <utility>
 
 namespace Vexlor::Studio
@@ -12,32 +14,32 @@ constexpr int kMergeableID = 2; // another than that of a preset's content
 
 } // namespace
 
-InsertEdit::InsertEdit(PresetTree& tree, TreeItem item, TreePlace place)
-    : m_tree(tree), m_item(std::move(item)), m_place(std::move(place))
+InsertEdit::InsertEdit(PresetTree& tree, std::vector<PlacedItem> items, QUndoCommand* whole)
+    : QUndoCommand(whole), m_tree(tree), m_items(std::move(items))
 {
 }
 
-void InsertEdit::undo() { m_tree.Remove(m_item, m_place.parent); }
+void InsertEdit::undo() { m_tree.Remove(m_items); }
 
-void InsertEdit::redo() { m_tree.Insert(m_item, m_place); }
+void InsertEdit::redo() { m_tree.Insert(m_items); }
 
-RemoveEdit::RemoveEdit(PresetTree& tree, TreeItem item, TreePlace place)
-    : m_tree(tree), m_item(std::move(item)), m_place(std::move(place))
+RemoveEdit::RemoveEdit(PresetTree& tree, std::vector<PlacedItem> items)
+    : m_tree(tree), m_items(std::move(items))
 {
 }
 
-void RemoveEdit::undo() { m_tree.Insert(m_item, m_place); }
+void RemoveEdit::undo() { m_tree.Insert(m_items); }
 
-void RemoveEdit::redo() { m_tree.Remove(m_item, m_place.parent); }
+void RemoveEdit::redo() { m_tree.Remove(m_items); }
 
-MoveEdit::MoveEdit(PresetTree& tree, TreeItem item, TreePlace from, TreePlace to)
-    : m_tree(tree), m_item(std::move(item)), m_from(std::move(from)), m_to(std::move(to))
+MoveEdit::MoveEdit(PresetTree& tree, std::vector<MovedItem> items, QUndoCommand* whole)
+    : QUndoCommand(whole), m_tree(tree), m_items(std::move(items))
 {
 }
 
-void MoveEdit::undo() { m_tree.Move(m_item, m_to.parent, m_from); }
+void MoveEdit::undo() { m_tree.Move(Reversed(m_items)); }
 
-void MoveEdit::redo() { m_tree.Move(m_item, m_from.parent, m_to); }
+void MoveEdit::redo() { m_tree.Move(m_items); }
 
 LookEdit::LookEdit(PresetTree& tree, TreeItem item, ItemLook look, int run)
     : m_tree(tree), m_item(std::move(item)), m_before(LookOf(m_item)), m_after(std::move(look)), m_run(run)
@@ -52,12 +54,31 @@ bool LookEdit::mergeWith(const QUndoCommand* other)
     if (next == nullptr || !(next->m_item == m_item) || next->m_run != m_run)
         return false;
     m_after = next->m_after;
-    setObsolete(m_after == m_before);
+    setObsolete(m_after == m_before && childCount() == 0); // what it did besides is to be undone
     return true;
 }
 
-void LookEdit::undo() { m_tree.SetLook(m_item, m_before); }
+void LookEdit::undo()
+{
+    m_tree.SetLook(m_item, m_before);
+    QUndoCommand::undo();
+}
 
-void LookEdit::redo() { m_tree.SetLook(m_item, m_after); }
+void LookEdit::redo()
+{
+    QUndoCommand::redo();
+    m_tree.SetLook(m_item, m_after);
+}
+
+// The step deletes what belongs to it.
+void AdoptAsOwn(PresetTree& tree, const PlacedItem& recent, QUndoCommand& step)
+{
+    std::vector<PlacedItem> added;
+    const auto own = OwnCategory(tree.Root(), added);
+    if (!added.empty())
+        new InsertEdit(tree, std::move(added), &step);
+    const TreePlace place{own, CountLike(*own, recent.item)};
+    new MoveEdit(tree, {{recent.item, recent.place, place}}, &step);
+}
 
 } // namespace Vexlor::Studio

@@ -4,50 +4,48 @@
 
 #include <QUndoCommand>
 
+#include <vector>
+
 namespace Vexlor::Studio
 {
 
-/// An item comes into the tree.
+/// Items come into the tree; the indexes are those that they have then.
 class InsertEdit final : public QUndoCommand
 {
 public:
-    InsertEdit(PresetTree& tree, TreeItem item, TreePlace place);
+    InsertEdit(PresetTree& tree, std::vector<PlacedItem> items, QUndoCommand* whole = nullptr);
     void undo() override;
     void redo() override;
 
 private:
     PresetTree& m_tree;
-    TreeItem m_item;
-    TreePlace m_place;
+    std::vector<PlacedItem> m_items;
 };
 
-/// An item leaves the tree.
+/// Items leave the tree.
 class RemoveEdit final : public QUndoCommand
 {
 public:
-    RemoveEdit(PresetTree& tree, TreeItem item, TreePlace place);
+    RemoveEdit(PresetTree& tree, std::vector<PlacedItem> items);
     void undo() override;
     void redo() override;
 
 private:
     PresetTree& m_tree;
-    TreeItem m_item;
-    TreePlace m_place;
+    std::vector<PlacedItem> m_items;
 };
 
-/// An item goes to another place; the index of that one counts without the item.
+/// Items go to other places; the indexes are those that they have before and after all of them have gone.
 class MoveEdit final : public QUndoCommand
 {
 public:
-    MoveEdit(PresetTree& tree, TreeItem item, TreePlace from, TreePlace to);
+    MoveEdit(PresetTree& tree, std::vector<MovedItem> items, QUndoCommand* whole = nullptr);
     void undo() override;
     void redo() override;
 
 private:
     PresetTree& m_tree;
-    TreeItem m_item;
-    TreePlace m_from;
-    TreePlace m_to;
+    std::vector<MovedItem> m_items;
 };
 
 /// An item is called or shown in another way.
@@ -68,5 +66,8 @@ private:
     ItemLook m_after;
     int m_run;
 };
+
+/// Has the step take the item, which is recently used and might go, into the category of the user's own.
+void AdoptAsOwn(PresetTree& tree, const PlacedItem& recent, QUndoCommand& step);
 
 } // namespace Vexlor::Studio

@@ -69,6 +69,16 @@ void SetLook(const TreeItem& item, const ItemLook& look)
         Wear(*item.category, look);
 }
 
+std::vector<MovedItem> Reversed(std::vector<MovedItem> items)
+{
+    for (auto& moved : items)
+    {
+        std::swap(moved.from, moved.to);
+        std::swap(moved.nameFrom, moved.nameTo);
+    }
+    return items;
+}
+
 int IndexOf(IVXFormatNode& parent, const TreeItem& item)
 {
     return item.preset ? parent.IndexOfFormatPreset(item.preset) : parent.IndexOfChild(item.category);

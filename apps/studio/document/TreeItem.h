@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <memory>
+#include <vector>
 
 namespace Vexlor
 {
@@ -40,6 +41,26 @@ struct TreePlace
     std::shared_ptr<IVXFormatNode> parent = {};
     int index = 0;
 };
+
+/// An item and where it stands, or is to stand.
+struct PlacedItem
+{
+    TreeItem item = {};
+    TreePlace place = {};
+};
+
+/// An item on its way to another place; there it may have another name.
+struct MovedItem
+{
+    TreeItem item = {};
+    TreePlace from = {};
+    TreePlace to = {};
+    QString nameFrom = {};
+    QString nameTo = {};
+};
+
+/// The way back of all.
+std::vector<MovedItem> Reversed(std::vector<MovedItem> items);
 
 QString NameOf(const TreeItem& item);
 QString DescriptionOf(const TreeItem& item);

@@ -734,13 +734,6 @@
     </message>
 </context>
 <context>
-    <name>Vexlor::Studio::FormatTreeModel</name>
-    <message>
-        <source>A category cannot be moved into itself.</source>
-        <translation>Eine Kategorie lässt sich nicht in sich selbst verschieben.</translation>
-    </message>
-</context>
-<context>
     <name>Vexlor::Studio::GradeText</name>
     <message>
         <source>Auto</source>
@@ -2754,8 +2747,8 @@
         <translation>Nach &amp;oben</translation>
     </message>
     <message>
-        <source>Recently used presets come and go: paste what was cut elsewhere.</source>
-        <translation>Zuletzt benutzte Vorgaben kommen und gehen: Ausgeschnittenes bitte anderswo einfügen.</translation>
+        <source>Recently used presets come and go: what is new stands in &quot;%1&quot;.</source>
+        <translation>Zuletzt benutzte Vorgaben kommen und gehen: Neues steht in „%1“.</translation>
     </message>
 </context>
 <context>
@@ -2802,11 +2795,11 @@
     </message>
     <message>
         <source>A category cannot be moved into itself.</source>
-        <translation type="unfinished">Eine Kategorie lässt sich nicht in sich selbst verschieben.</translation>
+        <translation>Eine Kategorie lässt sich nicht in sich selbst verschieben.</translation>
     </message>
     <message>
         <source>Recently used presets come and go: move yours elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt benutzte Vorgaben kommen und gehen: Eigenes bitte anderswohin verschieben.</translation>
     </message>
 </context>
 <context>
@@ -2839,6 +2832,10 @@ Esc zeigt wieder alle Vorgaben.</translation>
     <message>
         <source>This document has no presets yet. Make one with Presets &gt; New Preset, or bring in those of another program with Presets &gt; Import.</source>
         <translation>Dieses Dokument hat noch keine Vorgaben. Legen Sie mit Vorgaben &gt; Neue Vorgabe eine an, oder holen Sie mit Vorgaben &gt; Importieren die eines anderen Programms.</translation>
+    </message>
+    <message>
+        <source>Recently used presets come and go: &quot;%1&quot; stands in &quot;%2&quot; now.</source>
+        <translation>Zuletzt benutzte Vorgaben kommen und gehen: „%1“ steht nun in „%2“.</translation>
     </message>
 </context>
 </TS>

@@ -23,7 +23,7 @@ FormatFilterModel::FormatFilterModel(StudioDocument& document, QObject* parent)
     connect(&tree, &PresetTree::Reset, this, &FormatFilterModel::SearchSoon);
     connect(&tree, &PresetTree::Inserted, this, &FormatFilterModel::SearchSoon);
     connect(&tree, &PresetTree::Removed, this, &FormatFilterModel::SearchSoon);
-    connect(&tree, &PresetTree::Moved, this, &FormatFilterModel::SearchSoon);
+    connect(&tree, &PresetTree::Rearranged, this, &FormatFilterModel::SearchSoon);
 }
 
 void FormatFilterModel::SetText(const QString& text)

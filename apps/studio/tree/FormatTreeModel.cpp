@@ -2,6 +2,8 @@
 
 #include "FaceIcons.h"
 #include "TreeMime.h"
+#include "apps/studio/document/PlaceFinder.h"
+#include "apps/studio/document/RecentPresets.h"
 #include "apps/studio/document/StudioDocument.h"
 
 #include "IVXFormatNode.h"
@@ -22,9 +24,9 @@ namespace
 using Node = std::shared_ptr<IVXFormatNode>;
 
 /// The row of something in its category: presets stand behind categories.
-int RowFor(const TreeItem& item, const TreePlace& place)
+int RowFor(bool isPreset, const IVXFormatNode& parent, int index)
 {
-    return item.preset ? place.parent->ChildCount() + place.index : place.index;
+    return isPreset ? parent.ChildCount() + index : index;
 }
 
 /// The item of that row.
@@ -103,27 +105,42 @@ void FormatTreeModel::FollowTree()
                 endResetModel();
             });
     connect(&tree, &PresetTree::AboutToInsert, this,
-            [this](const TreeItem& item, const TreePlace& place)
+            [this](const ItemRun& run)
             {
-                const int row = RowFor(item, place);
-                beginInsertRows(IndexOfNode(place.parent), row, row);
+                const int row = RowFor(run.list.isOfPresets, *run.list.category, run.index);
+                beginInsertRows(IndexOfNode(run.list.category), row, row + run.Count() - 1);
             });
     connect(&tree, &PresetTree::Inserted, this, [this] { endInsertRows(); });
     connect(&tree, &PresetTree::AboutToRemove, this,
-            [this](const TreeItem& item, const TreePlace& place)
+            [this](const ItemRun& run)
             {
-                const int row = RowFor(item, place);
-                beginRemoveRows(IndexOfNode(place.parent), row, row);
+                const int row = RowFor(run.list.isOfPresets, *run.list.category, run.index);
+                beginRemoveRows(IndexOfNode(run.list.category), row, row + run.Count() - 1);
             });
     connect(&tree, &PresetTree::Removed, this, [this] { endRemoveRows(); });
-    connect(&tree, &PresetTree::AboutToMove, this,
-            [this](const TreeItem& item, const TreePlace& from, const TreePlace& to)
-            {
-                const int row = RowFor(item, from);
-                beginMoveRows(IndexOfNode(from.parent), row, row, IndexOfNode(to.parent), RowFor(item, to));
-            });
-    connect(&tree, &PresetTree::Moved, this, [this] { endMoveRows(); });
+    connect(&tree, &PresetTree::AboutToRearrange, this, &FormatTreeModel::BeginRearranging);
+    connect(&tree, &PresetTree::Rearranged, this, &FormatTreeModel::EndRearranging);
     connect(&tree, &PresetTree::LookChanged, this, &FormatTreeModel::TellOfItem);
+}
+
+// What views hold on to follows its items.
+void FormatTreeModel::BeginRearranging()
+{
+    emit layoutAboutToBeChanged();
+    m_isRearranging = true;
+    m_held = persistentIndexList();
+    m_heldItems.clear();
+    for (const auto& index : m_held)
+        m_heldItems.push_back(ItemAt(index));
+}
+
+void FormatTreeModel::EndRearranging()
+{
+    changePersistentIndexList(m_held, RowsOf(m_heldItems));
+    m_isRearranging = false;
+    m_held.clear();
+    m_heldItems.clear();
+    emit layoutChanged();
 }
 
 TreeItem FormatTreeModel::ItemAt(const QModelIndex& index) const
@@ -142,20 +159,25 @@ QModelIndex FormatTreeModel::IndexOfItem(const TreeItem& item) const
 
 QModelIndexList FormatTreeModel::IndexesOf(const std::vector<TreeItem>& items) const
 {
+    auto indexes = RowsOf(items);
+    indexes.removeIf([](const QModelIndex& index) { return !index.isValid(); });
+    return indexes;
+}
+
+QModelIndexList FormatTreeModel::RowsOf(const std::vector<TreeItem>& items) const
+{
+    const PlaceFinder places(m_document.Root());
     QModelIndexList indexes;
-    TreePlace place;
     for (const auto& item : items)
-    {
-        place = m_document.Tree().PlaceBeside(item, place);
-        if (const auto index = IndexAt(item, place); index.isValid())
-            indexes.append(index);
-    }
+        indexes.append(IndexAt(item, places.Find(item)));
     return indexes;
 }
 
 QModelIndex FormatTreeModel::IndexAt(const TreeItem& item, const TreePlace& place) const
 {
-    return place.parent ? createIndex(RowFor(item, place), 0, place.parent.get()) : QModelIndex();
+    return place.parent
+               ? createIndex(RowFor(item.IsPreset(), *place.parent, place.index), 0, place.parent.get())
+               : QModelIndex();
 }
 
 QModelIndex FormatTreeModel::index(int row, int column, const QModelIndex& parent) const
@@ -261,7 +283,13 @@ bool FormatTreeModel::canDropMimeData(const QMimeData* data, Qt::DropAction acti
                                       const QModelIndex& parent) const
 {
     const bool isTaken = action == Qt::MoveAction || action == Qt::CopyAction;
-    return isTaken && data->hasFormat(kTreeMimeType) && !ItemAt(parent).IsPreset();
+    const auto category = ItemAt(parent).category;
+    if (!isTaken || !data->hasFormat(kTreeMimeType) || !category)
+        return false;
+    // Recently used presets keep themselves, but for their order.
+    const auto isIn = [&category](const TreeItem& item) { return IndexOf(*category, item) >= 0; };
+    return category != FindRecentCategory(*m_document.Root()) ||
+           (action == Qt::MoveAction && HoldsObjects(*data) && std::ranges::all_of(ItemsIn(*data), isIn));
 }
 
 bool FormatTreeModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
@@ -277,17 +305,18 @@ bool FormatTreeModel::dropMimeData(const QMimeData* data, Qt::DropAction action,
     }
     TreeEditor editor(m_document);
     auto items = ItemsIn(*data);
-    const bool isMoved = action == Qt::MoveAction && HoldsObjects(*data);
-    if (!isMoved)
+    if (action == Qt::CopyAction || !HoldsObjects(*data))
         items = editor.Copy(items, place);
-    if (isMoved && !editor.Move(items, place))
-        emit Refused(tr("A category cannot be moved into itself."));
+    else if (const auto reason = editor.Move(items, place); !reason.isEmpty())
+        emit Refused(reason);
     emit Dropped(items);
     return true;
 }
 
 void FormatTreeModel::TellOfItem(const TreeItem& item)
 {
+    if (m_isRearranging)
+        return; // everything is looked at anew then
     if (const auto index = IndexOfItem(item); index.isValid())
         emit dataChanged(index, index);
 }

@@ -60,15 +60,21 @@ signals:
     void Dropped(const std::vector<Vexlor::Studio::TreeItem>& items);
 
 private:
+    QModelIndexList RowsOf(const std::vector<TreeItem>& items) const;
     QModelIndex IndexAt(const TreeItem& item, const TreePlace& place) const;
     int RowOf(IVXFormatNode& parent, const IVXFormatNode* child) const;
     QModelIndex IndexOfNode(const std::shared_ptr<IVXFormatNode>& node) const;
     void FollowTree();
+    void BeginRearranging();
+    void EndRearranging();
     void TellOfItem(const TreeItem& item);
 
     StudioDocument& m_document;
     const FaceIcons& m_icons;
     mutable std::unordered_map<const IVXFormatNode*, int> m_rows; // where children stood last; looked at anew
+    QModelIndexList m_held;            // persistent indexes, while the tree is rearranged
+    std::vector<TreeItem> m_heldItems; // what they are of
+    bool m_isRearranging = false;
 };
 
 } // namespace Vexlor::Studio

@@ -55,12 +55,6 @@ QVariant TreeMime::retrieveData(const QString& type, QMetaType) const
 
 bool HoldsObjects(const QMimeData& data) { return qobject_cast<const TreeMime*>(&data) != nullptr; }
 
-bool IsCut(const QMimeData& data)
-{
-    const auto* mime = qobject_cast<const TreeMime*>(&data);
-    return mime != nullptr && mime->IsCut();
-}
-
 std::vector<TreeItem> ItemsIn(const QMimeData& data)
 {
     if (const auto* mime = qobject_cast<const TreeMime*>(&data))

@@ -18,14 +18,9 @@ class TreeMime : public QMimeData
     Q_OBJECT
 
 public:
-    /// What was cut is nowhere else.
-    explicit TreeMime(std::vector<TreeItem> items, bool isCut = false)
-        : m_items(std::move(items)), m_isCut(isCut)
-    {
-    }
+    explicit TreeMime(std::vector<TreeItem> items) : m_items(std::move(items)) {}
 
     const std::vector<TreeItem>& Items() const { return m_items; }
-    bool IsCut() const { return m_isCut; }
 
     QStringList formats() const override;
     bool hasFormat(const QString& type) const override { return formats().contains(type); }
@@ -35,13 +30,10 @@ protected:
 
 private:
     std::vector<TreeItem> m_items;
-    bool m_isCut;
 };
 
 /// True when the objects themselves are in it, so that they can be moved.
 bool HoldsObjects(const QMimeData& data);
-/// True when this program cut it out of a tree.
-bool IsCut(const QMimeData& data);
 /// What is in it; new objects where it came from another program.
 std::vector<TreeItem> ItemsIn(const QMimeData& data);
 

@@ -52,6 +52,7 @@ TreePane::TreePane(StudioDocument& document, const FaceIcons& icons, QWidget* pa
     connect(m_model, &FormatTreeModel::Dropped, this, &TreePane::Select, Qt::QueuedConnection);
     for (const auto change : {&PresetTree::Reset, &PresetTree::Inserted, &PresetTree::Removed})
         connect(&document.Tree(), change, this, &TreePane::ShowState);
+    connect(&document, &StudioDocument::MadeOwn, this, &TreePane::TellOfOwn);
     connect(&document.Tree(), &PresetTree::Reset, this, &TreePane::KeepCurrent);
     connect(&document.Tree(), &PresetTree::Removed, this, &TreePane::KeepCurrent);
 }
@@ -212,6 +213,15 @@ void TreePane::KeepCurrent()
         return;
     m_current = item;
     emit CurrentChanged(item);
+}
+
+void TreePane::TellOfOwn(const std::shared_ptr<IVXFormatPreset>& preset)
+{
+    const TreeItem item{{}, preset};
+    if (m_current == item)
+        m_view->scrollTo(m_view->currentIndex());
+    emit Told(tr("Recently used presets come and go: \"%1\" stands in \"%2\" now.")
+                  .arg(NameOf(item), NameOf({m_document.Tree().ParentOf(item)})));
 }
 
 QModelIndex TreePane::ShownIndexOf(const TreeItem& item) const

@@ -49,6 +49,8 @@ signals:
     void SelectionChanged();
     /// Why something was not done, in words.
     void Refused(const QString& reason);
+    /// What was done otherwise than one may have thought, in words.
+    void Told(const QString& text);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -61,6 +63,7 @@ private:
     void ShowFound();
     void LeaveRows(const QModelIndex& parent, int first, int last);
     void KeepCurrent();
+    void TellOfOwn(const std::shared_ptr<IVXFormatPreset>& preset);
     QModelIndex ShownIndexOf(const TreeItem& item) const;
     TreeItem FirstFoundPreset(const QModelIndex& parent) const;
 

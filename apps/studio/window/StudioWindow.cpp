@@ -110,8 +110,9 @@ void StudioWindow::Lay()
 void StudioWindow::Connect()
 {
     connect(m_tree, &TreePane::CurrentChanged, this, &StudioWindow::ShowItem);
-    connect(m_tree, &TreePane::Refused, this,
-            [this](const QString& reason) { statusBar()->showMessage(reason, kMessageTime); });
+    for (const auto telling : {&TreePane::Refused, &TreePane::Told})
+        connect(m_tree, telling, this,
+                [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); });
     connect(&m_document, &StudioDocument::StateChanged, this, &StudioWindow::ShowState);
     m_recovery.SetNote([this] { return OwnBitrates::NoteOf(m_document); });
     connect(&m_recovery, &Recovery::FailureChanged, m_lossMessage,

@@ -59,8 +59,9 @@ void TreeActions::MakeNewMenu()
         connect(m_newPreset->addAction(container), &QAction::triggered, this,
                 [this, container]
                 {
-                    if (const auto item = m_editor.AddPreset(m_pane.CurrentCategory(), container))
-                        m_pane.Select({item});
+                    const auto place = m_pane.CurrentCategory();
+                    if (const auto item = m_editor.AddPreset(place, container))
+                        ShowNew({item}, place);
                 });
     }
 }
@@ -87,21 +88,19 @@ void TreeActions::ShowPossible()
 
 void TreeActions::Cut()
 {
-    ToClipboard(true);
+    Copy();
     Delete();
 }
 
 // What is pasted is what was copied, whatever becomes of it until then.
-void TreeActions::ToClipboard(bool isCut)
+void TreeActions::Copy()
 {
     auto items = m_pane.Selected();
     if (items.empty())
         return;
     std::ranges::transform(items, items.begin(), CopyOf);
-    QGuiApplication::clipboard()->setMimeData(new TreeMime(std::move(items), isCut));
+    QGuiApplication::clipboard()->setMimeData(new TreeMime(std::move(items)));
 }
-
-void TreeActions::Copy() { ToClipboard(false); }
 
 void TreeActions::Paste()
 {
@@ -109,15 +108,18 @@ void TreeActions::Paste()
     if (data == nullptr || !data->hasFormat(kTreeMimeType))
         return;
     DropPlace place{m_pane.CurrentCategory()};
-    if (IsCut(*data) && place.parent == FindRecentCategory(*m_document.Root()))
-    {
-        emit m_pane.Refused(tr("Recently used presets come and go: paste what was cut elsewhere."));
-        return;
-    }
     const auto current = m_pane.Current();
     if (current.IsPreset())
         place.presetIndex = IndexOf(*place.parent, current) + 1;
-    m_pane.Select(m_editor.Copy(ItemsIn(*data), place));
+    ShowNew(m_editor.Copy(ItemsIn(*data), place), place.parent);
+}
+
+void TreeActions::ShowNew(const std::vector<TreeItem>& items, const std::shared_ptr<IVXFormatNode>& wanted)
+{
+    m_pane.Select(items);
+    if (!items.empty() && wanted == FindRecentCategory(*m_document.Root()))
+        emit m_pane.Told(tr("Recently used presets come and go: what is new stands in \"%1\".")
+                             .arg(NameOf({m_pane.CurrentCategory()})));
 }
 
 // The keyboard stays near what is gone.

@@ -35,7 +35,7 @@ private:
     void ShowPossible();
     void Cut();
     void Copy();
-    void ToClipboard(bool isCut);
+    void ShowNew(const std::vector<TreeItem>& items, const std::shared_ptr<IVXFormatNode>& wanted);
     void Paste();
     void Delete();
     void Rename();
