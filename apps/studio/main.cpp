@@ -1,3 +1,4 @@
+#include "document/Aside.h"
 #include "window/Languages.h"
 #include "window/Screenshot.h"
 #include "window/StartOptions.h"
@@ -8,6 +9,7 @@
 
 #include <clocale>
 #include <cstdio>
+#include <cstdlib>
 
 namespace
 {
@@ -34,6 +36,15 @@ int Run(const StartOptions& options)
     return QApplication::exec();
 }
 
+/// A file that does not answer keeps no program from ending, nor does what reads it find things gone.
+int End(int exitCode)
+{
+    constexpr std::chrono::seconds kPatience(3);
+    if (!AwaitAside(kPatience))
+        std::_Exit(exitCode);
+    return exitCode;
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -44,7 +55,7 @@ int main(int argc, char** argv)
     const Languages languages(StartLine::LanguageIn(QApplication::arguments()));
     const auto start = StartLine::Read(QApplication::arguments());
     if (start.options)
-        return Run(*start.options);
+        return End(Run(*start.options));
     std::fprintf(start.exitCode == 0 ? stdout : stderr, "%s", qUtf8Printable(start.text));
     return start.exitCode;
 }

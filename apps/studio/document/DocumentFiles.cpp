@@ -44,10 +44,17 @@ void DocumentFiles::Open(const QString& path)
 {
     if (m_isBusy)
         return;
-    SetBusy(true);
-    RunAside<DocumentContent>(
-        this, [path = path.toStdString()] { return ReadContent(path); },
-        [this, path](auto result) { TakeOpened(path, std::move(result)); });
+    Begin(path, true);
+    m_work.Start<DocumentContent>([path = path.toStdString()] { return ReadContent(path); },
+                                  [this, path](auto result) { TakeOpened(path, std::move(result)); });
+}
+
+void DocumentFiles::GiveUpReading()
+{
+    if (!m_isReading)
+        return;
+    m_work.Abandon();
+    SetBusy(false);
 }
 
 void DocumentFiles::TakeOpened(const QString& path, AsideResult<DocumentContent> result)
@@ -65,7 +72,7 @@ void DocumentFiles::Save(const QString& path, bool overwrites)
 {
     if (m_isBusy)
         return;
-    SetBusy(true);
+    Begin(path, false);
     const bool isOwn = path == m_document.Path() && !overwrites;
     const auto work = [plan = m_document.Plan(), basis = m_document.Basis(), file = path.toStdString(),
                        expected = isOwn ? m_document.TextOfFile() : std::string(), isOwn]() -> Written
@@ -79,7 +86,7 @@ void DocumentFiles::Save(const QString& path, bool overwrites)
             return {};
         return written;
     };
-    RunAside<Written>(this, work, [this, path](const auto& result) { TakeSaved(path, result); });
+    m_work.Start<Written>(work, [this, path](const auto& result) { TakeSaved(path, result); });
 }
 
 void DocumentFiles::TakeSaved(const QString& path, const AsideResult<Written>& result)
@@ -96,9 +103,17 @@ void DocumentFiles::TakeSaved(const QString& path, const AsideResult<Written>& r
         emit SaveRefused(path);
 }
 
+void DocumentFiles::Begin(const QString& path, bool isReading)
+{
+    m_file = path;
+    m_isReading = isReading;
+    SetBusy(true);
+}
+
 void DocumentFiles::SetBusy(bool isBusy)
 {
     m_isBusy = isBusy;
+    m_isReading = m_isReading && isBusy;
     emit BusyChanged(isBusy);
 }
 
@@ -117,14 +132,14 @@ void DocumentFiles::LookAtFile()
         return m_settling.start();
     Watch();
     const auto path = m_document.Path();
-    RunAside<std::string>(
-        this, [file = path.toStdString()] { return Tool::ReadDocumentText(file); },
-        [this, path](const auto& result)
-        {
-            const bool isOther = result.value && *result.value != m_document.TextOfFile();
-            if (isOther && !m_isBusy && path == m_document.Path())
-                emit ChangedOnDisk(path);
-        });
+    m_look.Start<std::string>([file = path.toStdString()] { return Tool::ReadDocumentText(file); },
+                              [this, path](const auto& result)
+                              {
+                                  const bool isOther =
+                                      result.value && *result.value != m_document.TextOfFile();
+                                  if (isOther && !m_isBusy && path == m_document.Path())
+                                      emit ChangedOnDisk(path);
+                              });
 }
 
 } // namespace Vexlor::Studio

@@ -1,6 +1,5 @@
 #include "Recovery.h"
 
-#include "Aside.h"
 #include "DocumentText.h"
 #include "StudioDocument.h"
 
@@ -110,7 +109,7 @@ Recovery::Recovery(StudioDocument& document, QObject* parent)
 // Whoever ends in order has been asked what is to become of the changes.
 Recovery::~Recovery()
 {
-    QThreadPool::globalInstance()->waitForDone();
+    m_work.Wait();
     Forget();
 }
 
@@ -164,7 +163,7 @@ void Recovery::Keep()
         Write(textFile, TextOf(plan, *basis));
         return true;
     };
-    RunAside<bool>(this, work, [this](const auto& result) { EndKeeping(result.error); });
+    m_work.Start<bool>(work, [this](const auto& result) { EndKeeping(result.error); });
 }
 
 // While the copy was made the document may have been saved, or changed again. What failed is tried again.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Aside.h"
 #include "DocumentContent.h"
 
 #include <QDateTime>
@@ -79,6 +80,7 @@ private:
     bool m_isStale = false;   // the copy lacks changes
     bool m_isKeeping = false; // a copy is being made
     QString m_failure;        // of the last copy
+    AsideWork m_work;
 };
 
 } // namespace Vexlor::Studio

@@ -314,6 +314,17 @@
     </message>
 </context>
 <context>
+    <name>Vexlor::Studio::BusyLine</name>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Cancel: %1</source>
+        <translation>Abbrechen: %1</translation>
+    </message>
+</context>
+<context>
     <name>Vexlor::Studio::CodecList</name>
     <message>
         <source>Add a codec that the container takes</source>
@@ -1074,6 +1085,14 @@
         <source>Import</source>
         <translation>Importieren</translation>
     </message>
+    <message>
+        <source>Checking the document…</source>
+        <translation>Das Dokument wird geprüft …</translation>
+    </message>
+    <message>
+        <source>Importing &quot;%1&quot;…</source>
+        <translation>„%1“ wird importiert …</translation>
+    </message>
 </context>
 <context>
     <name>Vexlor::Studio::PresetPane</name>
@@ -1413,10 +1432,6 @@
         <translation>%1[*] - VXPresetStudio</translation>
     </message>
     <message>
-        <source>Reading or writing the document…</source>
-        <translation>Das Dokument wird gelesen oder geschrieben …</translation>
-    </message>
-    <message>
         <source>the built-in presets</source>
         <translation>den eingebauten Vorgaben</translation>
     </message>
@@ -1447,6 +1462,22 @@
     <message>
         <source>Changes that are not saved would be lost in a crash, for they cannot be put by: %1</source>
         <translation>Nicht gespeicherte Änderungen gingen bei einem Absturz verloren, denn sie lassen sich nicht beiseitelegen: %1</translation>
+    </message>
+    <message>
+        <source>Reading &quot;%1&quot;…</source>
+        <translation>„%1“ wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Writing &quot;%1&quot;…</source>
+        <translation>„%1“ wird geschrieben …</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is still being written. Close without waiting for it?</source>
+        <translation>„%1“ wird noch geschrieben. Ohne zu warten schließen?</translation>
     </message>
 </context>
 <context>
@@ -2698,6 +2729,10 @@
     <message>
         <source>another program is writing it</source>
         <translation>ein anderes Programm schreibt gerade hinein</translation>
+    </message>
+    <message>
+        <source>is a link to a file that is not there</source>
+        <translation>ist eine Verknüpfung mit einer Datei, die es nicht gibt</translation>
     </message>
 </context>
 <context>

@@ -1,5 +1,6 @@
 #include "PresetActions.h"
 
+#include "BusyLine.h"
 #include "MessageBar.h"
 #include "apps/host/import/Import.h"
 #include "apps/studio/document/DocumentFiles.h"
@@ -20,9 +21,10 @@ namespace Vexlor::Studio
 {
 
 PresetActions::PresetActions(StudioDocument& document, DocumentFiles& files, FindingsPane& findings,
-                             MessageBar& messages, QWidget* window)
+                             MessageBar& messages, BusyLine& busy, QWidget* window)
     : QObject(window), m_document(document), m_files(files), m_findings(findings), m_messages(messages),
-      m_window(window), m_check(new QAction(tr("Chec&k"), this)), m_import(new QAction(tr("&Import…"), this))
+      m_busy(busy), m_window(window), m_check(new QAction(tr("Chec&k"), this)),
+      m_import(new QAction(tr("&Import…"), this))
 {
     m_check->setShortcut(Qt::Key_F7);
     m_import->setShortcut(Qt::CTRL | Qt::Key_I);
@@ -39,6 +41,7 @@ void PresetActions::Check()
     { return CheckPlan(plan, *basis); };
     const auto done = [this, root = m_document.Root()](AsideResult<CheckResult> result)
     {
+        m_busy.End(BusyLine::Work::Check);
         if (root != m_document.Root())
             return; // another document is open
         if (!result.value)
@@ -47,7 +50,8 @@ void PresetActions::Check()
         m_findings.Show(summary, FindingTexts::Of(std::move(*result.value), m_document));
         emit Found();
     };
-    RunAside<CheckResult>(this, work, done);
+    m_checking.Start<CheckResult>(work, done);
+    m_busy.Begin(BusyLine::Work::Check, tr("Checking the document…"), [this] { m_checking.Abandon(); });
 }
 
 void PresetActions::AskForImport()
@@ -60,10 +64,14 @@ void PresetActions::AskForImport()
 
 void PresetActions::Import(const QString& path)
 {
-    RunAside<Tool::Import>(
-        this, [file = path.toStdString()] { return Tool::ImportFile(file); },
-        [this, path](const auto& result)
-        { m_files.WhenFree([this, path, result] { TakeImport(path, result); }); });
+    const auto done = [this, path](const auto& result)
+    {
+        m_busy.End(BusyLine::Work::Import);
+        m_files.WhenFree([this, path, result] { TakeImport(path, result); });
+    };
+    m_importing.Start<Tool::Import>([file = path.toStdString()] { return Tool::ImportFile(file); }, done);
+    m_busy.Begin(BusyLine::Work::Import, tr("Importing \"%1\"…").arg(QFileInfo(path).fileName()),
+                 [this] { m_importing.Abandon(); });
 }
 
 void PresetActions::TakeImport(const QString& path, const AsideResult<Tool::Import>& result)

@@ -12,6 +12,7 @@ class QWidget;
 namespace Vexlor::Studio
 {
 
+class BusyLine;
 class DocumentFiles;
 class FindingsPane;
 class MessageBar;
@@ -24,7 +25,7 @@ class PresetActions : public QObject
 
 public:
     PresetActions(StudioDocument& document, DocumentFiles& files, FindingsPane& findings,
-                  MessageBar& messages, QWidget* window);
+                  MessageBar& messages, BusyLine& busy, QWidget* window);
 
     void AddTo(QMenu& menu) const;
     /// Adds the presets of that file, which another program has written.
@@ -46,9 +47,12 @@ private:
     DocumentFiles& m_files;
     FindingsPane& m_findings;
     MessageBar& m_messages;
+    BusyLine& m_busy;
     QWidget* m_window;
     QAction* m_check;
     QAction* m_import;
+    AsideWork m_checking;
+    AsideWork m_importing;
 };
 
 } // namespace Vexlor::Studio

@@ -17,6 +17,7 @@ class QSplitter;
 namespace Vexlor::Studio
 {
 
+class BusyLine;
 class FileActions;
 class FindingsPane;
 class MessageBar;
@@ -72,7 +73,8 @@ private:
     void UseTheme(Theme theme);
     void OfferLost();
     void TellOfLoss(const QString& failure);
-    void OpenMedia(const QString& path);
+    bool MayLeaveFile();
+    bool MayStopConversion();
     void RestoreState();
     void StoreState() const;
     void ShowAbout();
@@ -87,6 +89,7 @@ private:
     MessageBar* m_messages;
     MessageBar* m_lossMessage;
     MessageBar* m_lostOffer;
+    BusyLine* m_busy;
     TreePane* m_tree;
     PresetPane* m_preset;
     OutcomePane* m_outcome;
