@@ -140,7 +140,8 @@ std::vector<MovedItem> TreeEditor::Moves(const Items& items, const DropPlace& to
             continue;
         const auto name = NameOf(item);
         const bool comesIn = from.parent != to.parent;
-        moves.push_back({item, from, {to.parent, 0}, name, comesIn ? names.Take(item, name) : name});
+        const auto nameTo = comesIn ? names.Take(item, name) : name;
+        moves.push_back({item, from, {to.parent, 0}, name, nameTo});
     }
     NumberPlaces(moves, to);
     return moves;
