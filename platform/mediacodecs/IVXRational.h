@@ -15,7 +15,7 @@ class VX_MEDIACODECS_API IVXRational
 public:
     /// The invalid rational, 0/0.
     static std::shared_ptr<IVXRational> MallocRational();
-    /// The rational num/den.
+    /// The rational num/den. Handles to the same terms may share one object, as it never changes.
     static std::shared_ptr<IVXRational> MallocRational(int num, int den);
 
     /// False when the denominator is 0.

@@ -123,9 +123,8 @@ std::vector<CodecCapabilities> AllCapabilities()
 const CodecCapabilities* CapabilitiesOf(int codecID)
 {
     static const auto s_all = AllCapabilities();
-    const auto found =
-        std::ranges::find_if(s_all, [codecID](const auto& each) { return each.codec->id == codecID; });
-    return found == s_all.end() ? nullptr : &*found;
+    const auto* const row = FindCodec(codecID);
+    return row ? &s_all[static_cast<std::size_t>(row - CodecTable().data())] : nullptr;
 }
 
 } // namespace Vexlor

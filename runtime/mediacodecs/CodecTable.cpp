@@ -8,6 +8,7 @@
 #include "VXMediaCodecs.h"
 
 #include <array>
+#include <unordered_map>
 
 extern "C"
 {
@@ -573,11 +574,24 @@ bool IsHEAAC(const AVCodecParameters& stream)
            (stream.profile == VX_AV_PROFILE(AAC_HE) || stream.profile == VX_AV_PROFILE(AAC_HE_V2));
 }
 
+std::unordered_map<int, const CodecRow*> RowsByID()
+{
+    std::unordered_map<int, const CodecRow*> rows;
+    for (const auto& row : CodecTable())
+        rows.emplace(row.id, &row);
+    return rows;
+}
+
 } // namespace
 
 std::span<const CodecRow> CodecTable() { return kTable; }
 
-const CodecRow* FindCodec(int codecID) { return FindRow(CodecTable(), &CodecRow::id, codecID); }
+const CodecRow* FindCodec(int codecID)
+{
+    static const auto s_rows = RowsByID();
+    const auto found = s_rows.find(codecID);
+    return found == s_rows.end() ? nullptr : found->second;
+}
 
 int CodecIDOf(const AVCodecParameters& stream)
 {

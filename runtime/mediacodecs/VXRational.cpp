@@ -2,6 +2,7 @@
 
 #include "DisplayNames.h"
 
+#include <array>
 #include <limits>
 
 namespace Vexlor
@@ -20,7 +21,7 @@ public:
     std::string FormatAsFramerate() const override;
     int Num() const override { return m_num; }
     int Den() const override { return m_den; }
-    std::shared_ptr<IVXRational> Clone() const override { return MallocRational(m_num, m_den); }
+    std::shared_ptr<IVXRational> Clone() const override { return std::make_shared<VXRational>(m_num, m_den); }
 
 private:
     int m_num;
@@ -46,13 +47,57 @@ std::string VXRational::FormatAsFramerate() const
     return FormatDecimal(rate, rate > 23.97 && rate < 23.98 ? 3 : 2) + " fps";
 }
 
+/// The rationals that media are full of, each made once: the invalid one, and the frame rates n/1 and
+/// n * 1000/1001. They never change, so that the tens of thousands in a large document can share them.
+class CommonRationals
+{
+public:
+    CommonRationals()
+    {
+        for (int i = 0; i < kRates; ++i)
+        {
+            m_whole[static_cast<std::size_t>(i)] = std::make_shared<VXRational>(i, 1);
+            m_ntsc[static_cast<std::size_t>(i)] = std::make_shared<VXRational>(i * kNtscUnit, kNtscDen);
+        }
+    }
+
+    /// Null for any other rational.
+    const std::shared_ptr<IVXRational>* Find(int num, int den) const
+    {
+        if (den == 1)
+            return At(m_whole, num);
+        if (den == kNtscDen && num % kNtscUnit == 0)
+            return At(m_ntsc, num / kNtscUnit);
+        return num == 0 && den == 0 ? &m_invalid : nullptr;
+    }
+
+private:
+    static constexpr int kRates = 121; // up to 120 frames a second
+    static constexpr int kNtscUnit = 1000;
+    static constexpr int kNtscDen = 1001;
+
+    using Rates = std::array<std::shared_ptr<IVXRational>, kRates>;
+
+    static const std::shared_ptr<IVXRational>* At(const Rates& rates, int number)
+    {
+        return number >= 0 && number < kRates ? &rates[static_cast<std::size_t>(number)] : nullptr;
+    }
+
+    Rates m_whole;
+    Rates m_ntsc;
+    std::shared_ptr<IVXRational> m_invalid = std::make_shared<VXRational>(0, 0);
+};
+
 } // namespace
 
 std::shared_ptr<IVXRational> IVXRational::MallocRational() { return MallocRational(0, 0); }
 
 std::shared_ptr<IVXRational> IVXRational::MallocRational(int num, int den)
 {
-    return std::make_shared<VXRational>(num, den);
+    // Never destroyed: whatever lives as long as the program may still ask for one at its end.
+    static const auto& s_common = *new CommonRationals;
+    const auto* const common = s_common.Find(num, den);
+    return common ? *common : std::make_shared<VXRational>(num, den);
 }
 
 } // namespace Vexlor

@@ -55,6 +55,34 @@ TEST(Rational, CloneIsAnotherObjectOfTheSameTerms)
     EXPECT_EQ(1001, clone->Den());
 }
 
+TEST(Rational, HasTheTermsThatWereAskedFor)
+{
+    for (const int den : {-1, 0, 1, 2, 1000, 1001})
+        for (int num = -1001; num <= 130000; num += num < 130 ? 1 : 77)
+        {
+            const auto rate = IVXRational::MallocRational(num, den);
+            ASSERT_EQ(num, rate->Num());
+            ASSERT_EQ(den, rate->Den());
+        }
+}
+
+TEST(Rational, OfAnNtscRateHasTheTermsThatWereAskedFor)
+{
+    for (int num = -2000; num <= 125000; num += 1000)
+    {
+        const auto rate = IVXRational::MallocRational(num, 1001);
+        ASSERT_EQ(num, rate->Num());
+        ASSERT_EQ(1001, rate->Den());
+    }
+}
+
+TEST(Rational, ThatIsCommonIsSharedByAllWhoAskForIt)
+{
+    EXPECT_EQ(IVXRational::MallocRational(), IVXRational::MallocRational(0, 0));
+    EXPECT_EQ(IVXRational::MallocRational(120, 1), IVXRational::MallocRational(120, 1));
+    EXPECT_EQ(IVXRational::MallocRational(30000, 1001), IVXRational::MallocRational(30000, 1001));
+}
+
 struct RateText
 {
     const char* name;
