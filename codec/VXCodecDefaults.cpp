@@ -151,12 +151,7 @@ VXValueList<IVXSampleFmtPreset> DefaultSampleFormats(int codecID)
     const auto codecs = IVXCodecs::MallocCodecs(codecID, true);
     if (!codecs)
         return {};
-    const bool isAudio = codecs->GetCodecType() == VXCodecTypeAudio;
-    auto formats = codecs->SupportedFormats({});
-    // The pixel formats' none stands for Auto in audio lists too, deliberately.
-    if (formats.size() >= 2)
-        formats.insert(formats.begin(), VXPixFormat_None);
-    return SampleFmtValues(formats, isAudio);
+    return SampleFmtValues(codecs->SupportedFormats({}), codecs->GetCodecType() == VXCodecTypeAudio);
 }
 
 HandleList<IVXProfilePreset> IVXCodecPreset::DefaultProfiles(int codecID)

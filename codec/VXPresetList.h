@@ -60,7 +60,7 @@ public:
 private:
     bool Holds(int index) const { return index >= 0 && index < Count(); }
 
-    VXValueList<Preset> m_entries;
+    [[no_unique_address]] VXValueList<Preset> m_entries; // the index stands where it ends
     int m_index = 0;
 };
 

@@ -78,8 +78,11 @@ IVXSampleFmtPreset::MallocSampleFmtPreset(const std::shared_ptr<const IVXJsonVal
 
 VXValueList<IVXSampleFmtPreset> SampleFmtValues(const std::vector<int>& formats, bool isAudio)
 {
-    return VXValueList<IVXSampleFmtPreset>::Block<VXSampleFmtPreset>(
-        formats.size(), [&](std::size_t i) { return VXSampleFmtPreset(formats[i], isAudio); });
+    // The pixel formats' none stands for Auto in audio lists too, deliberately.
+    const std::size_t autos = formats.size() >= 2 ? 1 : 0;
+    const auto make = [&](std::size_t i)
+    { return VXSampleFmtPreset(i < autos ? VXPixFormat_None : formats[i - autos], isAudio); };
+    return VXValueList<IVXSampleFmtPreset>::Block<VXSampleFmtPreset>(formats.size() + autos, make);
 }
 
 template <>

@@ -2,6 +2,8 @@
 
 #include "presets/VXHandleList.h"
 
+#include <cstdint>
+#include <memory>
 #include <typeinfo>
 #include <utility>
 #include <vector>
@@ -29,20 +31,21 @@ class VXValueList
 {
 public:
     VXValueList() = default;
-    VXValueList(HandleList<T> handles) : m_handles(std::move(handles)) {}
+    VXValueList(HandleList<T> handles) { Keep(std::move(handles)); }
+    VXValueList(const VXValueList&) = delete;
+    VXValueList& operator=(const VXValueList&) = delete;
+    VXValueList(VXValueList&&) noexcept = default;
+    VXValueList& operator=(VXValueList&&) noexcept = default;
 
     /// A list of count values of the hidden class Value; make answers the one at a position.
     template <typename Value, typename Make>
     static VXValueList Block(std::size_t count, const Make& make);
 
-    std::size_t Count() const { return m_first ? m_count : m_handles.size(); }
-    const T& operator[](std::size_t index) const
-    {
-        return m_first ? *m_entry(m_first.get(), index) : *m_handles[index];
-    }
+    std::size_t Count() const { return IsBlock() ? m_count : Listed().size(); }
+    const T& operator[](std::size_t index) const { return IsBlock() ? *Entry(index) : *Listed()[index]; }
     std::shared_ptr<T> Handle(std::size_t index) const
     {
-        return m_first ? std::shared_ptr<T>(m_first, m_entry(m_first.get(), index)) : m_handles[index];
+        return IsBlock() ? std::shared_ptr<T>(m_values, Entry(index)) : Listed()[index];
     }
     template <typename Entry = T>
     HandleList<Entry> Handles() const;
@@ -56,15 +59,26 @@ public:
 
 private:
     template <typename Value>
-    static T* EntryOf(T* first, std::size_t index)
+    static T* EntryOf(void* values, std::size_t index)
     {
-        return static_cast<Value*>(first) + index;
+        return static_cast<Value*>(values) + index;
     }
 
-    HandleList<T> m_handles; // empty as long as there is a block
-    std::shared_ptr<T> m_first;
-    T* (*m_entry)(T* first, std::size_t index) = nullptr;
-    std::size_t m_count = 0;
+    void Keep(HandleList<T> handles)
+    {
+        m_values = std::make_shared<HandleList<T>>(std::move(handles));
+        m_entry = nullptr;
+    }
+
+    // No values are a block of none.
+    bool IsBlock() const { return m_entry || !m_values; }
+    T* Entry(std::size_t index) const { return m_entry(m_values.get(), index); }
+    HandleList<T>& Listed() const { return *static_cast<HandleList<T>*>(m_values.get()); }
+
+    // A codec preset has eight lists, and a document thousands of those: so one handle serves for both kinds.
+    std::shared_ptr<void> m_values; // the block's first value; without m_entry a HandleList
+    T* (*m_entry)(void* values, std::size_t index) = nullptr;
+    std::uint32_t m_count = 0; // of the block
 };
 
 template <typename T>
@@ -77,10 +91,10 @@ VXValueList<T> VXValueList<T>::Block(std::size_t count, const Make& make)
     auto block = std::make_shared<Value[]>(count);
     for (std::size_t i = 0; i < count; ++i)
         block[static_cast<std::ptrdiff_t>(i)] = make(i);
-    T* const first = block.get();
-    list.m_first = std::shared_ptr<T>(std::move(block), first);
+    Value* const first = block.get();
+    list.m_values = std::shared_ptr<void>(std::move(block), first);
     list.m_entry = &EntryOf<Value>;
-    list.m_count = count;
+    list.m_count = static_cast<std::uint32_t>(count);
     return list;
 }
 
@@ -88,22 +102,21 @@ template <typename T>
 template <typename Entry>
 HandleList<Entry> VXValueList<T>::Handles() const
 {
-    if (!m_first)
-        return {m_handles.begin(), m_handles.end()};
+    if (!IsBlock())
+        return {Listed().begin(), Listed().end()};
     HandleList<Entry> handles;
     handles.reserve(m_count);
     for (std::size_t i = 0; i < m_count; ++i)
-        handles.emplace_back(m_first, m_entry(m_first.get(), i));
+        handles.push_back(Handle(i));
     return handles;
 }
 
 template <typename T>
 HandleList<T>& VXValueList<T>::Changing()
 {
-    if (m_first)
-        m_handles = Handles();
-    m_first.reset();
-    return m_handles;
+    if (IsBlock())
+        Keep(Handles());
+    return Listed();
 }
 
 template <typename T>
@@ -111,7 +124,7 @@ template <typename Value>
 bool VXValueList<T>::HoldsOnly() const
 {
     const auto isOne = [](const std::shared_ptr<T>& entry) { return typeid(*entry) == typeid(Value); };
-    return m_first || std::ranges::all_of(m_handles, isOne);
+    return IsBlock() || std::ranges::all_of(Listed(), isOne);
 }
 
 /// The values that the elements of a JSON array describe, each as the kind's factory reads it.
@@ -122,7 +135,7 @@ VXValueList<T> ReadValues(const IVXJsonValue& array);
 template <typename T>
 VXValueList<T> CloneValues(const VXValueList<T>& list);
 
-/// A value for each of the formats.
+/// A value for each of the formats, behind Auto where there is a choice of at least two.
 VXValueList<IVXSampleFmtPreset> SampleFmtValues(const std::vector<int>& formats, bool isAudio);
 
 // Each kind's source defines its own, the class being hidden there.
