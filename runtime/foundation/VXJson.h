@@ -2,6 +2,7 @@
 
 #include "VXFoundationExport.h"
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -32,6 +33,14 @@ enum class JsonStyle
 /// reason". Both count from 1; a column is one character, a tab too. error is left alone after a success.
 VX_FOUNDATION_API std::shared_ptr<const IVXJsonValue> ParseJson(std::string_view text,
                                                                 std::string* error = nullptr);
+
+/// How many bytes ParseJsonInPlace needs behind a text.
+inline constexpr std::size_t kJsonRoom = 64;
+
+/// As ParseJson, but the values stand in the text itself, which is handed over. It is not copied where its
+/// capacity is at least its size and kJsonRoom.
+VX_FOUNDATION_API std::shared_ptr<const IVXJsonValue> ParseJsonInPlace(std::string text,
+                                                                       std::string* error = nullptr);
 
 /// Reads the JSON file of that UTF-8 path, as ParseJson; errors read "path:line:column: reason", or
 /// "path: reason" when the file itself cannot be read.

@@ -1,7 +1,10 @@
 #include "runtime/foundation/VXJsonDocument.h"
 
+#include "runtime/foundation/VXJson.h"
 #include "runtime/foundation/VXJsonNumber.h"
 #include "runtime/foundation/VXJsonReader.h"
+
+#include <cstring>
 
 namespace Vexlor
 {
@@ -55,6 +58,36 @@ inline JsonItem ItemOf(const char* text, std::uint32_t value, std::uint32_t leng
     return {.kind = JsonKind::Int64, .bits = static_cast<std::uint64_t>(number), .text = {}, .node = nullptr};
 }
 
+template <class Bytes>
+Bytes Load(const char* from)
+{
+    Bytes bytes{};
+    std::memcpy(&bytes, from, sizeof bytes);
+    return bytes;
+}
+
+// Of at least as many bytes as Bytes has, and at most twice as many.
+template <class Bytes>
+bool IsSame(const char* a, const char* b, std::size_t size)
+{
+    const std::size_t last = size - sizeof(Bytes);
+    return ((Load<Bytes>(a) ^ Load<Bytes>(b)) | (Load<Bytes>(a + last) ^ Load<Bytes>(b + last))) == 0;
+}
+
+// Names are compared by the hundred thousand, and most are too short to be worth a call.
+inline bool IsSameName(std::string_view a, std::string_view b)
+{
+    const std::size_t size = a.size();
+    if (size != b.size())
+        return false;
+    if (size > 2 * sizeof(std::uint64_t) || size < sizeof(std::uint16_t))
+        return a == b;
+    if (size >= sizeof(std::uint64_t))
+        return IsSame<std::uint64_t>(a.data(), b.data(), size);
+    return size >= sizeof(std::uint32_t) ? IsSame<std::uint32_t>(a.data(), b.data(), size)
+                                         : IsSame<std::uint16_t>(a.data(), b.data(), size);
+}
+
 } // namespace
 
 std::shared_ptr<const IVXJsonValue> JsonNull() { return WithoutOwner(kNull); }
@@ -75,7 +108,7 @@ inline const JsonDocumentMember* VXJsonView::FindMember(std::string_view name) c
     const char* const text = Text();
     const JsonDocumentMember* const first = m_document->m_content.members.data() + m_first;
     for (const auto* member = first; member != first + m_count; ++member)
-        if (name == std::string_view(text + member->name, member->nameLength))
+        if (IsSameName(name, {text + member->name, member->nameLength}))
             return member;
     return nullptr;
 }
@@ -140,7 +173,8 @@ std::shared_ptr<const IVXJsonValue> VXJsonView::GetValueArray(std::string_view n
 {
     const auto* const member = FindMember(name);
     const bool isArray = member && member->IsContainer() && View(member->value).m_kind == JsonKind::Array;
-    return isArray ? View(member->value).Handle() : JsonEmptyArray();
+    // An empty one needs no owner.
+    return isArray && View(member->value).m_count > 0 ? View(member->value).Handle() : JsonEmptyArray();
 }
 
 int VXJsonView::Size() const { return m_kind == JsonKind::Array ? SizeOf(m_count) : 0; }
@@ -155,7 +189,7 @@ bool VXJsonDocument::Read(std::string text)
 {
     m_size = text.size();
     m_text = std::move(text);
-    m_text.append(VXJsonIndex::kRoom, ' ');
+    m_text.append(kJsonRoom, ' ');
     VXJsonIndex index;
     return index.Read(Text()) && ReadContent(index, m_text.data(), *this, m_content);
 }

@@ -35,10 +35,14 @@ inline bool IsPlainJsonText(std::string_view text)
     };
     constexpr std::size_t kWord = sizeof(std::uint64_t);
     constexpr std::size_t kHalf = sizeof(std::uint32_t);
+    constexpr std::size_t kQuarter = sizeof(std::uint16_t);
+    constexpr std::uint64_t kBlanks = 0x2020202020202020; // where there are no letters
     const std::size_t size = text.size();
+    if (size < kQuarter)
+        return size == 0 || !HasJsonSpecial(load(0, std::uint8_t{}) | kBlanks << 8);
     if (size < kHalf)
-        return std::ranges::none_of(
-            text, [](char c) { return HasJsonSpecial(static_cast<unsigned char>(c) | 0x2020202020202000); });
+        return !HasJsonSpecial(load(0, std::uint16_t{}) | load(size - kQuarter, std::uint16_t{}) << 16 |
+                               kBlanks << 32);
     if (size < kWord)
         return !HasJsonSpecial(load(0, std::uint32_t{}) | load(size - kHalf, std::uint32_t{}) << 32);
     for (std::size_t at = 0; at < size - kWord; at += kWord)

@@ -23,7 +23,7 @@ std::error_code ReadToEnd(const VXFile& file, std::string& content)
     std::size_t capacity = std::max<std::size_t>(file.Size() + 1, kLeast);
     for (std::size_t size = 0;; capacity = std::min(2 * capacity, kMostBytes + 1))
     {
-        content.reserve(capacity + VXJsonIndex::kRoom);
+        content.reserve(capacity + kJsonRoom);
         UseLargePages(content.data(), content.capacity());
         content.resize(capacity);
         size += file.ReadAt(size, content.data() + size, capacity - size, fault);

@@ -1,5 +1,6 @@
 #include "runtime/foundation/VXJsonIndex.h"
 
+#include "runtime/foundation/VXJson.h"
 #include "runtime/foundation/VXLargePages.h"
 
 #include <simdjson.h>
@@ -10,7 +11,7 @@
 namespace Vexlor
 {
 
-static_assert(VXJsonIndex::kRoom >= simdjson::SIMDJSON_PADDING);
+static_assert(kJsonRoom >= simdjson::SIMDJSON_PADDING);
 static_assert(VXJsonIndex::kMostBytes <= simdjson::SIMDJSON_MAXSIZE_BYTES);
 
 // The first of simdjson's two stages; the second would copy every name and text.

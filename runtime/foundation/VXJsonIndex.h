@@ -13,12 +13,10 @@ namespace Vexlor
 class VXJsonIndex
 {
 public:
-    /// What has to stand behind a text: blanks.
-    static constexpr std::size_t kRoom = 64;
     static constexpr std::size_t kMostBytes = 0xFFFFFFFF;
 
-    /// Finds the tokens of a text of at most kMostBytes. False where there is none, a string is not closed or
-    /// has a control character, or anything is not UTF-8.
+    /// Finds the tokens of a text of at most kMostBytes, with kJsonRoom blanks behind it. False where there
+    /// is none, a string is not closed or has a control character, or anything is not UTF-8.
     bool Read(std::string_view text);
 
     std::string_view Text() const { return {m_text, m_size}; }

@@ -49,6 +49,16 @@ VXJsonManyMembers::VXJsonManyMembers()
     m_places.reserve(kFirstPlaces);
 }
 
+void VXJsonManyMembers::Clear() noexcept
+{
+    m_text.resize(1);
+    m_places.clear();
+    m_gaps.clear();
+    m_hashes.reset();
+    m_textDepth = 0;
+    m_isLastNew = false;
+}
+
 inline std::string_view VXJsonManyMembers::Name(const Place& place) const
 {
     return std::string_view(m_text).substr(place.start + 1, place.nameSize);
@@ -81,20 +91,18 @@ JsonMember VXJsonManyMembers::At(std::size_t index) const
             .child = isChild ? &m_gaps[gap].child : nullptr};
 }
 
-std::size_t VXJsonManyMembers::Find(std::string_view name) const
+std::size_t VXJsonManyMembers::Find(std::string_view name, std::size_t hash) const
 {
-    const std::size_t hash = JsonNameHash(name);
     if (!m_hashes.test(hash % kHashes))
         return Count();
     const auto isIt = [&](const Place& place) { return place.hash == hash && Name(place) == name; };
     return static_cast<std::size_t>(std::ranges::find_if(m_places, isIt) - m_places.begin());
 }
 
-void VXJsonManyMembers::Append(std::string_view name, std::string_view value)
+inline void VXJsonManyMembers::Append(std::string_view name, std::size_t hash, std::string_view value)
 {
     MakeRoom(m_places); // so that what follows the text cannot fail
     const std::size_t start = m_text.size();
-    const std::size_t hash = JsonNameHash(name);
     m_text.resize(start + name.size() + value.size() + kJsonMarks);
     PutJsonMember(m_text.data() + start, name, value);
     m_places.push_back({.start = start, .nameSize = name.size(), .hash = hash});
@@ -102,12 +110,28 @@ void VXJsonManyMembers::Append(std::string_view name, std::string_view value)
     m_isLastNew = false;
 }
 
-void VXJsonManyMembers::Append(std::string_view name, const JsonChild& child)
+void VXJsonManyMembers::Set(std::string_view name, std::string_view value)
+{
+    const std::size_t hash = JsonNameHash(name);
+    const std::size_t index = Find(name, hash);
+    index == Count() ? Append(name, hash, value) : Replace(index, value);
+}
+
+void VXJsonManyMembers::Set(std::string_view name, const JsonChild& child)
 {
     MakeRoom(m_gaps);
-    Append(name, std::string_view());
-    m_gaps.push_back({.index = Count() - 1, .child = child});
-    m_isLastNew = true;
+    const std::size_t hash = JsonNameHash(name);
+    const std::size_t index = Find(name, hash);
+    if (index == Count())
+    {
+        Append(name, hash, std::string_view());
+        m_gaps.push_back({.index = index, .child = child});
+        m_isLastNew = true;
+        return;
+    }
+    Replace(index, std::string_view());
+    m_gaps.insert(m_gaps.begin() + static_cast<std::ptrdiff_t>(FindGap(index)),
+                  {.index = index, .child = child});
 }
 
 void VXJsonManyMembers::Replace(std::size_t index, std::string_view value)
@@ -119,14 +143,6 @@ void VXJsonManyMembers::Replace(std::size_t index, std::string_view value)
         m_places[behind].start += value.size() - size;
     if (const auto gap = FindGap(index); gap < m_gaps.size() && m_gaps[gap].index == index)
         m_gaps.erase(m_gaps.begin() + static_cast<std::ptrdiff_t>(gap));
-}
-
-void VXJsonManyMembers::Replace(std::size_t index, const JsonChild& child)
-{
-    MakeRoom(m_gaps);
-    Replace(index, std::string_view());
-    m_gaps.insert(m_gaps.begin() + static_cast<std::ptrdiff_t>(FindGap(index)),
-                  {.index = index, .child = child});
 }
 
 void VXJsonManyMembers::FinishLast(JsonFinish finish)

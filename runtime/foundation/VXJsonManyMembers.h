@@ -51,9 +51,10 @@ inline char* PutText(char* to, std::string_view text)
         bothEnds(std::uint64_t{}, std::uint64_t{});
     else if (size >= sizeof(std::uint32_t))
         bothEnds(std::uint32_t{}, std::uint32_t{});
-    else
-        for (std::size_t at = 0; at < size; ++at)
-            to[at] = text[at];
+    else if (size >= sizeof(std::uint16_t))
+        bothEnds(std::uint16_t{}, std::uint16_t{});
+    else if (size > 0)
+        *to = text[0];
     return to + size;
 }
 
@@ -85,16 +86,23 @@ class VXJsonManyMembers
 {
 public:
     VXJsonManyMembers();
+    VXJsonManyMembers(const VXJsonManyMembers&) = delete;
+    VXJsonManyMembers& operator=(const VXJsonManyMembers&) = delete;
+    ~VXJsonManyMembers() = default;
+
+    /// Drops all members; what room they had stays.
+    void Clear() noexcept;
+    /// How long the text can get in the room that there is.
+    std::size_t Room() const { return m_text.capacity(); }
 
     std::size_t Count() const { return m_places.size(); }
     JsonMember At(std::size_t index) const;
     /// Where the member of that name is; Count() when there is none.
-    std::size_t Find(std::string_view name) const;
+    std::size_t Find(std::string_view name) const { return Find(name, JsonNameHash(name)); }
 
-    void Append(std::string_view name, std::string_view value);
-    void Append(std::string_view name, const JsonChild& child);
-    void Replace(std::size_t index, std::string_view value);
-    void Replace(std::size_t index, const JsonChild& child);
+    /// Adds a member, or replaces the one of its name.
+    void Set(std::string_view name, std::string_view value);
+    void Set(std::string_view name, const JsonChild& child);
     /// For a value that is a container: how deep it is nested.
     void RaiseTextDepth(int depth) { m_textDepth = std::max(m_textDepth, depth); }
     /// Asks, once, whether the member that was added last is a child that is finished.
@@ -124,6 +132,9 @@ private:
 
     static constexpr std::size_t kHashes = 256;
 
+    void Append(std::string_view name, std::size_t hash, std::string_view value);
+    void Replace(std::size_t index, std::string_view value);
+    std::size_t Find(std::string_view name, std::size_t hash) const;
     std::string_view Name(const Place& place) const;
     std::size_t ValueStart(std::size_t index) const;
     std::size_t ValueEnd(std::size_t index) const;

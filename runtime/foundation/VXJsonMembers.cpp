@@ -1,6 +1,7 @@
 #include "runtime/foundation/VXJsonMembers.h"
 
 #include "runtime/foundation/VXJsonEscape.h"
+#include "runtime/foundation/VXJsonSpareMembers.h"
 
 #include <algorithm>
 #include <cstring>
@@ -57,7 +58,7 @@ std::string EscapedName(std::string_view name)
 VXJsonMembers::~VXJsonMembers()
 {
     if (IsFar())
-        delete &Far();
+        GiveJsonMembers(&Far());
 }
 
 VXJsonManyMembers& VXJsonMembers::Far() const
@@ -71,11 +72,11 @@ VXJsonManyMembers& VXJsonMembers::MakeFar()
 {
     if (IsFar())
         return Far();
-    auto far = std::make_unique<VXJsonManyMembers>();
+    std::unique_ptr<VXJsonManyMembers, decltype(&GiveJsonMembers)> far(TakeJsonMembers(), &GiveJsonMembers);
     std::size_t cursor = 0;
     JsonMember member;
     while (Next(cursor, member))
-        far->Append(member.name, member.value);
+        far->Set(member.name, member.value);
     m_size = kFar;
     VXJsonManyMembers* const address = far.release();
     std::memcpy(m_near.data(), &address, sizeof(void*));
@@ -138,18 +139,6 @@ bool VXJsonMembers::Find(std::string_view name, JsonMember& member) const
     return IsPlainJsonText(name) ? FindPlain(name, member) : FindPlain(EscapedName(name), member);
 }
 
-template <class Value>
-VXJsonManyMembers& VXJsonMembers::SetFar(std::string_view name, const Value& value)
-{
-    VXJsonManyMembers& far = MakeFar();
-    const std::size_t index = far.Find(name);
-    if (index == far.Count())
-        far.Append(name, value);
-    else
-        far.Replace(index, value);
-    return far;
-}
-
 inline bool VXJsonMembers::AppendNear(std::string_view name, std::string_view value)
 {
     const std::size_t start = std::max<std::size_t>(m_size, 1);
@@ -168,7 +157,7 @@ inline bool VXJsonMembers::AppendNear(std::string_view name, std::string_view va
 inline void VXJsonMembers::SetPlain(std::string_view name, std::string_view value)
 {
     if (!AppendNear(name, value))
-        SetFar(name, value);
+        MakeFar().Set(name, value);
 }
 
 void VXJsonMembers::SetText(std::string_view name, std::string_view value)
@@ -180,13 +169,15 @@ void VXJsonMembers::SetChild(std::string_view name, const JsonChild& child)
 {
     if (!child)
         return SetText(name, "null");
-    IsPlainJsonText(name) ? SetFar(name, child) : SetFar(EscapedName(name), child);
+    IsPlainJsonText(name) ? MakeFar().Set(name, child) : MakeFar().Set(EscapedName(name), child);
 }
 
 void VXJsonMembers::SetEmptyArray(std::string_view name)
 {
     constexpr std::string_view kArray = "[]";
-    (IsPlainJsonText(name) ? SetFar(name, kArray) : SetFar(EscapedName(name), kArray)).RaiseTextDepth(1);
+    auto& far = MakeFar();
+    IsPlainJsonText(name) ? far.Set(name, kArray) : far.Set(EscapedName(name), kArray);
+    far.RaiseTextDepth(1);
 }
 
 } // namespace Vexlor

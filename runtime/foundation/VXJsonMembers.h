@@ -64,8 +64,6 @@ private:
     bool FindNear(std::string_view name, JsonMember& member) const;
     bool AppendNear(std::string_view name, std::string_view value);
     void SetPlain(std::string_view name, std::string_view value);
-    template <class Value>
-    VXJsonManyMembers& SetFar(std::string_view name, const Value& value);
 
     static constexpr std::uint8_t kFar = 0xFF;
     static constexpr std::size_t kNear = 101;

@@ -31,6 +31,30 @@ std::string FaultOf(std::string_view text)
     return JsonPlace(text, scan.offset) + ": " + scan.reason;
 }
 
+std::string CopyWithRoom(std::string_view text)
+{
+    std::string copy;
+    copy.reserve(text.size() + kJsonRoom);
+    UseLargePages(copy.data(), copy.capacity());
+    copy = text;
+    return copy;
+}
+
+template <class MakeText>
+Value Parse(std::size_t size, std::string* error, const MakeText& makeText)
+{
+    if (size > VXJsonIndex::kMostBytes)
+        return Fail(error, "1:1: the document is larger than 4 GiB");
+    try
+    {
+        return ParseOwnJson(makeText(), error);
+    }
+    catch (const std::bad_alloc&)
+    {
+        return Fail(error, "1:1: not enough memory");
+    }
+}
+
 } // namespace
 
 Value ParseOwnJson(std::string text, std::string* error)
@@ -41,21 +65,14 @@ Value ParseOwnJson(std::string text, std::string* error)
     return document->Read(std::move(text)) ? document->Root() : Fail(error, FaultOf(document->Text()));
 }
 
+Value ParseJsonInPlace(std::string text, std::string* error)
+{
+    return Parse(text.size(), error, [&text] { return std::move(text); });
+}
+
 Value ParseJson(std::string_view text, std::string* error)
 {
-    if (text.size() > VXJsonIndex::kMostBytes)
-        return Fail(error, "1:1: the document is larger than 4 GiB");
-    try
-    {
-        std::string own;
-        own.reserve(text.size() + VXJsonIndex::kRoom);
-        UseLargePages(own.data(), own.capacity());
-        return ParseOwnJson(std::move(own.append(text)), error);
-    }
-    catch (const std::bad_alloc&)
-    {
-        return Fail(error, "1:1: not enough memory");
-    }
+    return Parse(text.size(), error, [text] { return CopyWithRoom(text); });
 }
 
 } // namespace Vexlor

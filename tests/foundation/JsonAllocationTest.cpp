@@ -69,6 +69,38 @@ TEST_F(JsonAllocation, IsCounted)
     EXPECT_LT(0, AllocationsOf([] { EXPECT_TRUE(ParseJson("[1]")); }));
 }
 
+TEST_F(JsonAllocation, ATextThatIsHandedOverWithRoomIsNotCopied)
+{
+    const std::string text = "[" + std::string(1000, ' ') + "1]";
+    std::string own;
+    own.reserve(text.size() + kJsonRoom);
+    own = text;
+    const int copied = AllocationsOf([&] { EXPECT_TRUE(ParseJson(text)); });
+    EXPECT_EQ(copied - 1, AllocationsOf([&] { EXPECT_TRUE(ParseJsonInPlace(std::move(own))); }));
+}
+
+TEST_F(JsonAllocation, ObjectsLeaveTheirRoomToTheNextOnes)
+{
+    const auto build = []
+    {
+        const auto value = IVXJsonValue::JsonValueNull();
+        for (int i = 0; i < 100; ++i)
+            value->SetValueInt("member " + std::to_string(i), i);
+        EXPECT_EQ(99, value->GetValueInt("member 99"));
+        EXPECT_FALSE(value->HasKey("member 100"));
+    };
+    const auto buildOther = []
+    {
+        const auto value = IVXJsonValue::JsonValueNull();
+        for (int i = 100; i < 200; ++i)
+            value->SetValueInt("member " + std::to_string(i), i);
+        EXPECT_FALSE(value->HasKey("member 99"));
+        EXPECT_EQ(199, value->GetValueInt("member 199"));
+    };
+    const int first = AllocationsOf(build);
+    EXPECT_GT(first, AllocationsOf(buildOther));
+}
+
 TEST_F(JsonAllocation, MembersAreFoundWithoutAny)
 {
     EXPECT_EQ(0, AllocationsOf([&] { EXPECT_TRUE((*m_value)["a name too long to lie inside a string"]); }));

@@ -26,6 +26,29 @@ TEST(JsonParse, TakesEveryKindOfDocument)
         EXPECT_EQ(text, JsonText(*Parse(text)));
 }
 
+TEST(JsonParse, ReadsATextThatIsHandedOverAlike)
+{
+    for (const std::string text :
+         {"7", "[1]", R"({"a":"b\nc","d":[true,-2.5e3]})", "\xEF\xBB\xBF{}", " [ 12345678 ] "})
+    {
+        const auto value = ParseJsonInPlace(text);
+        ASSERT_TRUE(value) << text;
+        EXPECT_EQ(JsonText(*Parse(text)), JsonText(*value));
+    }
+}
+
+TEST(JsonParse, RefusesATextThatIsHandedOverAlike)
+{
+    for (const std::string text : {"", "[", "{\"a\" 1}", "[1,\n 2,]", "\"\\x\""})
+    {
+        std::string copied;
+        std::string handedOver;
+        EXPECT_FALSE(ParseJson(text, &copied));
+        EXPECT_FALSE(ParseJsonInPlace(text, &handedOver));
+        EXPECT_EQ(copied, handedOver);
+    }
+}
+
 TEST(JsonParse, TakesBlanksAround)
 {
     EXPECT_EQ("{\"a\":[1]}", JsonText(*Parse(" \r\n\t{ \"a\" : [ 1 ] } \n")));

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <thread>
 
 // The same with the runtime beneath the library: texts are parsed and written, codecs are asked.
 
@@ -118,6 +119,17 @@ TEST_P(RuntimeAllocationFailure, OfWritingAText)
 {
     const auto value = root->JsonValue();
     RefuseEach([&] { return std::make_shared<std::string>(JsonText(*value, JsonStyle::Indented)); }, kBlocks);
+}
+
+TEST(RuntimeMemory, OfAThreadEndsWithIt)
+{
+    const auto root = Tree();
+    const auto writeElsewhere = [&root] { std::thread([&] { JsonText(*root->JsonValue()); }).join(); };
+    writeElsewhere(); // what is made once in a program is made now
+    const auto inUse = BytesInUse();
+    for (int i = 0; i < 10; ++i)
+        writeElsewhere();
+    EXPECT_EQ(inUse, BytesInUse());
 }
 
 INSTANTIATE_TEST_SUITE_P(Memory, RuntimeAllocationFailure,
