@@ -1,17 +1,9 @@
-#include "tests/docs/DocumentBlocks.h"
+#include "tests/docs/DocumentRun.h"
 #include "tests/foundation/TestFolder.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
-#include <array>
 #include <cstdint>
-#include <cstdio>
-#include <filesystem>
-#include <set>
 #include <sstream>
-
-#include <sys/wait.h>
 
 // Every block of the documents is run here, or listed in blocks.txt with what runs it or why nothing does.
 
@@ -20,50 +12,6 @@ namespace Vexlor::Docs
 
 namespace
 {
-
-namespace fs = std::filesystem;
-
-const fs::path kSource = VX_SOURCE_FOLDER;
-
-std::vector<std::string> Documents()
-{
-    std::vector<std::string> documents{"README.md", "CONTRIBUTING.md"};
-    for (const auto& entry : fs::directory_iterator(kSource / "docs"))
-        if (entry.path().extension() == ".md")
-            documents.push_back("docs/" + entry.path().filename().string());
-    std::ranges::sort(documents);
-    return documents;
-}
-
-std::vector<DocumentBlock> BlocksOf(const std::string& document)
-{
-    return ReadBlocks(ContentOf((kSource / document).string()));
-}
-
-struct Outcome
-{
-    int exitCode = -1;
-    std::string out; ///< standard output and standard error
-};
-
-/// Runs a command line in a folder, with the tool on the path.
-Outcome RunLine(const std::string& command, const std::string& folder)
-{
-    const auto line =
-        "cd '" + folder + "' && export PATH='" VX_TOOL_FOLDER "':\"$PATH\" XDG_RUNTIME_DIR=. VX_SOURCE='" +
-        kSource.string() + "' LC_ALL=C.UTF-8 && unset TERM && { " + command + "\n} 2>&1 </dev/null";
-    Outcome outcome;
-    std::FILE* pipe = ::popen(line.c_str(), "r");
-    std::array<char, 4096> buffer{};
-    for (std::size_t count = 1; pipe && count > 0;)
-    {
-        count = std::fread(buffer.data(), 1, buffer.size(), pipe);
-        outcome.out.append(buffer.data(), count);
-    }
-    const int status = pipe ? ::pclose(pipe) : -1;
-    outcome.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return outcome;
-}
 
 /// True when the text is the expected one, in which a line of three dots stands for any lines.
 bool IsShown(const std::string& expected, const std::string& text)
@@ -94,7 +42,7 @@ TEST_P(Document, DoesWhatItShows)
 {
     const TestFolder folder;
     const auto path = folder.Path().string();
-    if (ContentOf((kSource / GetParam()).string()).find("vxpresets match holiday.mov") != std::string::npos)
+    if (TextOf(GetParam()).find("vxpresets match holiday.mov") != std::string::npos)
         MakeClip(path);
     for (const auto& block : BlocksOf(GetParam()))
     {
@@ -127,7 +75,7 @@ struct ListedBlock
 std::vector<ListedBlock> ListedBlocks()
 {
     std::vector<ListedBlock> rows;
-    std::istringstream lines(ContentOf((kSource / "tests/docs/blocks.txt").string()));
+    std::istringstream lines(TextOf("tests/docs/blocks.txt"));
     for (std::string line; std::getline(lines, line);)
     {
         std::vector<std::string> cells;
@@ -175,76 +123,7 @@ TEST_P(Document, HasNoBlockThatIsNeitherRunNorListed)
     }
 }
 
-bool IsWord(const std::string& text)
-{
-    return std::ranges::all_of(text, [](char letter) { return letter >= 'a' && letter <= 'z'; });
-}
-
-/// What stands between ` inside the text that begins so.
-std::set<std::string> InlineCode(const std::string& document, const std::string& begin)
-{
-    std::set<std::string> spans;
-    const auto text = ContentOf((kSource / document).string());
-    for (auto at = text.find('`' + begin); at != std::string::npos; at = text.find('`' + begin, at + 1))
-        spans.insert(text.substr(at + 1, text.find('`', at + 1) - at - 1));
-    return spans;
-}
-
-/// A command of the tool as it is told inside the text: the words that name it, and its long options.
-struct ToldCommand
-{
-    std::string name;
-    std::vector<std::string> options = {};
-};
-
-ToldCommand ReadCommand(const std::string& code)
-{
-    ToldCommand command;
-    bool isName = true;
-    std::istringstream words(code);
-    for (std::string word; words >> word;)
-    {
-        isName = isName && IsWord(word);
-        if (isName)
-            command.name += (command.name.empty() ? "" : " ") + word;
-        else if (word.starts_with("--"))
-            command.options.push_back(word.substr(0, word.find('=')));
-    }
-    return command;
-}
-
-TEST_P(Document, TellsOfCommandsAndOptionsThatAreThere)
-{
-    for (const auto& code : InlineCode(GetParam(), "vxpresets "))
-    {
-        const auto command = ReadCommand(code);
-        const auto help = RunLine(command.name + " --help", kSource.string());
-        EXPECT_EQ(0, help.exitCode) << code;
-        for (const auto& option : command.options)
-            EXPECT_NE(std::string::npos, help.out.find(option)) << code;
-    }
-}
-
-TEST_P(Document, TellsOfFilesThatAreThere)
-{
-    for (const std::string folder :
-         {".ci/", "apps/", "bench/", "catalog/", "docs/", "examples/", "packaging/", "scripts/", "tests/"})
-    {
-        for (const auto& code : InlineCode(GetParam(), folder))
-        {
-            const auto path = code.substr(0, code.find_first_of(" \n"));
-            EXPECT_TRUE(path.find('*') != std::string::npos || fs::exists(kSource / path)) << code;
-        }
-    }
-}
-
-INSTANTIATE_TEST_SUITE_P(All, Document, testing::ValuesIn(Documents()),
-                         [](const auto& test)
-                         {
-                             auto name = fs::path(test.param).stem().string();
-                             std::erase(name, '-');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(All, Document, testing::ValuesIn(Documents()), NameOfDocument);
 
 TEST(Documents, ListNoBlockThatIsNotThere)
 {
@@ -266,13 +145,6 @@ TEST(Documents, HaveListedBlocksAsTheyWereWhenTheyWereListed)
             EXPECT_TRUE(!IsListed(row, row.document, block) || row.sum == "whole" ||
                         row.sum == SumOf(block.text))
                 << row.document << ':' << block.line << " has the sum " << SumOf(block.text);
-}
-
-TEST(Documents, HaveCommandsReadWithTheirOptions)
-{
-    const auto command = ReadCommand("vxpresets match MEDIA --preset PRESET --target=25MB");
-    EXPECT_EQ("vxpresets match", command.name);
-    EXPECT_EQ((std::vector<std::string>{"--preset", "--target"}), command.options);
 }
 
 TEST(DocumentBlocks, AreReadWithTheirCommandsAndOutputs)
