@@ -38,7 +38,34 @@ protected:
         ASSERT_TRUE(kept.wait(kPatience));
     }
 
+    /// Restores what a crash has left; answers why not.
+    static std::string Restore(Recovery& recovery, StudioDocument& document)
+    {
+        DocumentFiles files(document);
+        const QSignalSpy failures(&files, &DocumentFiles::Failed);
+        recovery.Recover(*Recovery::FindLost(), files);
+        EXPECT_TRUE(files.IsReading());
+        EXPECT_TRUE(QTest::qWaitFor([&files] { return !files.IsBusy(); }, kPatience));
+        return failures.isEmpty() ? "" : failures.front().front().toString().toStdString();
+    }
+
     static QStringList Copies() { return QDir(Recovery::Folder()).entryList({"*.json"}); }
+
+    /// Restores a document after a crash and saves it over its file, which holds that text by then; whether
+    /// it was saved.
+    static bool IsSavedOver(const QString& path, const std::string& text)
+    {
+        WriteAnyway(path.toStdString(), text);
+        StudioDocument document;
+        Recovery recovery(document);
+        EXPECT_EQ("", Restore(recovery, document));
+        DocumentFiles files(document);
+        QSignalSpy saved(&files, &DocumentFiles::Saved);
+        QSignalSpy refused(&files, &DocumentFiles::SaveRefused);
+        files.Save(path, false);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return saved.count() + refused.count() > 0; }, kPatience));
+        return saved.count() > 0;
+    }
 
     /// What is left when a program with that change does not end in order: its files but for the lock.
     static void Crash(const QString& path = {})
@@ -112,10 +139,34 @@ TEST_F(RecoveryTest, RestoresItAsChangesThatAreToBeSaved)
     Crash();
     StudioDocument document;
     Recovery recovery(document);
-    EXPECT_EQ("", recovery.Recover(*Recovery::FindLost()));
+    EXPECT_EQ("", Restore(recovery, document));
     EXPECT_TRUE(document.Root()->FindChild("Precious"));
     EXPECT_TRUE(document.IsModified());
     EXPECT_FALSE(Recovery::FindLost());
+}
+
+TEST_F(RecoveryTest, LeavesItWhereTheReadingIsGivenUp)
+{
+    Crash();
+    StudioDocument document;
+    Recovery recovery(document);
+    DocumentFiles files(document);
+    recovery.Recover(*Recovery::FindLost(), files);
+    EXPECT_FALSE(document.IsModified()); // for the window does not wait
+    files.GiveUpReading();
+    EXPECT_TRUE(QTest::qWaitFor([] { return Recovery::FindLost().has_value(); }, kPatience));
+    EXPECT_FALSE(document.Root()->FindChild("Precious"));
+}
+
+TEST_F(RecoveryTest, OffersItToNobodyElseWhileItIsRestored)
+{
+    Crash();
+    StudioDocument document;
+    Recovery recovery(document);
+    DocumentFiles files(document);
+    recovery.Recover(*Recovery::FindLost(), files);
+    EXPECT_FALSE(Recovery::FindLost());
+    EXPECT_TRUE(QTest::qWaitFor([&files] { return !files.IsBusy(); }, kPatience));
 }
 
 TEST_F(RecoveryTest, DiscardsIt)
@@ -136,24 +187,9 @@ TEST_F(RecoveryTest, TellsWhyACopyCannotBeRestored)
     file.close();
     StudioDocument document;
     Recovery recovery(document);
-    EXPECT_NE("", recovery.Recover(*lost));
+    EXPECT_NE("", Restore(recovery, document));
     EXPECT_FALSE(document.Root()->FindChild("Precious"));
-}
-
-/// Restores a document after a crash and saves it over its file, which holds that text by then; whether it
-/// was saved.
-bool IsSavedOver(const QString& path, const std::string& text)
-{
-    WriteAnyway(path.toStdString(), text);
-    StudioDocument document;
-    Recovery recovery(document);
-    EXPECT_EQ("", recovery.Recover(*Recovery::FindLost()));
-    DocumentFiles files(document);
-    QSignalSpy saved(&files, &DocumentFiles::Saved);
-    QSignalSpy refused(&files, &DocumentFiles::SaveRefused);
-    files.Save(path, false);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return saved.count() + refused.count() > 0; }, kPatience));
-    return saved.count() > 0;
+    EXPECT_TRUE(Recovery::FindLost());
 }
 
 TEST_F(RecoveryTest, DoesNotOverwriteWhatAnotherProgramHasWrittenSinceTheCrash)
@@ -181,7 +217,7 @@ TEST_F(RecoveryTest, HasTheRestoredCopyAtEveryMoment)
     Crash();
     StudioDocument document;
     Recovery recovery(document);
-    ASSERT_EQ("", recovery.Recover(*Recovery::FindLost()));
+    ASSERT_EQ("", Restore(recovery, document));
     EXPECT_EQ(1, Copies().size());
 }
 

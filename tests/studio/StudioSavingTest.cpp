@@ -148,6 +148,7 @@ TEST_F(StudioSavingTest, TellsOfABitrateOfOnesOwnThatACrashHasTaken)
     for (auto* button : next.findChild<QWidget*>("lostOffer")->findChildren<QPushButton*>())
         if (button->text() == "Restore")
             QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&next] { return !next.Files().Files().IsBusy(); }, kPatience));
     EXPECT_TRUE(next.findChild<QWidget*>("messageBar")->isVisible());
     EXPECT_TRUE(
         next.findChild<QWidget*>("messageBar")->findChild<QLabel*>("message")->text().contains("\"MP4\""));

@@ -130,8 +130,8 @@ TEST_F(StudioWindowTest, OffersWhatACrashHasLeft)
         if (button->text() == "Restore")
             QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_FALSE(bar.isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([&next] { return next.isWindowModified(); }, kPatience));
     EXPECT_FALSE(next.Document().Root()->FindChild("Video")->FindFormatPreset("MP4"));
-    EXPECT_TRUE(next.isWindowModified());
     next.Document().SetContent(BuiltInContent(), {});
 }
 

@@ -15,6 +15,9 @@
 #include <exception>
 #include <filesystem>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace Vexlor::Studio
 {
 
@@ -32,13 +35,24 @@ bool Exists(const std::string& path)
     return std::filesystem::exists(path, ignored);
 }
 
-bool IsProtected(const std::string& path)
+bool MayBeWritten(const std::string& path)
 {
     using std::filesystem::perms;
     std::error_code ignored;
     const auto status = std::filesystem::status(path, ignored);
-    return (status.permissions() & (perms::owner_write | perms::group_write | perms::others_write)) ==
-           perms::none;
+    return (status.permissions() & (perms::owner_write | perms::group_write | perms::others_write)) !=
+               perms::none &&
+           ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+}
+
+// A new file in its place could be written all the same.
+void RequireWritable(const std::string& path)
+{
+    std::error_code ignored;
+    if (Exists(path) && !MayBeWritten(path))
+        throw Tool::Failure(path + ": is write-protected");
+    if (!Exists(path) && std::filesystem::is_symlink(path, ignored))
+        throw Tool::Failure(path + ": is a link to a file that is not there");
 }
 
 } // namespace
@@ -71,8 +85,7 @@ bool WriteOver(const std::string& path, const std::string& expected, const std::
         WriteAnyway(path, text);
         return true;
     }
-    if (IsProtected(path)) // a new file in its place would be written all the same
-        throw Tool::Failure(path + ": is write-protected");
+    RequireWritable(path);
     const auto change = [&](const std::string& before)
     {
         if (before != expected)
@@ -87,11 +100,18 @@ bool WriteOver(const std::string& path, const std::string& expected, const std::
     {
         return false;
     }
+    catch (const Tool::Failure&)
+    {
+        if (Tool::ReadDocumentText(path) != expected) // what somebody else has written may be no document
+            return false;
+        throw;
+    }
     return true;
 }
 
 void WriteAnyway(const std::string& path, const std::string& text)
 {
+    RequireWritable(path);
     const Tool::FolderLock lock(path);
     std::string error;
     if (!ParseJson(text, &error))

@@ -21,7 +21,8 @@ DocumentContent ReadContent(const std::string& path);
 DocumentContent BuiltInContent();
 
 /// Writes the text as the document of that path, all or nothing; on any thread. Where the file holds another
-/// text than expected it stays as it is, and the answer is false. Throws Tool::Failure.
+/// text than expected it stays as it is, and the answer is false. Throws Tool::Failure; so it does where the
+/// file is write-protected, or the path a link that leads nowhere.
 bool WriteOver(const std::string& path, const std::string& expected, const std::string& text);
 /// The same whatever the file holds.
 void WriteAnyway(const std::string& path, const std::string& text);

@@ -42,11 +42,30 @@ void DocumentFiles::WhenFree(const std::function<void()>& change)
 
 void DocumentFiles::Open(const QString& path)
 {
+    Read(
+        path, [path = path.toStdString()] { return ReadContent(path); },
+        [this, path](DocumentContent content)
+        { m_document.SetContent(std::move(content), QFileInfo(path).absoluteFilePath()); },
+        [this] { emit Opened(m_document.Path()); });
+}
+
+void DocumentFiles::Read(const QString& path, std::function<DocumentContent()> read,
+                         std::function<void(DocumentContent content)> take, std::function<void()> tell)
+{
     if (m_isBusy)
         return;
     Begin(path, true);
-    m_work.Start<DocumentContent>([path = path.toStdString()] { return ReadContent(path); },
-                                  [this, path](auto result) { TakeOpened(path, std::move(result)); });
+    const auto end = [this, take = std::move(take), tell = std::move(tell)](auto result)
+    {
+        if (result.value)
+            take(std::move(*result.value));
+        SetBusy(false);
+        if (result.value)
+            tell();
+        else
+            emit Failed(result.error);
+    };
+    m_work.Start<DocumentContent>(std::move(read), end);
 }
 
 void DocumentFiles::GiveUpReading()
@@ -55,17 +74,6 @@ void DocumentFiles::GiveUpReading()
         return;
     m_work.Abandon();
     SetBusy(false);
-}
-
-void DocumentFiles::TakeOpened(const QString& path, AsideResult<DocumentContent> result)
-{
-    if (result.value)
-        m_document.SetContent(std::move(*result.value), QFileInfo(path).absoluteFilePath());
-    SetBusy(false);
-    if (result.value)
-        emit Opened(m_document.Path());
-    else
-        emit Failed(result.error);
 }
 
 void DocumentFiles::Save(const QString& path, bool overwrites)

@@ -8,6 +8,8 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
+#include <utility>
 
 class QFileSystemWatcher;
 
@@ -35,6 +37,12 @@ public:
 
     /// Reads the file of that path, which then is the document.
     void Open(const QString& path);
+    /// Has something else read as the document of that path, beside the window's thread, and then taken.
+    void Read(const QString& path, std::function<DocumentContent()> read,
+              std::function<void(DocumentContent content)> take)
+    {
+        Read(path, std::move(read), std::move(take), [] {});
+    }
     /// Gives up reading a file that does not answer. The document stays as it is.
     void GiveUpReading();
     /// Writes the document to that path. Unless it may overwrite, the document's own file stays as it is
@@ -57,7 +65,8 @@ private:
 
     void Begin(const QString& path, bool isReading);
     void SetBusy(bool isBusy);
-    void TakeOpened(const QString& path, AsideResult<DocumentContent> result);
+    void Read(const QString& path, std::function<DocumentContent()> read,
+              std::function<void(DocumentContent content)> take, std::function<void()> tell);
     void TakeSaved(const QString& path, const AsideResult<Written>& result);
     void Watch();
     void LookAtFile();

@@ -1,5 +1,6 @@
 #include "Recovery.h"
 
+#include "DocumentFiles.h"
 #include "DocumentText.h"
 #include "StudioDocument.h"
 
@@ -40,13 +41,15 @@ QString Sibling(const QString& recovery, const char* ending)
     return file.path() + '/' + file.completeBaseName() + ending;
 }
 
-/// True when the program that made the copy still runs.
-bool IsInUse(const QString& recovery)
+/// The lock of whoever made the copy or restores it.
+std::shared_ptr<QLockFile> LockOf(const QString& recovery)
 {
-    QLockFile lock(Sibling(recovery, kLockEnding));
-    lock.setStaleLockTime(0);
-    return !lock.tryLock(0);
+    auto lock = std::make_shared<QLockFile>(Sibling(recovery, kLockEnding));
+    lock->setStaleLockTime(0); // only that of a program which has gone is
+    return lock;
 }
+
+bool IsInUse(const QString& recovery) { return !LockOf(recovery)->tryLock(0); }
 
 /// What is known of the document's own file: the hash of its text as it is expected to be, and its path.
 struct Original
@@ -210,23 +213,28 @@ std::optional<LostDocument> Recovery::FindLost()
     return {};
 }
 
-QString Recovery::Recover(const LostDocument& lost)
+void Recovery::Recover(const LostDocument& lost, DocumentFiles& files)
 {
-    try
+    const auto turn = LockOf(lost.recovery);
+    turn->tryLock(0);
+    const auto textOfFile = std::make_shared<std::string>();
+    const auto read = [lost, textOfFile]
     {
-        auto text = TextOfFile(lost.path);
-        if (HashOf(text) != OriginalOf(lost.recovery).hash)
-            text.clear(); // so that what others have written since is not overwritten unasked
-        m_document.SetRecovered(ReadContent(lost.recovery.toStdString()), lost.path, std::move(text));
-    }
-    catch (const std::exception& failure)
+        *textOfFile = TextOfFile(lost.path);
+        if (HashOf(*textOfFile) != OriginalOf(lost.recovery).hash)
+            textOfFile->clear(); // so that what others have written since is not overwritten unasked
+        return ReadContent(lost.recovery.toStdString());
+    };
+    const auto take = [this, lost, textOfFile, turn](DocumentContent content)
     {
-        return ToolText(failure.what());
-    }
-    for (const auto* ending : kEndings)
-        QFile::rename(Sibling(lost.recovery, ending), PathOf(ending));
-    Discard(lost);
-    return {};
+        m_document.SetRecovered(std::move(content), lost.path, std::move(*textOfFile));
+        for (const auto* ending : kEndings)
+            QFile::rename(Sibling(lost.recovery, ending), PathOf(ending));
+        turn->unlock();
+        Discard(lost);
+        emit Recovered(lost.note);
+    };
+    files.Read(lost.path.isEmpty() ? lost.recovery : lost.path, read, take);
 }
 
 void Recovery::Discard(const LostDocument& lost)

@@ -18,6 +18,7 @@
 namespace Vexlor::Studio
 {
 
+class DocumentFiles;
 class StudioDocument;
 
 /// What a program that ended without being asked has left: a document with changes that were not saved.
@@ -53,12 +54,15 @@ public:
 
     /// The newest copy whose program has gone without removing it.
     static std::optional<LostDocument> FindLost();
-    /// Makes that copy the document, and this program's own; answers why not, in words.
-    QString Recover(const LostDocument& lost);
+    /// Makes that copy the document, and this program's own, as soon as it is read, which those files tell
+    /// of. Until then nobody else finds it.
+    void Recover(const LostDocument& lost, DocumentFiles& files);
     /// Removes that copy.
     static void Discard(const LostDocument& lost);
 
 signals:
+    /// A copy has become the document; what it does not hold, in words.
+    void Recovered(const QString& note);
     /// After a copy was made, or could not be made.
     void Kept();
     /// Copies cannot be made for another reason than before; for none any more where it is empty.

@@ -167,6 +167,7 @@ constexpr std::array kPatterns{
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "the document is larger than 4 GiB")},
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "is write-protected")},
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "is a link to a file that is not there")},
+    ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "is a link to a file that is not there")},
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "not changed: %1")},
     ToolPattern{
         QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "not written, for it could not be read again: %1")},

@@ -2595,6 +2595,10 @@
         <translation>ist schreibgeschützt</translation>
     </message>
     <message>
+        <source>is a link to a file that is not there</source>
+        <translation>ist ein Verweis auf eine Datei, die es nicht gibt</translation>
+    </message>
+    <message>
         <source>not changed: %1</source>
         <translation>nicht geändert: %1</translation>
     </message>

@@ -54,18 +54,9 @@ void StudioWindow::OfferLost()
     m_lostOffer->Say(tr("The program ended unexpectedly. Changes of %1 were put by on %2.")
                          .arg(name, QLocale().toString(lost->saved, QLocale::ShortFormat)));
     m_lostOffer->Offer(tr("Discard"), [lost = *lost] { Recovery::Discard(lost); });
-    m_lostOffer->Offer(tr("Restore"),
-                       [this, lost = *lost]
-                       {
-                           m_files->WhenNothingIsLost(
-                               [this, lost]
-                               {
-                                   const auto reason = m_recovery.Recover(lost);
-                                   if (const auto& text = reason.isEmpty() ? lost.note : reason;
-                                       !text.isEmpty())
-                                       m_messages->Say(text);
-                               });
-                       });
+    m_lostOffer->Offer(
+        tr("Restore"), [this, lost = *lost]
+        { m_files->WhenNothingIsLost([this, lost] { m_recovery.Recover(lost, m_files->Files()); }); });
 }
 
 void StudioWindow::dragEnterEvent(QDragEnterEvent* event)

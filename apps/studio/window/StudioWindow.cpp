@@ -99,6 +99,12 @@ void StudioWindow::Connect()
                 [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); });
     connect(&m_document, &StudioDocument::StateChanged, this, &StudioWindow::ShowState);
     m_recovery.SetNote([this] { return OwnBitrates::NoteOf(m_document); });
+    connect(&m_recovery, &Recovery::Recovered, this,
+            [this](const QString& note)
+            {
+                if (!note.isEmpty())
+                    m_messages->Say(note);
+            });
     connect(&m_recovery, &Recovery::FailureChanged, m_lossMessage,
             [this](const QString& failure) { TellOfLoss(failure); });
     connect(&m_files->Files(), &DocumentFiles::BusyChanged, this, &StudioWindow::SetBusy);
