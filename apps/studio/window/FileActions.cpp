@@ -43,12 +43,7 @@ void FileActions::Connect()
     connect(&m_files, &DocumentFiles::Saved, this, &FileActions::AfterSaving);
     connect(&m_files, &DocumentFiles::SaveRefused, this, &FileActions::TellOfRefusal);
     connect(&m_files, &DocumentFiles::ChangedOnDisk, this, &FileActions::TellOfChange);
-    connect(&m_files, &DocumentFiles::Failed, this,
-            [this](const QString& reason)
-            {
-                m_next = nullptr;
-                Tell(reason);
-            });
+    connect(&m_files, &DocumentFiles::Failed, this, &FileActions::TellOfFailure);
 }
 
 void FileActions::AddTo(QMenu& menu) const
@@ -122,6 +117,7 @@ bool FileActions::MayReplace(const QString& path)
 void FileActions::SaveTo(const QString& path, bool overwrites)
 {
     m_note = OwnBitrates::NoteOf(m_document);
+    m_isSaving = true;
     m_files.Save(path, overwrites);
 }
 
@@ -134,6 +130,7 @@ void FileActions::Tell(const QString& trouble)
 
 void FileActions::AfterSaving()
 {
+    m_isSaving = false;
     m_messages.TakeBack(m_trouble);
     if (const auto note = std::exchange(m_note, {}); !note.isEmpty())
         m_messages.Say(note);
@@ -160,9 +157,18 @@ void FileActions::WhenNothingIsLost(const std::function<void()>& next)
     Save();
 }
 
+void FileActions::TellOfFailure(const QString& reason)
+{
+    m_next = nullptr;
+    Tell(reason);
+    if (std::exchange(m_isSaving, false))
+        m_messages.Offer(tr("Save As…"), [this] { SaveAs(); });
+}
+
 void FileActions::TellOfRefusal(const QString& path)
 {
     m_next = nullptr;
+    m_isSaving = false;
     Tell(tr("\"%1\" was not saved: another program has changed it since it was opened.")
              .arg(QFileInfo(path).fileName()));
     m_messages.Offer(tr("Save As…"), [this] { SaveAs(); });

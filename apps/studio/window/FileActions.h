@@ -52,6 +52,7 @@ private:
     void SaveTo(const QString& path, bool overwrites);
     void Tell(const QString& trouble);
     void AfterSaving();
+    void TellOfFailure(const QString& reason);
     void TellOfRefusal(const QString& path);
     void TellOfChange(const QString& path);
 
@@ -67,6 +68,7 @@ private:
     std::function<void()> m_next; // when the document is saved
     QString m_note;               // to be told then
     QString m_trouble;            // that was told last
+    bool m_isSaving = false;
 };
 
 } // namespace Vexlor::Studio
