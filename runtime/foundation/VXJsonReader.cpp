@@ -7,6 +7,7 @@
 #include <simdjson.h>
 
 #include <new>
+#include <utility>
 
 namespace Vexlor
 {
@@ -60,7 +61,7 @@ private:
     // A container whose end is still to come.
     struct Open
     {
-        JsonKind kind;
+        bool isMember;     // or an element
         std::size_t first; // its first child among the members or views that wait
     };
 
@@ -70,8 +71,6 @@ private:
         m_hasFault = true;
         return m_index.Count();
     }
-
-    bool IsInObject() const { return !m_open.empty() && m_open.back().kind == JsonKind::Object; }
 
     // A scalar, or containers up to their first value.
     std::size_t ReadValue(std::size_t place)
@@ -94,8 +93,8 @@ private:
 
     bool Begin(bool isObject)
     {
-        m_open.push_back({.kind = isObject ? JsonKind::Object : JsonKind::Array,
-                          .first = isObject ? m_members.size() : m_views.size()});
+        m_open.push_back({.isMember = m_isInObject, .first = isObject ? m_members.size() : m_views.size()});
+        m_isInObject = isObject;
         return m_open.size() <= kJsonMaxDepth;
     }
 
@@ -104,7 +103,7 @@ private:
     {
         while (!m_open.empty())
         {
-            const bool isObject = IsInObject();
+            const bool isObject = m_isInObject;
             const char behind = m_index.First(place);
             if (behind == ',')
                 return isObject ? ReadName(place + 1) : place + 1;
@@ -173,7 +172,7 @@ private:
     // A scalar, as a member has it.
     void Put(std::size_t value, std::size_t length)
     {
-        if (IsInObject())
+        if (m_isInObject)
         {
             m_members.back().value = Narrow(value);
             m_members.back().length = Narrow(length);
@@ -186,7 +185,7 @@ private:
     {
         const Open container = m_open.back();
         m_open.pop_back();
-        if (container.kind == JsonKind::Object)
+        if (std::exchange(m_isInObject, container.isMember))
             EndObject(container.first);
         else
             EndArray(container.first);
@@ -203,7 +202,7 @@ private:
     // As a member it stands before its elements, which are read behind it.
     void EndArray(std::size_t first)
     {
-        const bool isMember = IsInObject();
+        const bool isMember = m_isInObject;
         const VXJsonView view(m_document, JsonKind::Array, m_content.views.size() + (isMember ? 1 : 0),
                               m_views.size() - first);
         if (isMember)
@@ -215,7 +214,7 @@ private:
 
     void Put(const VXJsonView& view)
     {
-        if (!IsInObject())
+        if (!m_isInObject)
             return m_views.push_back(view);
         m_members.back().value = Narrow(m_content.views.size());
         m_content.views.push_back(view);
@@ -237,6 +236,7 @@ private:
     std::vector<JsonDocumentMember> m_members;
     std::vector<VXJsonView> m_views;
     std::vector<Open> m_open;
+    bool m_isInObject = false;      // as opposed to an array: the innermost that is open
     simdjson::dom::parser m_parser; // of strings with escape sequences
     std::vector<std::string_view> m_escaped;
     std::size_t m_backslash; // where the next one is in the text
