@@ -32,18 +32,20 @@ struct Closer
 // To the end, which is not where the size tells in a pipe.
 std::string ReadToEnd(std::FILE* file, const std::string& path)
 {
-    constexpr std::size_t kStep = std::size_t{4} << 20U;
+    constexpr std::size_t kLeastStep = std::size_t{64} << 10U;
+    constexpr std::size_t kMostStep = std::size_t{4} << 20U; // a small file does not pay for as much
     constexpr std::size_t kMostBytes = std::size_t{1} << 32U;
-    std::string text;
     std::error_code unknown;
-    if (const auto known = std::filesystem::file_size(path, unknown); !unknown)
-        text.reserve(std::min<std::size_t>(known, kMostBytes) +
-                     kStep); // or a long text is copied as it grows
+    const std::uintmax_t told = std::filesystem::file_size(path, unknown);
+    const auto known = unknown ? 0 : std::min<std::size_t>(told, kMostBytes);
+    const auto step = std::clamp(known + 1, kLeastStep, kMostStep);
+    std::string text;
+    text.reserve(known + step); // or a long text is copied as it grows
     std::size_t size = 0;
     for (std::size_t count = 1; count > 0 && size <= kMostBytes; size += count)
     {
-        text.resize(size + kStep);
-        count = std::fread(text.data() + size, 1, kStep, file);
+        text.resize(size + step);
+        count = std::fread(text.data() + size, 1, step, file);
     }
     if (std::ferror(file) != 0)
         Fail(path);
