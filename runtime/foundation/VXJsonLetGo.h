@@ -48,7 +48,8 @@ void LetGo(Drop drop, Take take) noexcept
         const JsonChild last = std::move(later.back());
         later.pop_back();
     }
-    --nested;
+    if (--nested == 0)
+        waiting = nullptr;
 }
 
 } // namespace Vexlor
