@@ -3,6 +3,7 @@
 #include "OwnCategory.h"
 #include "PresetEdit.h"
 #include "TreeEdits.h"
+#include "apps/studio/ShownText.h"
 
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
@@ -135,7 +136,7 @@ void StudioDocument::Push(std::unique_ptr<QUndoCommand> edit, const QString& wha
     const int recentIndex = RecentIndexOf(item);
     if (recentIndex >= 0)
         AdoptAsOwn(m_tree, {item, {FindRecentCategory(*Root()), recentIndex}}, *edit);
-    edit->setText(what);
+    edit->setText(MenuText(what));
     m_undo.push(edit.release());
     if (recentIndex >= 0)
         emit MadeOwn(item.preset);

@@ -6,6 +6,7 @@
 #include "RecentPresets.h"
 #include "StudioDocument.h"
 #include "TreeEdits.h"
+#include "apps/studio/ShownText.h"
 
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
@@ -83,9 +84,9 @@ void CollectPresets(IVXFormatNode& node, Items& presets)
 
 QString TreeEditor::Rename(const TreeItem& item, const QString& name)
 {
-    const auto trimmed = name.trimmed();
-    if (trimmed == NameOf(item))
+    if (name == NameOf(item)) // with its blanks, too
         return {};
+    const auto trimmed = name.trimmed();
     if (trimmed.isEmpty())
         return tr("A name cannot be empty.");
     const auto parent = m_document.Tree().ParentOf(item);
@@ -108,7 +109,7 @@ void TreeEditor::Remove(const Items& items)
     const auto what =
         gone.size() == 1 ? tr("Delete \"%1\"").arg(NameOf(gone.front().item)) : tr("Delete Selection");
     auto edit = std::make_unique<RemoveEdit>(m_document.Tree(), std::move(gone));
-    edit->setText(what);
+    edit->setText(MenuText(what));
     m_document.Undo().push(edit.release());
 }
 
@@ -237,7 +238,7 @@ void TreeEditor::Insert(Added items, const QString& what)
 
 void TreeEditor::Push(std::unique_ptr<QUndoCommand> edit, const QString& what)
 {
-    edit->setText(what);
+    edit->setText(MenuText(what));
     m_document.Undo().push(edit.release());
 }
 

@@ -1,7 +1,11 @@
 #include "TreeItem.h"
 
+#include "apps/studio/ShownText.h"
+
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
+
+#include <QCoreApplication>
 
 #include <algorithm>
 #include <utility>
@@ -42,6 +46,12 @@ void Wear(Look& object, const ItemLook& look)
 QString NameOf(const TreeItem& item)
 {
     return QString::fromStdString(item.preset ? item.preset->Name() : item.category->Name());
+}
+
+QString ShownNameOf(const TreeItem& item)
+{
+    const auto name = ShownText(item.preset ? item.preset->Name() : item.category->Name());
+    return name.trimmed().isEmpty() ? QCoreApplication::translate("TreeItem", "(no name)") : name;
 }
 
 QString DescriptionOf(const TreeItem& item)

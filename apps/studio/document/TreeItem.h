@@ -63,6 +63,8 @@ struct MovedItem
 std::vector<MovedItem> Reversed(std::vector<MovedItem> items);
 
 QString NameOf(const TreeItem& item);
+/// The name on one line; words that there is none.
+QString ShownNameOf(const TreeItem& item);
 QString DescriptionOf(const TreeItem& item);
 /// Key of the icon.
 int FaceOf(const TreeItem& item);

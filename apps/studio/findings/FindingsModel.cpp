@@ -1,5 +1,7 @@
 #include "FindingsModel.h"
 
+#include "apps/studio/ShownText.h"
+
 #include <QApplication>
 #include <QStyle>
 
@@ -46,7 +48,8 @@ QVariant FindingsModel::data(const QModelIndex& index, int role) const
         return {};
     if (index.column() == KindColumn)
         return KindText(finding.kind);
-    return index.column() == WhereColumn ? finding.where : finding.what;
+    const auto& text = index.column() == WhereColumn ? finding.where : finding.what;
+    return role == Qt::ToolTipRole ? AsPlainText(text) : text;
 }
 
 QVariant FindingsModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -25,6 +25,7 @@ FindingsPane::FindingsPane(QWidget* parent)
     : QWidget(parent), m_model(new FindingsModel(this)), m_summary(new QLabel(this)),
       m_view(new QTableView(this))
 {
+    m_summary->setTextFormat(Qt::PlainText);
     m_summary->setObjectName("findingsSummary");
     m_summary->setWordWrap(true);
     m_view->setObjectName("findings");

@@ -1,6 +1,7 @@
 #include "OutcomeDrawings.h"
 
 #include "BitrateBar.h"
+#include "DrawingRole.h"
 #include "SizeDrawing.h"
 
 #include <QBoxLayout>
@@ -22,6 +23,7 @@ OutcomeDrawings::OutcomeDrawings(QWidget* parent)
       m_audio(new BitrateBar(tr("Bitrate of the sound"), this)),
       m_layout(new QBoxLayout(QBoxLayout::TopToBottom, this))
 {
+    TellThatDrawingsArePictures();
     m_video->setObjectName(QStringLiteral("videoBitrate"));
     m_audio->setObjectName(QStringLiteral("audioBitrate"));
     auto* bars = new QVBoxLayout;

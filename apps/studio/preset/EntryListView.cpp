@@ -1,5 +1,7 @@
 #include "EntryListView.h"
 
+#include "apps/studio/ShownText.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -96,7 +98,7 @@ void EntryListView::Fill(const QStringList& texts, int current)
             addItem(QString());
         item(row)->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item(row)->setText(texts[row]);
-        item(row)->setToolTip(texts[row]);
+        item(row)->setToolTip(AsPlainText(texts[row]));
     }
     m_chosen = current;
     Mark();

@@ -208,6 +208,13 @@
     </message>
 </context>
 <context>
+    <name>TreeItem</name>
+    <message>
+        <source>(no name)</source>
+        <translation>(ohne Namen)</translation>
+    </message>
+</context>
+<context>
     <name>Vexlor::Studio::AspectRow</name>
     <message>
         <source>sample aspect</source>
@@ -742,6 +749,17 @@
     <message>
         <source>Nothing was looked for yet: Presets &gt; Check looks at the document.</source>
         <translation>Noch wurde nichts geprüft: Vorgaben &gt; Prüfen sieht sich das Dokument an.</translation>
+    </message>
+</context>
+<context>
+    <name>Vexlor::Studio::FormatTreeModel</name>
+    <message>
+        <source>Preset, %1</source>
+        <translation>Vorgabe, %1</translation>
+    </message>
+    <message>
+        <source>Category</source>
+        <translation>Kategorie</translation>
     </message>
 </context>
 <context>
@@ -2733,10 +2751,6 @@
     <message>
         <source>another program is writing it</source>
         <translation>ein anderes Programm schreibt gerade hinein</translation>
-    </message>
-    <message>
-        <source>is a link to a file that is not there</source>
-        <translation>ist eine Verknüpfung mit einer Datei, die es nicht gibt</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 
 #include "FaceIcons.h"
 #include "TreeMime.h"
+#include "apps/studio/ShownText.h"
 #include "apps/studio/document/PlaceFinder.h"
 #include "apps/studio/document/RecentPresets.h"
 #include "apps/studio/document/StudioDocument.h"
@@ -57,13 +58,30 @@ std::vector<int> RowsTo(QModelIndex index)
     return rows;
 }
 
+QString ContainerOf(const TreeItem& item)
+{
+    return item.preset ? ShownText(item.preset->FormatName()) : QString();
+}
+
 QString TipOf(const TreeItem& item)
 {
-    auto tip = "<b>" + NameOf(item).toHtmlEscaped() + "</b>";
+    constexpr int kLongest = 1000;
+    auto tip = "<b>" + ShownNameOf(item).toHtmlEscaped() + "</b>";
     if (item.preset)
-        tip += " (" + QString::fromStdString(item.preset->FormatName()).toHtmlEscaped() + ')';
-    const auto description = DescriptionOf(item).toHtmlEscaped();
-    return description.isEmpty() ? tip : tip + "<br>" + description;
+        tip += " (" + ContainerOf(item).toHtmlEscaped() + ')';
+    auto description = DescriptionOf(item);
+    if (description.size() > kLongest)
+        description = description.left(kLongest) + QChar(0x2026);
+    return description.isEmpty() ? tip : tip + "<br>" + description.toHtmlEscaped().replace('\n', "<br>");
+}
+
+/// What the picture and the place in the tree tell those who see them.
+QString SpokenOf(const TreeItem& item)
+{
+    const auto kind = item.preset ? FormatTreeModel::tr("Preset, %1").arg(ContainerOf(item))
+                                  : FormatTreeModel::tr("Category");
+    const auto description = DescriptionOf(item);
+    return description.isEmpty() ? kind : kind + ". " + description;
 }
 
 } // namespace
@@ -232,6 +250,7 @@ QVariant FormatTreeModel::data(const QModelIndex& index, int role) const
     switch (role)
     {
     case Qt::DisplayRole:
+        return ShownNameOf(item);
     case Qt::EditRole:
         return NameOf(item);
     case Qt::DecorationRole:
@@ -239,9 +258,9 @@ QVariant FormatTreeModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return TipOf(item);
     case Qt::AccessibleDescriptionRole:
-        return DescriptionOf(item);
+        return SpokenOf(item);
     case ContainerRole:
-        return item.preset ? QString::fromStdString(item.preset->FormatName()) : QVariant();
+        return item.preset ? ContainerOf(item) : QVariant();
     case PathRole:
         return PathOf(static_cast<IVXFormatNode*>(index.internalPointer()));
     default:

@@ -12,6 +12,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Vexlor::Studio
 {
 
@@ -28,6 +30,10 @@ void Append(const QModelIndex& index, QItemSelection& selection)
     else
         selection.append(QItemSelectionRange(index));
 }
+
+constexpr int kIndentation = 20;
+constexpr int kLeastIndentation = 6;
+constexpr int kNameRoom = 16; // characters of the deepest names are to be seen
 
 constexpr int kMostExpanded = 2000; // presets that are found and shown with all that is above them
 
@@ -86,6 +92,16 @@ void TreePane::MakeView()
     m_view->setDefaultDropAction(Qt::MoveAction);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_view->setIconSize({20, 20});
+    m_view->viewport()->installEventFilter(this);
+    m_fitting.setSingleShot(true);
+    m_fitting.setInterval(0);
+    connect(&m_fitting, &QTimer::timeout, this, &TreePane::FitIndentation);
+    const auto fitSoon = qOverload<>(&QTimer::start);
+    connect(m_view, &QTreeView::expanded, &m_fitting, fitSoon);
+    connect(m_view, &QTreeView::collapsed, &m_fitting, fitSoon);
+    for (const auto change :
+         {&PresetTree::Reset, &PresetTree::Inserted, &PresetTree::Removed, &PresetTree::Rearranged})
+        connect(&m_document.Tree(), change, &m_fitting, fitSoon);
     const auto* selection = m_view->selectionModel();
     connect(selection, &QItemSelectionModel::currentChanged, this, &TreePane::KeepCurrent);
     connect(selection, &QItemSelectionModel::selectionChanged, this, &TreePane::SelectionChanged);
@@ -192,6 +208,30 @@ void TreePane::ShowFound()
         m_view->expandAll();
     else
         m_view->expandToDepth(0);
+    m_fitting.start();
+}
+
+// Names of deep categories are to be read, too, without scrolling aside.
+void TreePane::FitIndentation()
+{
+    const int names = m_view->iconSize().width() + kNameRoom * m_view->fontMetrics().averageCharWidth();
+    const int room = (m_view->viewport()->width() - names) / (DeepestShown({}) + 1);
+    m_view->setIndentation(std::clamp(room, kLeastIndentation, kIndentation));
+}
+
+// As deep as the categories, which stand before the presets.
+int TreePane::DeepestShown(const QModelIndex& parent) const
+{
+    int deepest = 0;
+    for (int row = 0; row < m_filter->rowCount(parent); ++row)
+    {
+        const auto index = m_filter->index(row, 0, parent);
+        if (index.flags().testFlag(Qt::ItemNeverHasChildren))
+            break;
+        if (m_view->isExpanded(index))
+            deepest = std::max(deepest, 1 + DeepestShown(index));
+    }
+    return deepest;
 }
 
 // Where many rows go one by one, the next one is not worth being shown each time.
@@ -221,7 +261,7 @@ void TreePane::TellOfOwn(const std::shared_ptr<IVXFormatPreset>& preset)
     if (m_current == item)
         m_view->scrollTo(m_view->currentIndex());
     emit Told(tr("Recently used presets come and go: \"%1\" stands in \"%2\" now.")
-                  .arg(NameOf(item), NameOf({m_document.Tree().ParentOf(item)})));
+                  .arg(ShownNameOf(item), ShownNameOf({m_document.Tree().ParentOf(item)})));
 }
 
 QModelIndex TreePane::ShownIndexOf(const TreeItem& item) const
@@ -245,6 +285,8 @@ TreeItem TreePane::FirstFoundPreset(const QModelIndex& parent) const
 // From the search field the keyboard goes on to what was found, and back to the whole tree.
 bool TreePane::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == m_view->viewport() && event->type() == QEvent::Resize)
+        m_fitting.start();
     if (watched != m_search || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(watched, event);
     const int key = static_cast<QKeyEvent*>(event)->key();

@@ -3,6 +3,7 @@
 #include "apps/studio/document/TreeItem.h"
 
 #include <QModelIndexList>
+#include <QTimer>
 #include <QWidget>
 
 #include <vector>
@@ -64,6 +65,8 @@ private:
     void LeaveRows(const QModelIndex& parent, int first, int last);
     void KeepCurrent();
     void TellOfOwn(const std::shared_ptr<IVXFormatPreset>& preset);
+    void FitIndentation();
+    int DeepestShown(const QModelIndex& parent) const;
     QModelIndex ShownIndexOf(const TreeItem& item) const;
     TreeItem FirstFoundPreset(const QModelIndex& parent) const;
 
@@ -74,6 +77,7 @@ private:
     QLabel* m_count;
     QTreeView* m_view;
     TreeItem m_current;
+    QTimer m_fitting;
 };
 
 } // namespace Vexlor::Studio

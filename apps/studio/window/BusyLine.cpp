@@ -22,6 +22,7 @@ constexpr int kBarWidth = 120;
 BusyLine::BusyLine(QWidget* parent)
     : QWidget(parent), m_text(new QLabel(this)), m_cancel(new QPushButton(tr("Cancel"), this))
 {
+    m_text->setTextFormat(Qt::PlainText);
     setObjectName("busyLine");
     m_text->setObjectName("busyText");
     m_cancel->setObjectName("cancelBusy");

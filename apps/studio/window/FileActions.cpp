@@ -3,6 +3,7 @@
 #include "MessageBar.h"
 #include "OwnBitrates.h"
 #include "RecentFiles.h"
+#include "apps/studio/ShownText.h"
 #include "apps/studio/document/StudioDocument.h"
 
 #include <QAction>
@@ -110,7 +111,7 @@ bool FileActions::MayReplace(const QString& path)
     return !QFileInfo::exists(path) ||
            QMessageBox::question(
                m_window, tr("Save Preset Document"),
-               tr("\"%1\" is there already. Replace it?").arg(QFileInfo(path).fileName())) ==
+               AsPlainText(tr("\"%1\" is there already. Replace it?").arg(QFileInfo(path).fileName()))) ==
                QMessageBox::Yes;
 }
 
@@ -146,6 +147,7 @@ void FileActions::WhenNothingIsLost(const std::function<void()>& next)
                     tr("Save the changes of \"%1\" first?").arg(m_document.Title()),
                     QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, m_window);
     box.setObjectName("unsavedChanges");
+    box.setTextFormat(Qt::PlainText);
     box.setInformativeText(OwnBitrates::NoteOf(m_document)); // before it is too late
     box.setDefaultButton(QMessageBox::Save);
     const int answer = box.exec();

@@ -1,6 +1,7 @@
 #include "RecentFiles.h"
 
 #include "UserSettings.h"
+#include "apps/studio/ShownText.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -43,8 +44,8 @@ void RecentFiles::Fill()
     {
         const auto name = QFileInfo(path).fileName().replace('&', "&&");
         auto* action = addAction(QString("&%1  %2").arg(++number).arg(name));
-        action->setToolTip(QDir::toNativeSeparators(path));
-        action->setStatusTip(action->toolTip());
+        action->setToolTip(AsPlainText(QDir::toNativeSeparators(path)));
+        action->setStatusTip(QDir::toNativeSeparators(path));
         connect(action, &QAction::triggered, this, [this, path] { emit Chosen(path); });
     }
     setEnabled(number > 0);

@@ -119,7 +119,7 @@ void TreeActions::ShowNew(const std::vector<TreeItem>& items, const std::shared_
     m_pane.Select(items);
     if (!items.empty() && wanted == FindRecentCategory(*m_document.Root()))
         emit m_pane.Told(tr("Recently used presets come and go: what is new stands in \"%1\".")
-                             .arg(NameOf({m_pane.CurrentCategory()})));
+                             .arg(ShownNameOf({m_pane.CurrentCategory()})));
 }
 
 // The keyboard stays near what is gone.
