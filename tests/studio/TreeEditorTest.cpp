@@ -204,12 +204,31 @@ TEST_F(TreeEditorTest, ClonesIntoTheCategoryOfThatIcon)
 
 TEST_F(TreeEditorTest, ShiftsInsideItsList)
 {
-    editor.Shift(Preset(0, 2), -1);
+    editor.Shift({Preset(0, 2)}, -1);
     EXPECT_EQ("Root(A(a1 a3 a2) B(b1))", Outline());
-    editor.Shift({At(0)}, 5);
+    editor.Shift({{At(0)}}, 5);
     EXPECT_EQ("Root(B(b1) A(a1 a3 a2))", Outline());
-    editor.Shift({At(1)}, 1);
+    editor.Shift({{At(1)}}, 1);
     EXPECT_EQ(2, document.Undo().count());
+}
+
+TEST_F(TreeEditorTest, ShiftsSeveralTogether)
+{
+    editor.Shift({Preset(0, 0), Preset(0, 1)}, 1);
+    EXPECT_EQ("Root(A(a3 a1 a2) B(b1))", Outline());
+    editor.Shift({Preset(0, 1), Preset(0, 2)}, 1);
+    EXPECT_EQ(1, document.Undo().count());
+    editor.Shift({Preset(0, 1), Preset(0, 2), Preset(1, 0), {At(1)}}, -1);
+    EXPECT_EQ("Root(A(a1 a2 a3) B(b1))", Outline());
+    document.Undo().undo();
+    EXPECT_EQ("Root(A(a3 a1 a2) B(b1))", Outline());
+}
+
+TEST_F(TreeEditorTest, ShiftsNothingThatIsNotThere)
+{
+    editor.Shift({}, 1);
+    editor.Shift({{document.Root()}}, 1);
+    EXPECT_EQ(0, document.Undo().count());
 }
 
 TEST_F(TreeEditorTest, AddsAPresetOfAContainer)

@@ -179,15 +179,26 @@ Items TreeEditor::Copy(const Items& items, DropPlace to, Added added, const QStr
     return copies;
 }
 
-void TreeEditor::Shift(const TreeItem& item, int by)
+void TreeEditor::Shift(const Items& items, int by)
 {
-    const auto from = m_document.Tree().PlaceOf(item);
-    if (!from.parent)
+    const PlaceFinder places(m_document.Root());
+    const auto list = items.empty() ? TreePlace{} : places.Find(items.front());
+    if (!list.parent)
         return;
-    const int target = std::clamp(from.index + by, 0, CountLike(*from.parent, item) - 1);
-    DropPlace to{from.parent};
-    IndexFor(item, to) = target + (target > from.index ? 1 : 0);
-    Move({item}, to);
+    int first = list.index;
+    int last = list.index;
+    Items shifted;
+    for (const auto& item : items)
+        if (const auto place = places.Find(item);
+            place.parent == list.parent && item.IsPreset() == items.front().IsPreset())
+        {
+            shifted.push_back(item);
+            first = std::min(first, place.index);
+            last = std::max(last, place.index);
+        }
+    DropPlace to{list.parent};
+    IndexFor(shifted.front(), to) = std::max(by < 0 ? first + by : last + 1 + by, 0);
+    Move(shifted, to);
 }
 
 Node TreeEditor::Taker(const Node& wanted, Added& added) const

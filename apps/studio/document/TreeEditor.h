@@ -45,8 +45,9 @@ public:
     QString Move(const Items& items, DropPlace to);
     /// Copies the items to that place; answers the copies.
     Items Copy(const Items& items, DropPlace to);
-    /// Moves the item within its list by that many places.
-    void Shift(const TreeItem& item, int by);
+    /// Moves the items by that many places within the list of the first, where they follow one another then;
+    /// those of other lists stay.
+    void Shift(const Items& items, int by);
     /// Copies the items into the category of the user's own, which is made where it is missing.
     Items CloneIntoOwn(const Items& items);
     /// Adds an empty category at the end of that one.

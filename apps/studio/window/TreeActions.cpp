@@ -156,11 +156,9 @@ void TreeActions::MoveDown() { Shift(1); }
 
 void TreeActions::Shift(int by)
 {
-    if (const auto current = m_pane.Current())
-    {
-        m_editor.Shift(current, by);
-        m_pane.Select({current});
-    }
+    const auto items = m_pane.Selected();
+    m_editor.Shift(items, by);
+    m_pane.Select(items);
 }
 
 void TreeActions::NewCategory()
