@@ -52,6 +52,8 @@ constexpr Told kTold[] = {
      "von der Vorgabe begrenzt (1,00 Mbit/s bis 2,00 Mbit/s) bei Hoch (der Stufe der Quelle)"},
     {"BothSides", "bounded by the preset (at most 640 wide and at most 480 high) from 1920 x 1080",
      "von der Vorgabe begrenzt (höchstens 640 breit und höchstens 480 hoch), statt 1920 x 1080"},
+    {"OneSide", "bounded by the preset (at least 1920 wide)",
+     "von der Vorgabe begrenzt (mindestens 1920 breit)"},
     {"Ratio", "lower the size to 1280 x 720 and the bitrate to 5.00 Mb/s (56 % less)",
      "die Maße auf 1280 x 720 und die Bitrate auf 5,00 Mbit/s senken (56 % weniger)"},
     {"BehindFile", "/a/b.json: is write-protected", "/a/b.json: ist schreibgeschützt"},

@@ -158,9 +158,10 @@ std::pair<int, int> ReasonBounds(ReasonedStream& output, const IVXFormatPreset& 
     stream.SetWidth(width);
     stream.SetHeight(height);
     const auto between = wide.empty() || high.empty() ? "" : " and ";
-    output.Add(MatchValue::Size, MatchReason::Bounded,
-               "bounded by the preset (" + wide + between + high + ") from " +
-                   SizeText(unbounded.first, unbounded.second));
+    auto text = "bounded by the preset (" + wide + between + high + ')';
+    if (const auto before = SizeText(unbounded.first, unbounded.second); !before.empty())
+        text.append(" from ").append(before);
+    output.Add(MatchValue::Size, MatchReason::Bounded, text);
     return unbounded;
 }
 

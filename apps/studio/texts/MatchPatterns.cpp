@@ -60,6 +60,7 @@ constexpr std::array kPatterns{
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "snapped to that of the profile %1 from %2")},
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "set by the container %1")},
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "set by the container %1 from %2")},
+    ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "bounded by the preset (%1)")},
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "bounded by the preset (%1) from %2")},
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "at most %1 wide")},
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "at least %1 wide")},
@@ -166,7 +167,6 @@ constexpr std::array kPatterns{
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "larger than 4 GiB")},
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "the document is larger than 4 GiB")},
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "is write-protected")},
-    ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "is a link to a file that is not there")},
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "is a link to a file that is not there")},
     ToolPattern{QT_TRANSLATE_NOOP("Vexlor::Studio::ToolText", "not changed: %1")},
     ToolPattern{

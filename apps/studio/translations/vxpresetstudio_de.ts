@@ -2614,7 +2614,7 @@
     </message>
     <message>
         <source>is a link to a file that is not there</source>
-        <translation>ist ein Verweis auf eine Datei, die es nicht gibt</translation>
+        <translation>ist eine Verknüpfung mit einer Datei, die es nicht gibt</translation>
     </message>
     <message>
         <source>not changed: %1</source>
@@ -2751,6 +2751,10 @@
     <message>
         <source>another program is writing it</source>
         <translation>ein anderes Programm schreibt gerade hinein</translation>
+    </message>
+    <message>
+        <source>bounded by the preset (%1)</source>
+        <translation>von der Vorgabe begrenzt (%1)</translation>
     </message>
 </context>
 <context>
