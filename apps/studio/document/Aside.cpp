@@ -35,7 +35,7 @@ void AsideWork::Wait() const
 
 void AsideWork::StartThread(std::function<void()> run)
 {
-    auto all = All();
+    const auto& all = All();
     {
         const std::lock_guard lock(all->mutex);
         ++all->count;

@@ -101,7 +101,7 @@ QString FileActions::AskForPath()
     dialog.setDefaultSuffix("json");
     dialog.selectFile(suggestion.fileName());
     while (dialog.exec() == QDialog::Accepted)
-        if (const auto path = dialog.selectedFiles().value(0); MayReplace(path))
+        if (auto path = dialog.selectedFiles().value(0); MayReplace(path))
             return path;
     return {};
 }
