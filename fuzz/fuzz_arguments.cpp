@@ -6,7 +6,6 @@
 #include "apps/vxpresets/ArtworkChoice.h"
 #include "apps/vxpresets/ArtworkCommands.h"
 #include "apps/vxpresets/CommandLine.h"
-#include "apps/vxpresets/ConvertCommands.h"
 #include "runtime/foundation/VXJson.h"
 #include "runtime/foundation/VXLogSink.h"
 #include "tests/foundation/TestFolder.h"
@@ -23,9 +22,7 @@
 namespace Vexlor::Tool
 {
 
-// What encodes, or reaches beyond documents and media files, is left out.
-std::string ConvertCommand(const Request&, const Catalogue&, const Style&) { return {}; }
-std::string CodecsCommand(const Request&, const Catalogue&, const Style&) { return {}; }
+// What reaches beyond documents and media files is left out.
 std::string ArtworkListCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string ArtworkCheckCommand(const Request&, const Catalogue&, const Style&) { return {}; }
 std::string ArtworkExtractCommand(const Request&, const Catalogue&, const Style&) { return {}; }
@@ -85,6 +82,8 @@ void Divert(Request& request, const Files& files)
 {
     request.document = files.Document();
     request.convert.media = files.Media(request.convert.media);
+    request.convert.output = files.New();
+    request.convert.isDryRun = true; // nothing is encoded
     request.edit.document = files.Document();
     if (request.edit.source)
         request.edit.source = files.Document();
