@@ -13,6 +13,7 @@
 
 #include <QFileDialog>
 #include <QLabel>
+#include <QTreeView>
 
 namespace
 {
@@ -52,6 +53,21 @@ TEST_F(StudioSavingTest, LocksEveryWayToChangeWhatIsBeingSaved)
     EXPECT_TRUE(window->Document().Root()->FindChild("Mine"));
     QTest::keyClick(window.get(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_FALSE(window->Document().Root()->FindChild("Mine"));
+}
+
+TEST_F(StudioSavingTest, TakesNoLettersAndNoKeysOfTheTreeWhileItSaves)
+{
+    SaveTo(folder.filePath("mine.json"));
+    window->Tree().SelectByPath("Video/MP4");
+    const auto preset = window->Tree().Current().preset;
+    QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
+    window->Files().Save();
+    QTest::keyClicks(&The<QLineEdit>("name"), "x");
+    QTest::keyClick(&window->Tree().View(), Qt::Key_Delete);
+    ASSERT_TRUE(saved.wait(kPatience));
+    EXPECT_EQ("MP4", preset->Name());
+    EXPECT_TRUE(window->Document().Tree().PlaceOf({{}, preset}).parent);
+    EXPECT_FALSE(window->isWindowModified());
 }
 
 TEST_F(StudioSavingTest, KeepsWhatWasConvertedWhileItWasSaved)

@@ -13,9 +13,9 @@ PlaceFinder::PlaceFinder(std::shared_ptr<IVXFormatNode> root) : m_categories{std
         const auto category = m_categories[i];
         const auto children = category->GetChildList();
         for (std::size_t child = 0; child < children.size(); ++child)
-            m_positions.try_emplace(children[child].get(), i, static_cast<int>(child));
+            m_positions.try_emplace(children[child].get(), Position{i, static_cast<int>(child)});
         for (int preset = 0; preset < category->FormatPresetCount(); ++preset)
-            m_positions.try_emplace(category->GetFormatPreset(preset).get(), i, preset);
+            m_positions.try_emplace(category->GetFormatPreset(preset).get(), Position{i, preset});
         m_categories.insert(m_categories.end(), children.begin(), children.end());
     }
 }
