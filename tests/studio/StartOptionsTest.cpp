@@ -38,6 +38,14 @@ TEST(StartOptions, RefuseWhatIsUnknown)
     EXPECT_EQ(2, Read({"one.json", "two.json"}).exitCode);
 }
 
+TEST(StartOptions, NameTheChoicesWhereOneIsNone)
+{
+    EXPECT_TRUE(Read({"--theme", "pink"}).text.contains("light, dark and system"));
+    EXPECT_EQ(2, Read({"--theme", "pink"}).exitCode);
+    EXPECT_TRUE(Read({"--language", "fr"}).text.contains("en and de"));
+    EXPECT_EQ(2, Read({"--language", "fr"}).exitCode);
+}
+
 TEST(StartOptions, TellTheLanguageEvenWhereTheProgramEndsAtOnce)
 {
     EXPECT_EQ("de", StartLine::LanguageIn({"vxpresetstudio", "--help", "--language", "de"}));

@@ -1297,6 +1297,14 @@
         <translation>„%1“ ist keine Größe, wie es 1400x900 ist.</translation>
     </message>
     <message>
+        <source>&quot;%1&quot; is no theme; light, dark and system are.</source>
+        <translation>„%1“ ist kein Farbschema; light, dark und system sind es.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no language of the program; en and de are.</source>
+        <translation>„%1“ ist keine Sprache des Programms; en und de sind es.</translation>
+    </message>
+    <message>
         <source>There can be one document at a time.</source>
         <translation>Es kann nur ein Dokument zugleich geben.</translation>
     </message>

@@ -20,6 +20,8 @@ namespace Vexlor::Studio
 namespace
 {
 
+constexpr int kOpenUnderDrag = 600; // milliseconds that a category is held over before it opens
+
 /// One range for rows that follow one another: each range costs something at every change of the tree.
 void Append(const QModelIndex& index, QItemSelection& selection)
 {
@@ -90,6 +92,7 @@ void TreePane::MakeView()
     m_view->setEditTriggers(QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
     m_view->setDragDropMode(QAbstractItemView::DragDrop);
     m_view->setDefaultDropAction(Qt::MoveAction);
+    m_view->setAutoExpandDelay(kOpenUnderDrag);
     m_view->setContextMenuPolicy(Qt::ActionsContextMenu);
     m_view->setIconSize({20, 20});
     m_view->viewport()->installEventFilter(this);

@@ -14,9 +14,11 @@ Languages::Languages(const QString& code)
         QLocale::setDefault(locale);
     const auto load = [this](const QLocale& wanted)
     { return m_ours.load(wanted, "vxpresetstudio", "_", ":/translations"); };
-    if (load(locale) || load(QLocale::English)) // which has plurals
+    const bool isThere = load(locale);
+    if (isThere || load(QLocale::English)) // which has plurals
         QCoreApplication::installTranslator(&m_ours);
-    if (m_qt.load(locale, "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+    // Without it Qt's own texts stay English, as the others are then.
+    if (isThere && m_qt.load(locale, "qtbase", "_", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(&m_qt);
 }
 

@@ -19,6 +19,12 @@ QSize SizeOf(const QString& text)
 
 constexpr auto* kLanguage = "--language";
 
+/// The option's value is none of the choices.
+bool IsNoChoice(const QCommandLineParser& line, const char* option, const QStringList& choices)
+{
+    return line.isSet(option) && !choices.contains(line.value(option));
+}
+
 } // namespace
 
 QString StartLine::LanguageIn(const QStringList& arguments)
@@ -57,6 +63,14 @@ StartResult StartLine::Read(const QStringList& arguments)
             {}, QCoreApplication::applicationName() + ' ' + QCoreApplication::applicationVersion() + '\n', 0};
     if (parser.isSet("size") && !SizeOf(parser.value("size")).isValid())
         return {{}, tr("\"%1\" is no size, as 1400x900 is one.").arg(parser.value("size")) + '\n', 2};
+    if (IsNoChoice(parser, "theme", {"light", "dark", "system"}))
+        return {
+            {}, tr("\"%1\" is no theme; light, dark and system are.").arg(parser.value("theme")) + '\n', 2};
+    if (IsNoChoice(parser, "language", {"en", "de"}))
+        return {{},
+                tr("\"%1\" is no language of the program; en and de are.").arg(parser.value("language")) +
+                    '\n',
+                2};
     if (parser.positionalArguments().size() > 1)
         return {{}, tr("There can be one document at a time.") + '\n', 2};
     return {StartOptions{parser.positionalArguments().value(0), parser.value("preset"),
