@@ -81,7 +81,7 @@ void PrintGoals(std::ostream& out, const Results& results)
     for (const auto& goal : kGoals)
     {
         const double reached = goal.reached(results);
-        const bool isEnough = reached >= goal.least && reached <= goal.most;
+        const bool isEnough = reached > 0 && reached >= goal.least && reached <= goal.most;
         out << "| " << goal.what << " | " << (isEnough ? "" : "**") << reached << (isEnough ? "" : "**")
             << ' ' << goal.unit << " | ";
         if (goal.least > 0)

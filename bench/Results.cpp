@@ -22,6 +22,7 @@ void Results::ReportRuns(const std::vector<Run>& runs)
 {
     for (const auto& run : runs)
     {
+        m_hasFailed = m_hasFailed || run.error_occurred;
         if (run.run_type != Run::RT_Iteration || run.error_occurred)
             continue;
         const auto& name = run.run_name;

@@ -19,6 +19,8 @@ public:
     bool ReportContext(const Context&) override { return true; }
     void ReportRuns(const std::vector<Run>& runs) override;
 
+    /// Whether a benchmark told of an error.
+    bool HasFailed() const { return m_hasFailed; }
     /// Microseconds of processor time, or of the benchmark's own clock; 0 for one that did not run.
     double Time(const std::string& name) const { return At(m_times, name); }
     double Ratio(const std::string& name, const std::string& yardstick) const
@@ -39,6 +41,7 @@ private:
 
     std::map<std::string, double> m_times;
     std::map<std::string, double> m_counters;
+    bool m_hasFailed = false;
 };
 
 } // namespace Vexlor::Bench

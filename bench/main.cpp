@@ -34,5 +34,5 @@ int main(int argc, char** argv)
     results.Print(std::cout);
     std::cout << '\n';
     Vexlor::Bench::PrintGoals(std::cout, results);
-    return 0;
+    return results.HasFailed() ? 1 : 0;
 }
