@@ -60,7 +60,8 @@ public:
 private:
     bool Holds(int index) const { return index >= 0 && index < Count(); }
 
-    [[no_unique_address]] VXValueList<Preset> m_entries; // the index stands where it ends
+    // With the attribute the index stands in the padding behind its count.
+    [[no_unique_address]] VXValueList<Preset> m_entries;
     int m_index = 0;
 };
 

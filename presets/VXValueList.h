@@ -41,7 +41,12 @@ public:
     template <typename Value, typename Make>
     static VXValueList Block(std::size_t count, const Make& make);
 
-    std::size_t Count() const { return IsBlock() ? m_count : Listed().size(); }
+    std::size_t Count() const
+    {
+        if (!m_values) // also where they were moved away
+            return 0;
+        return IsBlock() ? m_count : Listed().size();
+    }
     const T& operator[](std::size_t index) const { return IsBlock() ? *Entry(index) : *Listed()[index]; }
     std::shared_ptr<T> Handle(std::size_t index) const
     {
@@ -105,8 +110,8 @@ HandleList<Entry> VXValueList<T>::Handles() const
     if (!IsBlock())
         return {Listed().begin(), Listed().end()};
     HandleList<Entry> handles;
-    handles.reserve(m_count);
-    for (std::size_t i = 0; i < m_count; ++i)
+    handles.reserve(Count());
+    for (std::size_t i = 0; i < Count(); ++i)
         handles.push_back(Handle(i));
     return handles;
 }

@@ -34,11 +34,10 @@ enum class JsonStyle
 VX_FOUNDATION_API std::shared_ptr<const IVXJsonValue> ParseJson(std::string_view text,
                                                                 std::string* error = nullptr);
 
-/// How many bytes ParseJsonInPlace needs behind a text.
+/// With so many bytes of capacity to spare, a text is not copied by ParseJsonInPlace.
 inline constexpr std::size_t kJsonRoom = 64;
 
-/// As ParseJson, but the values stand in the text itself, which is handed over. It is not copied where its
-/// capacity is at least its size and kJsonRoom.
+/// As ParseJson, but the values stand in the text itself, which is handed over.
 VX_FOUNDATION_API std::shared_ptr<const IVXJsonValue> ParseJsonInPlace(std::string text,
                                                                        std::string* error = nullptr);
 

@@ -29,9 +29,9 @@ bool PutBy(JsonChildren& waiting, Take take) noexcept
     }
 }
 
-/// Drops the children of a value that dies, however deep they are and however short memory is. Those of very
-/// deep ones are taken instead, and wait for the outermost value on this thread: the stack would not do for
-/// all.
+/// Drops the children of a value that dies, and never fails. Those of very deep ones are taken instead, and
+/// wait for the outermost value on this thread: the stack would not do for all. It has to where memory for
+/// those that wait is gone.
 template <class Drop, class Take>
 void LetGo(Drop drop, Take take) noexcept
 {

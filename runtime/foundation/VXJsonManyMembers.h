@@ -92,8 +92,11 @@ public:
 
     /// Drops all members; what room they had stays.
     void Clear() noexcept;
-    /// How long the text can get in the room that there is.
-    std::size_t Room() const { return m_text.capacity(); }
+    /// How many bytes they have, used or not.
+    std::size_t Room() const
+    {
+        return m_text.capacity() + m_places.capacity() * sizeof(Place) + m_gaps.capacity() * sizeof(Gap);
+    }
 
     std::size_t Count() const { return m_places.size(); }
     JsonMember At(std::size_t index) const;

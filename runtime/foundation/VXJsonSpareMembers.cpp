@@ -9,9 +9,10 @@ namespace
 {
 
 constexpr std::size_t kMost = 16;
-constexpr std::size_t kMostRoom = 16000; // of each; longer texts are rare, and soon made
+constexpr std::size_t kMostRoom = 20000; // of each; longer texts are rare, and soon made
 
-// What a thread has. Plain variables may be used even while the thread ends.
+// What a thread has. Plain variables may be used even while the thread ends. Few of them: where the library
+// is loaded by a program that runs, they lie in the little room that the loader holds free for such.
 struct Spare
 {
     std::array<VXJsonManyMembers*, kMost> members{};

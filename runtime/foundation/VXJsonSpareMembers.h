@@ -6,8 +6,8 @@ namespace Vexlor
 {
 
 /// Many members, of which there are none yet. Objects are built one like the other, and most are finished
-/// soon: the room of those that are given back serves the next ones of the thread, which keeps a few hundred
-/// kilobytes of it at most. Throws std::bad_alloc.
+/// soon: the room of those that are given back serves the next ones of the thread, which keeps a third of a
+/// megabyte of it at most. Throws std::bad_alloc.
 VXJsonManyMembers* TakeJsonMembers();
 void GiveJsonMembers(VXJsonManyMembers* members) noexcept;
 

@@ -122,7 +122,7 @@ std::vector<CodecCapabilities> AllCapabilities()
 
 const CodecCapabilities* CapabilitiesOf(int codecID)
 {
-    static const auto s_all = AllCapabilities();
+    static const auto& s_all = *new auto(AllCapabilities()); // in the order of the table, and never destroyed
     const auto* const row = FindCodec(codecID);
     return row ? &s_all[static_cast<std::size_t>(row - CodecTable().data())] : nullptr;
 }

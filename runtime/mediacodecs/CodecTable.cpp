@@ -588,7 +588,8 @@ std::span<const CodecRow> CodecTable() { return kTable; }
 
 const CodecRow* FindCodec(int codecID)
 {
-    static const auto s_rows = RowsByID();
+    // Never destroyed: whatever lives as long as the program may still ask at its end.
+    static const auto& s_rows = *new auto(RowsByID());
     const auto found = s_rows.find(codecID);
     return found == s_rows.end() ? nullptr : found->second;
 }

@@ -1,6 +1,7 @@
 #include "tests/memory/ResidentMemory.h"
 
 #include <cstdio>
+#include <stdexcept>
 
 #include <malloc.h>
 #include <unistd.h>
@@ -25,12 +26,14 @@ std::size_t ResidentBytes()
     ::malloc_trim(0);
     std::FILE* file = std::fopen("/proc/self/statm", "r");
     if (!file)
-        return 0;
+        throw std::runtime_error("/proc/self/statm cannot be opened");
     std::size_t mapped = 0;
     std::size_t pages = 0;
     const bool isRead = std::fscanf(file, "%zu %zu", &mapped, &pages) == 2;
     static_cast<void>(std::fclose(file));
-    return isRead ? pages * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE)) : 0;
+    if (!isRead)
+        throw std::runtime_error("/proc/self/statm cannot be read");
+    return pages * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
 }
 #endif
 

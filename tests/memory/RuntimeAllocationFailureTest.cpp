@@ -13,6 +13,7 @@
 
 #include <string>
 #include <thread>
+#include <vector>
 
 // The same with the runtime beneath the library: texts are parsed and written, codecs are asked.
 
@@ -130,6 +131,26 @@ TEST(RuntimeMemory, OfAThreadEndsWithIt)
     for (int i = 0; i < 10; ++i)
         writeElsewhere();
     EXPECT_EQ(inUse, BytesInUse());
+}
+
+TEST(RuntimeMemory, OfLargeObjectsIsNotKept)
+{
+    constexpr int kObjects = 20;
+    constexpr int kMembers = 1300;
+    const auto build = []
+    {
+        std::vector<std::shared_ptr<IVXJsonValue>> objects;
+        for (int i = 0; i < kObjects; ++i)
+        {
+            objects.push_back(IVXJsonValue::JsonValueNull());
+            for (int member = 0; member < kMembers; ++member)
+                objects.back()->SetValueInt(std::to_string(member), member);
+        }
+        EXPECT_TRUE(objects.back()->HasKey(std::to_string(kMembers - 1)));
+    };
+    const auto inUse = BytesInUse();
+    build();
+    EXPECT_GE(inUse + kBlocks, BytesInUse());
 }
 
 INSTANTIATE_TEST_SUITE_P(Memory, RuntimeAllocationFailure,

@@ -50,7 +50,7 @@ std::shared_ptr<const IVXJsonValue> JsonOf(const QFileInfo& file)
     if (static_cast<std::size_t>(file.size()) > kMostBytes)
         throw Tool::Failure(path + ": is too large");
     std::string error;
-    auto json = ParseJson(Tool::ReadDocumentText(path), &error);
+    auto json = ParseJsonInPlace(Tool::ReadDocumentText(path), &error);
     if (!json)
         throw Tool::Failure(path + ':' + error);
     if (!JsonText(*(*json)[kDocuments]).starts_with('['))
