@@ -64,6 +64,7 @@ TEST_P(ShownName, IsOnOneLineAndStaysAsItIs)
     EXPECT_EQ(GetParam().name, Data(Qt::EditRole).toString().toStdString());
     QTest::keyClick(&window->Tree().View(), Qt::Key_F2);
     QTest::keyClick(window->Tree().View().viewport()->findChild<QLineEdit*>(), Qt::Key_Return);
+    QCoreApplication::processEvents(); // what was typed is stored then
     EXPECT_EQ(GetParam().name, preset.preset->Name());
     EXPECT_EQ(0, window->Document().Undo().count());
 }
