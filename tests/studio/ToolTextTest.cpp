@@ -187,8 +187,13 @@ TEST(ToolPatterns, HaveWhatTheToolsTell)
     for (const auto* folder : {"match", "convert", "document", "import"})
         for (QDirIterator files(QStringLiteral(VX_SOURCE_DIR "/apps/host/") + folder, {"*.cpp"});
              files.hasNext();)
-            if (const auto path = files.next(); !kOthers.contains(files.fileName()))
+        {
+            const auto path = files.next();
+            if (!kOthers.contains(files.fileName()))
+            {
                 EXPECT_EQ("", MissingIn(path).toStdString());
+            }
+        }
 }
 
 class BeneathTheTools : public testing::TestWithParam<const char*>
