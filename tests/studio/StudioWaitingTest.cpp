@@ -1,4 +1,5 @@
 #include "apps/studio/document/Aside.h"
+#include "apps/studio/document/TreeEditor.h"
 #include "apps/studio/window/BusyLine.h"
 #include "apps/studio/window/PresetActions.h"
 #include "tests/studio/StudioWindowFixture.h"
@@ -106,6 +107,34 @@ TEST_F(StudioWaitingTest, AsksBeforeItClosesWhileAFileIsWritten)
     window->Files().Files().Save(folder.filePath("written.json"), true);
     AnswerNext(QMessageBox::No);
     EXPECT_FALSE(window->close());
+}
+
+TEST_F(StudioWaitingTest, LosesNothingWhenItClosesWhileAFileIsWritten)
+{
+    const auto path = folder.filePath("written.json");
+    SaveTo(path);
+    TreeEditor(window->Document()).AddCategory(window->Document().Root(), "Precious");
+    ASSERT_TRUE(QFile::remove(path));
+    const Silence disk(path);
+    window->Files().Save();
+    AnswerNext(QMessageBox::Yes);
+    EXPECT_TRUE(window->close());
+    window.reset();
+    const auto lost = Recovery::FindLost();
+    ASSERT_TRUE(lost);
+    EXPECT_EQ(path, lost->path);
+    EXPECT_TRUE(ReadContent(lost->recovery.toStdString()).root->FindChild("Precious"));
+}
+
+TEST_F(StudioWaitingTest, LeavesNothingToOfferOfAFileThatIsWrittenAfterAll)
+{
+    TreeEditor(window->Document()).AddCategory(window->Document().Root(), "Precious");
+    QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
+    window->Files().Files().Save(folder.filePath("written.json"), true);
+    window->Lost().Leave();
+    ASSERT_TRUE(saved.wait(kPatience));
+    window.reset();
+    EXPECT_FALSE(Recovery::FindLost());
 }
 
 TEST_F(StudioWaitingTest, GivesUpAnImport)

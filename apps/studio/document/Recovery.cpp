@@ -113,7 +113,17 @@ Recovery::Recovery(StudioDocument& document, QObject* parent)
 Recovery::~Recovery()
 {
     m_work.Wait();
-    Forget();
+    if (!m_leaves || !m_document.IsModified())
+        Forget();
+}
+
+// A copy that is being made may lack the latest changes.
+void Recovery::Leave()
+{
+    m_leaves = true;
+    m_work.Wait();
+    m_isKeeping = false;
+    Keep();
 }
 
 QString Recovery::Folder()

@@ -51,6 +51,9 @@ public:
     void Keep();
     /// Removes the copy.
     void Forget();
+    /// Leaves a copy to the next program where there is something to lose still, as when a file is not
+    /// written in time.
+    void Leave();
 
     /// The newest copy whose program has gone without removing it.
     static std::optional<LostDocument> FindLost();
@@ -83,6 +86,7 @@ private:
     QElapsedTimer m_clock;
     bool m_isStale = false;   // the copy lacks changes
     bool m_isKeeping = false; // a copy is being made
+    bool m_leaves = false;    // the copy to the next program
     QString m_failure;        // of the last copy
     AsideWork m_work;
 };

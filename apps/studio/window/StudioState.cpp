@@ -85,6 +85,8 @@ void StudioWindow::closeEvent(QCloseEvent* event)
                 QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
             });
     }
+    if (isWriting)
+        m_recovery.Leave();
     StoreState();
     event->accept();
 }
