@@ -1,3 +1,4 @@
+#include "apps/studio/document/Aside.h"
 #include "tests/studio/OutcomePaneFixture.h"
 #include "tests/studio/Patience.h"
 
@@ -6,6 +7,7 @@
 #include <QProgressBar>
 
 #include <filesystem>
+#include <future>
 
 namespace Vexlor::Studio
 {
@@ -158,12 +160,24 @@ TEST(OutcomePaneEnd, CancelsWhatItConverts)
     EXPECT_TRUE(QDir(QString::fromStdString(folder.Path(""))).isEmpty(QDir::Files | QDir::Hidden));
 }
 
-TEST(OutcomePaneEnd, WaitsForWhatItReads)
+TEST(OutcomePaneEnd, DoesNotWaitForWhatItReads)
 {
-    StudioDocument document;
-    OutcomePane pane(document);
-    for (const char* clip : {"film.mp4", "film.mkv", "music.mp3"})
-        pane.OpenSource(QString::fromStdString(Media::Clip(clip)));
+    std::promise<void> gate;
+    {
+        StudioDocument document;
+        OutcomePane pane(document);
+        pane.findChild<SourceLoader*>()->SetReader(
+            [answer = gate.get_future().share()](const QString&)
+            {
+                answer.wait_for(std::chrono::milliseconds(kPatience));
+                return VXMediaFile();
+            });
+        for (const char* name : {"a.mp4", "b.mp4", "c.mp4"})
+            pane.OpenSource(name);
+    }
+    EXPECT_EQ(3, AsideCount());
+    gate.set_value();
+    EXPECT_TRUE(AwaitAside(std::chrono::milliseconds(kPatience)));
 }
 
 } // namespace

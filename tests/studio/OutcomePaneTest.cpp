@@ -1,5 +1,6 @@
 #include "tests/studio/OutcomePaneFixture.h"
 
+#include "apps/studio/document/Aside.h"
 #include "apps/studio/outcome/OutcomeView.h"
 #include "tests/studio/Patience.h"
 
@@ -10,6 +11,8 @@
 #include <QFileDialog>
 #include <QMimeData>
 #include <QUrl>
+
+#include <future>
 
 namespace Vexlor::Studio
 {
@@ -130,6 +133,49 @@ TEST_F(OutcomePaneTest, ShowsTheNewerOfTwoSourcesAlone)
     ASSERT_TRUE(opened.wait(kPatience));
     EXPECT_FALSE(opened.wait(200));
     EXPECT_EQ(Path("film.mkv"), opened.front().front().toString());
+    EXPECT_EQ("film.mkv", Text("sourceName"));
+}
+
+/// Files of disks that are gone, but for one.
+class SilentDisk : public OutcomePaneTest
+{
+protected:
+    SilentDisk()
+    {
+        pane.findChild<SourceLoader*>()->SetReader(
+            [answer = gate.get_future().share(), good = Path("film.mkv")](const QString& path)
+            {
+                if (path != good)
+                    answer.wait_for(std::chrono::milliseconds(kPatience));
+                return ReadMediaFile(path.toStdString());
+            });
+    }
+    ~SilentDisk() override
+    {
+        gate.set_value();
+        AwaitAside(std::chrono::milliseconds(kPatience));
+    }
+
+    std::promise<void> gate;
+};
+
+TEST_F(SilentDisk, KeepsNoFileOfAnotherOne)
+{
+    for (int i = 0; i < 6; ++i)
+        pane.OpenSource(Path("film.mp4"));
+    Open("film.mkv");
+    EXPECT_EQ("film.mkv", Text("sourceName"));
+    EXPECT_FALSE(IsShown("cancelSource"));
+}
+
+TEST_F(SilentDisk, IsGivenUp)
+{
+    Open("film.mkv");
+    pane.OpenSource(Path("film.mp4"));
+    EXPECT_TRUE(IsShown("cancelSource"));
+    Click("cancelSource");
+    EXPECT_FALSE(pane.IsReading());
+    EXPECT_FALSE(IsShown("cancelSource") || IsShown("sourceState"));
     EXPECT_EQ("film.mkv", Text("sourceName"));
 }
 

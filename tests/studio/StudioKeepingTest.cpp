@@ -1,5 +1,6 @@
 #include "StudioWindowFixture.h"
 
+#include "apps/studio/document/Aside.h"
 #include "apps/studio/outcome/OutcomePane.h"
 #include "apps/studio/outcome/SourceLoader.h"
 #include "apps/studio/window/Screenshot.h"
@@ -36,8 +37,7 @@ protected:
     void Convert(const char* path)
     {
         window->Tree().SelectByPath(path);
-        const auto preset = window->Tree().Current().preset;
-        emit window->Outcome().ConversionDone(preset, preset->Clone());
+        StudioWindowTest::Convert();
     }
     std::string Recent()
     {
@@ -181,6 +181,11 @@ TEST_F(StudioKeepingTest, TakesWhatIsNoHabitForNone)
 class ScreenshotTest : public StudioKeepingTest
 {
 protected:
+    ~ScreenshotTest() override
+    {
+        AwaitAside(std::chrono::milliseconds(kPatience));
+    } // what waits for the gate
+
     int Take(int patience = kPatience)
     {
         TakeScreenshotAndEnd(*window, picture, patience);

@@ -107,7 +107,14 @@ void OutcomePane::Connect()
     connect(&m_update, &QTimer::timeout, this, &OutcomePane::Update);
     connect(&m_loader, &SourceLoader::Loaded, this, &OutcomePane::TakeSource);
     connect(m_source, &SourceBar::Chosen, this, &OutcomePane::OpenSource);
+    connect(m_source, &SourceBar::CancelWanted, this,
+            [this]
+            {
+                m_loader.GiveUp();
+                m_source->ShowReading({});
+            });
     connect(m_convert, &ConvertPanel::FittingChanged, this, &OutcomePane::Update);
+    connect(m_convert, &ConvertPanel::ConversionStarted, this, &OutcomePane::ConversionStarted);
     connect(m_convert, &ConvertPanel::ConversionDone, this, &OutcomePane::ConversionDone);
     connect(m_remedies, &RemedyButtons::Chosen, this,
             [this](int number)

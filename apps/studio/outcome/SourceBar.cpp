@@ -11,7 +11,8 @@ namespace Vexlor::Studio
 {
 
 SourceBar::SourceBar(QWidget* parent)
-    : QWidget(parent), m_name(new ElidedLabel(this)), m_state(new QLabel(this))
+    : QWidget(parent), m_name(new ElidedLabel(this)), m_state(new QLabel(this)),
+      m_cancel(new QPushButton(tr("Cancel"), this))
 {
     auto* open = new QPushButton(tr("Open &Media…"), this);
     open->setObjectName(QStringLiteral("openSource"));
@@ -33,9 +34,20 @@ SourceBar::SourceBar(QWidget* parent)
     auto* lines = new QVBoxLayout(this);
     lines->setContentsMargins({});
     lines->addLayout(line);
-    lines->addWidget(m_state);
+    lines->addLayout(NewStateLine());
     ShowSource({});
     Say({});
+}
+
+QLayout* SourceBar::NewStateLine()
+{
+    m_cancel->setObjectName(QStringLiteral("cancelSource"));
+    m_cancel->setAccessibleName(tr("Cancel reading"));
+    connect(m_cancel, &QPushButton::clicked, this, &SourceBar::CancelWanted);
+    auto* line = new QHBoxLayout;
+    line->addWidget(m_state, 1);
+    line->addWidget(m_cancel);
+    return line;
 }
 
 void SourceBar::ShowSource(const QString& path)
@@ -50,11 +62,13 @@ void SourceBar::Say(const QString& text)
 {
     m_state->setText(text);
     m_state->setVisible(!text.isEmpty());
+    m_cancel->hide();
 }
 
 void SourceBar::ShowReading(const QString& path)
 {
     Say(path.isEmpty() ? QString() : tr("Reading %1 …").arg(QFileInfo(path).fileName()));
+    m_cancel->setVisible(!path.isEmpty());
 }
 
 void SourceBar::ShowError(const QString& error) { Say(error); }

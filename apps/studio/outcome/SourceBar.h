@@ -3,6 +3,8 @@
 #include <QWidget>
 
 class QLabel;
+class QLayout;
+class QPushButton;
 
 namespace Vexlor::Studio
 {
@@ -19,7 +21,7 @@ public:
 
     /// Names the source that is shown; an empty path is none.
     void ShowSource(const QString& path);
-    /// Says what is being read; an empty text is nothing.
+    /// Says what is being read, and offers to give that up; an empty path is nothing.
     void ShowReading(const QString& path);
     /// Says why a file could not be read; as above.
     void ShowError(const QString& error);
@@ -30,12 +32,16 @@ public:
 signals:
     /// A file was chosen.
     void Chosen(const QString& path);
+    /// What is being read is not to be waited for.
+    void CancelWanted();
 
 private:
+    QLayout* NewStateLine();
     void Say(const QString& text);
 
     ElidedLabel* m_name;
     QLabel* m_state;
+    QPushButton* m_cancel;
     QString m_path;
 };
 

@@ -9,9 +9,6 @@ namespace Vexlor::Studio
 namespace
 {
 
-// A file that takes its time must not keep those that are asked for after it.
-constexpr int kAtOnce = 4;
-
 VXMediaFile Read(const QString& file)
 {
     const auto path = file.toStdString();
@@ -29,33 +26,27 @@ VXMediaFile Read(const QString& file)
 
 } // namespace
 
-// What is emitted beside the user's thread arrives in it.
-SourceLoader::SourceLoader(QObject* parent) : QObject(parent), m_reader(&Read)
-{
-    m_threads.setMaxThreadCount(kAtOnce);
-    connect(this, &SourceLoader::HasRead, this, &SourceLoader::Tell);
-}
-
-SourceLoader::~SourceLoader()
-{
-    m_threads.clear();
-    m_threads.waitForDone();
-}
+SourceLoader::SourceLoader(QObject* parent) : QObject(parent), m_reader(&Read) {}
 
 void SourceLoader::Load(const QString& path)
 {
-    const int number = ++m_number;
-    m_threads.clear();
-    m_threads.start([this, path, number, reader = m_reader]
-                    { emit HasRead(number, path, reader(path), {}); });
+    m_isLoading = true;
+    m_work.Start<VXMediaFile>([path, reader = m_reader] { return reader(path); },
+                              [this, path](const auto& result) { Tell(path, result); });
 }
 
-void SourceLoader::Tell(int number, const QString& path, const VXMediaFile& media)
+void SourceLoader::GiveUp()
 {
-    if (number != m_number)
-        return;
-    m_told = number;
-    emit Loaded(path, media);
+    m_isLoading = false;
+    m_work.Abandon();
+}
+
+void SourceLoader::Tell(const QString& path, const AsideResult<VXMediaFile>& result)
+{
+    m_isLoading = false;
+    VXMediaFile media;
+    media.error = result.error.toStdString();
+    emit Loaded(path, result.value.value_or(media));
 }
 
 } // namespace Vexlor::Studio

@@ -1225,6 +1225,14 @@
         <source>Open Media</source>
         <translation>Medium öffnen</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Cancel reading</source>
+        <translation>Lesen abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>Vexlor::Studio::StartLine</name>
