@@ -87,6 +87,56 @@ TEST_F(TreePaneTest, SelectsTheFirstFoundPresetWithReturn)
     EXPECT_EQ(1, spy.count());
 }
 
+TEST_F(TreePaneTest, StaysAtWhatASearchHides)
+{
+    pane.SelectByPath("video/mp4");
+    const auto current = pane.Current();
+    const QSignalSpy spy(&pane, &TreePane::CurrentChanged);
+    QTest::keyClicks(&Search(), "webm");
+    EXPECT_EQ(current, pane.Current());
+    EXPECT_FALSE(pane.View().currentIndex().isValid());
+    EXPECT_TRUE(pane.Selected().empty()) << "or Delete would remove what nobody sees";
+    QTest::keyClick(&Search(), Qt::Key_Escape);
+    EXPECT_EQ(current, pane.Current());
+    EXPECT_EQ(std::vector{current}, pane.Selected());
+    EXPECT_EQ(0, spy.count());
+}
+
+TEST_F(TreePaneTest, LeavesWhatASearchHidesForWhatIsChosen)
+{
+    pane.SelectByPath("video/mp4");
+    QTest::keyClicks(&Search(), "webm");
+    QTest::keyClick(&Search(), Qt::Key_Return);
+    const auto chosen = pane.Current();
+    EXPECT_EQ("WEBM", chosen.preset->FormatName());
+    Search().clear();
+    EXPECT_EQ(chosen, pane.Current());
+    EXPECT_EQ(std::vector{chosen}, pane.Selected());
+}
+
+TEST_F(TreePaneTest, LeavesWhatASearchHidesWhenItIsRemoved)
+{
+    pane.SelectByPath("video/mp4");
+    QTest::keyClicks(&Search(), "webm");
+    const QSignalSpy spy(&pane, &TreePane::CurrentChanged);
+    TreeEditor(document).Remove({pane.Current()});
+    EXPECT_FALSE(pane.Current());
+    EXPECT_EQ(1, spy.count());
+}
+
+TEST_F(TreePaneTest, HasWhatWasExpandedExpandedAfterASearch)
+{
+    const auto shown = [this](const char* name)
+    { return Shown().match(Shown().index(0, 0), Qt::DisplayRole, name, 1, Qt::MatchExactly).value(0); };
+    pane.View().expand(shown("Video"));
+    QTest::keyClicks(&Search(), "mp");
+    ASSERT_TRUE(pane.View().isExpanded(shown("Audio")));
+    pane.View().collapse(shown("Video"));
+    Search().clear();
+    EXPECT_TRUE(pane.View().isExpanded(shown("Video")));
+    EXPECT_FALSE(pane.View().isExpanded(shown("Audio")));
+}
+
 TEST_F(TreePaneTest, SaysWhatToDoWhereNothingIsFound)
 {
     QTest::keyClicks(&Search(), "no such thing");

@@ -44,6 +44,7 @@ void FormatFilterModel::SearchSoon()
 
 void FormatFilterModel::Search()
 {
+    emit Searching();
     m_found.clear();
     m_foundCount = 0;
     if (IsNarrowed())

@@ -33,6 +33,8 @@ public:
     int FoundCount() const { return m_foundCount; }
 
 signals:
+    /// Before other rows are shown: those of the last search still are.
+    void Searching();
     /// After what is found has changed.
     void Found();
 

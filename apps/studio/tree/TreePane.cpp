@@ -73,7 +73,8 @@ void TreePane::MakeSearch()
     m_search->setToolTip(tr("Shows what has all of these words in its name, path or container"));
     m_search->setClearButtonEnabled(true);
     m_search->installEventFilter(this);
-    connect(m_search, &QLineEdit::textChanged, this, &TreePane::Narrow);
+    connect(m_search, &QLineEdit::textChanged, m_filter, &FormatFilterModel::SetText);
+    connect(m_filter, &FormatFilterModel::Searching, this, &TreePane::HoldState);
     connect(m_filter, &FormatFilterModel::Found, this, &TreePane::ShowFound);
     m_count->setObjectName("searchCount");
     m_count->setAlignment(Qt::AlignCenter);
@@ -180,13 +181,6 @@ void TreePane::FocusSearch()
     m_search->selectAll();
 }
 
-void TreePane::Narrow(const QString& text)
-{
-    m_filter->SetText(text);
-    if (!m_filter->IsNarrowed() && Current())
-        m_view->scrollTo(ShownIndexOf(Current()), QAbstractItemView::PositionAtCenter);
-}
-
 // What the list itself does not say.
 void TreePane::ShowState()
 {
@@ -202,16 +196,39 @@ void TreePane::ShowState()
         m_count->setText(tr("%n preset(s) found", nullptr, count));
 }
 
+// Who looks for something has not chosen anything yet: what is edited stays, and the tree comes back as it
+// was.
+void TreePane::HoldState()
+{
+    m_isSearching = true;
+    m_expanded.Keep(*m_view);
+}
+
 void TreePane::ShowFound()
 {
     ShowState();
     if (!m_filter->IsNarrowed())
-        return;
-    if (m_filter->FoundCount() <= kMostExpanded)
+        m_expanded.Restore(*m_view);
+    else if (m_filter->FoundCount() <= kMostExpanded)
         m_view->expandAll();
     else
         m_view->expandToDepth(0);
+    m_isSearching = false;
+    ReturnToCurrent();
     m_fitting.start();
+}
+
+// Where it is hidden, none is current in the view, so that each row that is clicked is another one.
+void TreePane::ReturnToCurrent()
+{
+    auto* selection = m_view->selectionModel();
+    const auto shown = ShownIndexOf(m_current);
+    const bool isSelected = !shown.isValid() || selection->hasSelection();
+    selection->setCurrentIndex(shown, isSelected ? QItemSelectionModel::NoUpdate
+                                                 : QItemSelectionModel::ClearAndSelect);
+    if (shown.isValid() && !m_filter->IsNarrowed())
+        m_view->scrollTo(shown, QAbstractItemView::PositionAtCenter);
+    KeepCurrent();
 }
 
 // Names of deep categories are to be read, too, without scrolling aside.
@@ -252,7 +269,8 @@ void TreePane::KeepCurrent()
 {
     const auto index = m_view->currentIndex();
     const auto item = index.isValid() ? m_model->ItemAt(m_filter->mapToSource(index)) : TreeItem();
-    if (item == m_current)
+    const bool isHeld = m_isSearching || (!item && IsHidden(m_current));
+    if (isHeld || item == m_current)
         return;
     m_current = item;
     emit CurrentChanged(item);
@@ -270,6 +288,12 @@ void TreePane::TellOfOwn(const std::shared_ptr<IVXFormatPreset>& preset)
 QModelIndex TreePane::ShownIndexOf(const TreeItem& item) const
 {
     return m_filter->mapFromSource(m_model->IndexOfItem(item));
+}
+
+bool TreePane::IsHidden(const TreeItem& item) const
+{
+    const auto index = m_model->IndexOfItem(item);
+    return index.isValid() && !m_filter->mapFromSource(index).isValid();
 }
 
 TreeItem TreePane::FirstFoundPreset(const QModelIndex& parent) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ExpandedRows.h"
 #include "apps/studio/document/TreeItem.h"
 
 #include <QModelIndexList>
@@ -30,7 +31,8 @@ public:
 
     /// The items that are selected, in their order, without those inside of selected categories.
     std::vector<TreeItem> Selected() const;
-    /// The item that the keyboard is at; none where the tree is empty.
+    /// The item that the keyboard is at; none where the tree is empty. A search that hides it leaves it,
+    /// until another one is chosen.
     TreeItem Current() const;
     /// The category that something new goes to: the current one, or that of the current preset.
     std::shared_ptr<IVXFormatNode> CurrentCategory() const;
@@ -59,15 +61,17 @@ protected:
 private:
     void MakeSearch();
     void MakeView();
-    void Narrow(const QString& text);
     void ShowState();
+    void HoldState();
     void ShowFound();
+    void ReturnToCurrent();
     void LeaveRows(const QModelIndex& parent, int first, int last);
     void KeepCurrent();
     void TellOfOwn(const std::shared_ptr<IVXFormatPreset>& preset);
     void FitIndentation();
     int DeepestShown(const QModelIndex& parent) const;
     QModelIndex ShownIndexOf(const TreeItem& item) const;
+    bool IsHidden(const TreeItem& item) const;
     TreeItem FirstFoundPreset(const QModelIndex& parent) const;
 
     StudioDocument& m_document;
@@ -77,6 +81,8 @@ private:
     QLabel* m_count;
     QTreeView* m_view;
     TreeItem m_current;
+    bool m_isSearching = false;
+    ExpandedRows m_expanded; // before the search began
     QTimer m_fitting;
 };
 
