@@ -62,7 +62,7 @@ TEST(FindingSources, TellWhichPresetAnImportIsAbout)
 TEST(FindingsModel, IsAModel)
 {
     FindingsModel model;
-    const QAbstractItemModelTester tester(&model);
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
     model.SetFindings({{Finding::Kind::Error, "here", "wrong"}, {Finding::Kind::Note, "there", "odd"}});
     EXPECT_EQ(2, model.rowCount());
     EXPECT_EQ("there", model.index(1, FindingsModel::WhereColumn).data().toString());

@@ -242,6 +242,36 @@ TEST_F(ScreenshotTest, FailsWhereTheFileCannotBeWritten)
     EXPECT_EQ(1, Take());
 }
 
+struct Unshown
+{
+    const char* name;
+    StartOptions options;
+    const char* told;
+};
+
+class UnshownTest : public ScreenshotTest, public testing::WithParamInterface<Unshown>
+{
+};
+
+TEST_P(UnshownTest, MakesAScreenshotFail)
+{
+    auto options = GetParam().options;
+    options.screenshot = picture;
+    window->Start(options);
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(1, Take());
+    const auto told = testing::internal::GetCapturedStderr();
+    EXPECT_NE(std::string::npos, told.find(GetParam().told)) << told;
+    EXPECT_FALSE(QFile::exists(picture));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Things, UnshownTest,
+    testing::Values(Unshown{"Preset", {.preset = "Video/None"}, "There is no preset \"Video/None\"."},
+                    Unshown{"Source", {.source = "/nowhere/film.mp4"}, "/nowhere/film.mp4: "},
+                    Unshown{"Document", {.document = "/nowhere/mine.json"}, "/nowhere/mine.json: "}),
+    [](const auto& test) { return test.param.name; });
+
 TEST_F(ScreenshotTest, LeavesNoTraceInTheSettings)
 {
     const auto path = folder.filePath("mine.json");

@@ -77,8 +77,7 @@ TEST_F(StudioSavingTest, KeepsWhatWasConvertedWhileItWasSaved)
     window->Tree().SelectByPath("Video/MKV");
     QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
     window->Files().Save();
-    const auto preset = window->Tree().Current().preset;
-    emit window->Outcome().ConversionDone(preset, preset->Clone());
+    Convert();
     ASSERT_TRUE(saved.wait(kPatience));
     const auto recent = window->Document().Root()->FindChild("Recently Used");
     EXPECT_TRUE(QTest::qWaitFor([&recent] { return recent->FormatPresetCount() == 1; }, kPatience));
@@ -90,12 +89,11 @@ TEST_F(StudioSavingTest, ShowsARecentlyUsedPresetThatIsConvertedStill)
     for (const auto* path : {"Video/MKV", "Video/MP4"})
     {
         window->Tree().SelectByPath(path);
-        const auto preset = window->Tree().Current().preset;
-        emit window->Outcome().ConversionDone(preset, preset->Clone());
+        Convert();
     }
     window->Tree().SelectByPath("Recently Used/MKV");
     const auto shown = window->Tree().Current();
-    emit window->Outcome().ConversionDone(shown.preset, shown.preset->Clone());
+    Convert();
     EXPECT_EQ(shown, window->Tree().Current());
     EXPECT_EQ(0, window->Document().Tree().PlaceOf(shown).index);
 }

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "apps/studio/document/RecentStore.h"
+#include "apps/studio/outcome/OutcomePane.h"
 #include "apps/studio/tree/TreePane.h"
 #include "apps/studio/window/FileActions.h"
 #include "apps/studio/window/StudioWindow.h"
 #include "tests/studio/Patience.h"
+
+#include "IVXFormatPreset.h"
 
 #include <QDir>
 #include <QFile>
@@ -78,6 +81,14 @@ protected:
         QSignalSpy saved(&window->Files().Files(), &DocumentFiles::Saved);
         window->Files().Files().Save(path, true);
         ASSERT_TRUE(saved.wait(kPatience));
+    }
+
+    /// As if the current preset had been converted with.
+    void Convert()
+    {
+        const auto preset = window->Tree().Current().preset;
+        emit window->Outcome().ConversionStarted();
+        emit window->Outcome().ConversionDone(preset, preset->Clone());
     }
 
     void FindAndSelect(const QString& text)

@@ -1,5 +1,6 @@
 #include "StudioWindowFixture.h"
 
+#include "apps/studio/outcome/OutcomeModel.h"
 #include "apps/studio/outcome/OutcomePane.h"
 #include "apps/studio/window/PresetActions.h"
 #include "apps/studio/window/StartOptions.h"
@@ -65,9 +66,17 @@ TEST_F(StudioWindowTest, MatchesAClip)
     window->Outcome().OpenSource(clip);
     ASSERT_TRUE(opened.wait(30000));
     window->Tree().SelectByPath("Video/MP4");
-    auto* view = window->Outcome().findChild<QAbstractItemView*>();
-    ASSERT_NE(nullptr, view);
-    EXPECT_TRUE(QTest::qWaitFor([view] { return view->model()->rowCount() > 10; }, kPatience));
+    const auto* model = window->Outcome().findChild<OutcomeModel*>();
+    const auto codec = [model]
+    {
+        for (int row = 0; row < model->rowCount(); ++row)
+            if (model->RowAt(row).name == "Codec" && !model->RowAt(row).output.isEmpty())
+                return model->RowAt(row);
+        return OutcomeRow();
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&codec] { return !codec().name.isEmpty(); }, kPatience));
+    EXPECT_EQ("H.264", codec().output);
+    EXPECT_EQ("chosen in the preset", codec().why);
 }
 
 TEST_F(StudioWindowTest, SavesAndOpensAgain)
@@ -175,11 +184,27 @@ TEST_F(StudioWindowTest, ImportsPresetsAndSelectsThem)
 TEST_F(StudioWindowTest, KeepsWhatWasConvertedAsRecentlyUsed)
 {
     window->Tree().SelectByPath("Video/MKV");
-    const auto preset = window->Tree().Current().preset;
-    emit window->Outcome().ConversionDone(preset, preset->Clone());
+    Convert();
     const auto recent = window->Document().Root()->FindChild("Recently Used");
     ASSERT_EQ(1, recent->FormatPresetCount());
     EXPECT_EQ("MKV", recent->FirstFormatPreset()->Name());
+}
+
+TEST_F(StudioWindowTest, KeepsWhatWasConvertedWithTheDocumentThatItBeganIn)
+{
+    const auto first = folder.filePath("first.json");
+    const auto second = folder.filePath("second.json");
+    SaveTo(second);
+    SaveTo(first);
+    window->Tree().SelectByPath("Video/MKV");
+    const auto preset = window->Tree().Current().preset;
+    emit window->Outcome().ConversionStarted();
+    Open(second);
+    emit window->Outcome().ConversionDone(preset, preset->Clone());
+    EXPECT_EQ(1U, RecentStore::PresetsOf(first).size());
+    EXPECT_TRUE(RecentStore::PresetsOf(second).empty());
+    const auto recent = window->Document().Root()->FindChild("Recently Used");
+    EXPECT_TRUE(!recent || recent->FormatPresetCount() == 0);
 }
 
 TEST_F(StudioWindowTest, CopiesByTheKeyboard)
@@ -230,8 +255,7 @@ TEST_F(StudioWindowTest, HasNoShortcutTwice)
 TEST_F(StudioWindowTest, PastesNothingThatWasCutAmongTheRecentlyUsed)
 {
     window->Tree().SelectByPath("Video/MKV");
-    auto preset = window->Tree().Current().preset;
-    emit window->Outcome().ConversionDone(preset, preset->Clone());
+    Convert();
     window->Tree().SelectByPath("Video/MP4");
     QTest::keyClick(&window->Tree().View(), Qt::Key_X, Qt::ControlModifier);
     const auto recent = window->Document().Root()->FindChild("Recently Used");

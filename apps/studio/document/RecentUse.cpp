@@ -35,10 +35,16 @@ RecentUse::~RecentUse()
     DoPending();
 }
 
-void RecentUse::Note(const IVXFormatPreset& preset, const IVXFormatPreset& asItWas)
+RecentUse::Place RecentUse::Here() const { return {m_document.Root(), m_document.Path()}; }
+
+// The document may have got another path meanwhile, or been read again.
+void RecentUse::Note(const Place& place, const IVXFormatPreset& preset, const IVXFormatPreset& asItWas)
 {
-    m_document.NoteUsed(preset, asItWas);
-    Do([path = m_document.Path(), preset = asItWas.Clone()] { RecentStore::Note(path, *preset); });
+    const bool isHere = place.root == m_document.Root() || place.path == m_document.Path();
+    if (isHere)
+        m_document.NoteUsed(preset, asItWas);
+    Do([path = isHere ? m_document.Path() : place.path, preset = asItWas.Clone()]
+       { RecentStore::Note(path, *preset); });
 }
 
 void RecentUse::BringBack()

@@ -1,15 +1,18 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
 #include <QTimer>
 
 #include <deque>
 #include <functional>
+#include <memory>
 
 namespace Vexlor
 {
+class IVXFormatNode;
 class IVXFormatPreset;
-}
+} // namespace Vexlor
 
 namespace Vexlor::Studio
 {
@@ -23,12 +26,22 @@ class RecentUse : public QObject
     Q_OBJECT
 
 public:
+    /// A document that presets are used of.
+    struct Place
+    {
+        std::shared_ptr<IVXFormatNode> root = {};
+        QString path = {};
+    };
+
     explicit RecentUse(StudioDocument& document, QObject* parent = nullptr);
     ~RecentUse() override;
 
-    /// Puts the preset in front of the recently used ones, as it was when it was used, and keeps it; at once,
-    /// as long as no other program is keeping something.
-    void Note(const IVXFormatPreset& preset, const IVXFormatPreset& asItWas);
+    /// The document as it is now.
+    Place Here() const;
+    /// Puts the preset of that document in front of its recently used ones, as it was when it was used, and
+    /// keeps it; at once, as long as no other program is keeping something. Of a document that is no longer
+    /// open it is only kept.
+    void Note(const Place& place, const IVXFormatPreset& preset, const IVXFormatPreset& asItWas);
     /// Puts what is kept of the document in front of what it has itself.
     void BringBack();
     /// Forgets what is kept of the document, for its file has it now.

@@ -151,7 +151,7 @@ QString ConvertPanel::SizeText() const
 void ConvertPanel::AskForOutput()
 {
     if (!m_convert->isEnabled())
-        return;
+        return emit Refused(IsConverting() ? tr("A conversion is running already.") : Reason());
     const auto container = ShownText(m_offer.outcome->match.output->FormatName());
     const auto ending = EndingOf(container);
     const QFileInfo suggestion(FreeOutputName(m_offer.source, ending, m_folder));
@@ -200,6 +200,7 @@ void ConvertPanel::Start(const QString& path, bool overwrites)
     }
     UpdateButton();
     m_status->ShowStart(path);
+    emit ConversionStarted();
 }
 
 void ConvertPanel::Cancel()

@@ -51,6 +51,10 @@ public:
 signals:
     /// Another way for pictures to fit was chosen.
     void FittingChanged();
+    /// There is no output to ask for; why.
+    void Refused(const QString& reason);
+    /// A conversion has begun.
+    void ConversionStarted();
     /// A conversion with that preset, as it was when it began, went well.
     void ConversionDone(const std::shared_ptr<Vexlor::IVXFormatPreset>& preset,
                         const std::shared_ptr<Vexlor::IVXFormatPreset>& asItWas);

@@ -51,8 +51,7 @@ public:
     void OpenSource(const QString& path);
     /// Asks for a file in a dialog, and opens it.
     void AskForSource();
-    /// Asks for an output's file in a dialog, and converts into it; nothing happens where that cannot be
-    /// done.
+    /// Asks for an output's file in a dialog, and converts into it; where that cannot be done it tells why.
     void AskToConvert();
     /// Converts into the file of that path; one that is there is replaced when the user says so.
     void ConvertTo(const QString& path);
@@ -67,6 +66,12 @@ public:
 signals:
     /// A file was read and is shown.
     void SourceOpened(const QString& path);
+    /// Nothing can be converted; why.
+    void Refused(const QString& reason);
+    /// A file could not be read; why.
+    void SourceFailed(const QString& reason);
+    /// A conversion has begun.
+    void ConversionStarted();
     /// A conversion with that preset, as it was when it began, went well.
     void ConversionDone(const std::shared_ptr<Vexlor::IVXFormatPreset>& preset,
                         const std::shared_ptr<Vexlor::IVXFormatPreset>& asItWas);

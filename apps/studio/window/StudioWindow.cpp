@@ -21,6 +21,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace Vexlor::Studio
 {
 
@@ -95,8 +97,7 @@ void StudioWindow::Connect()
 {
     connect(m_tree, &TreePane::CurrentChanged, this, &StudioWindow::ShowItem);
     for (const auto telling : {&TreePane::Refused, &TreePane::Told})
-        connect(m_tree, telling, this,
-                [this](const QString& text) { statusBar()->showMessage(text, kMessageTime); });
+        connect(m_tree, telling, this, &StudioWindow::Tell);
     connect(&m_document, &StudioDocument::StateChanged, this, &StudioWindow::ShowState);
     m_recovery.SetNote([this] { return OwnBitrates::NoteOf(m_document); });
     connect(&m_recovery, &Recovery::Recovered, this,
@@ -120,9 +121,13 @@ void StudioWindow::Connect()
     connect(m_findings, &FindingsPane::Chosen, this,
             [this](const TreeItem& item) { m_tree->Select({item}); });
     connect(m_outcome, &OutcomePane::SourceOpened, m_recentMedia, &RecentFiles::Add);
+    connect(m_outcome, &OutcomePane::ConversionStarted, this, [this] { m_converted = m_recent.Here(); });
     connect(m_outcome, &OutcomePane::ConversionDone, this,
             [this](const auto& preset, const auto& asItWas)
-            { m_files->Files().WhenFree([this, preset, asItWas] { m_recent.Note(*preset, *asItWas); }); });
+            {
+                m_files->Files().WhenFree([this, preset, asItWas, place = std::exchange(m_converted, {})]
+                                          { m_recent.Note(place, *preset, *asItWas); });
+            });
     connect(&m_files->Files(), &DocumentFiles::Saved, &m_recent, &RecentUse::Forget);
     // When the line is no longer needed for what is being read.
     connect(
@@ -130,8 +135,11 @@ void StudioWindow::Connect()
         [this](const QString& reason)
         { statusBar()->showMessage(tr("Recently used presets: %1").arg(reason), kMessageTime); },
         Qt::QueuedConnection);
+    connect(m_outcome, &OutcomePane::Refused, this, &StudioWindow::Tell);
     connect(m_recentMedia, &RecentFiles::Chosen, m_outcome, &OutcomePane::OpenSource);
 }
+
+void StudioWindow::Tell(const QString& text) { statusBar()->showMessage(text, kMessageTime); }
 
 void StudioWindow::ShowItem(const TreeItem& item)
 {

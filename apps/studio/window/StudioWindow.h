@@ -9,6 +9,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QStringList>
 
 class QActionGroup;
 class QDockWidget;
@@ -50,6 +51,8 @@ public:
 
     /// True when nothing is being read, written or worked out.
     bool IsAtRest() const;
+    /// Why it does not show what it was started with; nothing where it does.
+    const QStringList& Unshown() const { return m_unshown; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -69,9 +72,11 @@ private:
     void Connect();
     void ShowItem(const TreeItem& item);
     void ShowState();
+    void Tell(const QString& text);
     void SetBusy(bool isBusy);
     void UseTheme(Theme theme);
     void OfferLost();
+    void Restore(const LostDocument& lost);
     void TellOfLoss(const QString& failure);
     bool MayLeaveFile();
     bool MayStopConversion();
@@ -83,6 +88,7 @@ private:
     StudioDocument m_document;
     Recovery m_recovery;
     RecentUse m_recent;
+    RecentUse::Place m_converted; // what the last conversion began in
     FaceIcons m_icons;
     Themes m_themes;
     QActionGroup* m_themeChoices;
@@ -101,6 +107,7 @@ private:
     PresetActions* m_presets;
     TreeActions* m_treeActions;
     QPointer<QWidget> m_focus; // where the keyboard was before the panes were locked
+    QStringList m_unshown;
     bool m_mayClose = false;
 };
 
