@@ -73,8 +73,8 @@ TEST_P(DocumentWords, TellsOfCommandsAndOptionsThatAreThere)
 
 TEST_P(DocumentWords, TellsOfFilesThatAreThere)
 {
-    for (const std::string folder :
-         {".ci/", "apps/", "bench/", "catalog/", "docs/", "examples/", "packaging/", "scripts/", "tests/"})
+    for (const std::string folder : {".ci/", "apps/", "bench/", "catalog/", "cmake/", "docs/", "examples/",
+                                     "fuzz/", "packaging/", "platform/", "runtime/", "scripts/", "tests/"})
     {
         for (const auto& code : InlineCode(GetParam(), folder))
         {
