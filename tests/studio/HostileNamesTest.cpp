@@ -2,16 +2,24 @@
 
 #include "apps/studio/ShownText.h"
 #include "apps/studio/document/TreeEditor.h"
+#include "apps/studio/outcome/ElidedLabel.h"
+#include "apps/studio/outcome/OutcomeModel.h"
+#include "apps/studio/outcome/OutcomePane.h"
 #include "apps/studio/tree/FormatTreeModel.h"
+#include "tests/media/MediaMaker.h"
 
 #include "IVXFormatNode.h"
 #include "IVXFormatPreset.h"
 
 #include <QAction>
+#include <QFile>
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTextDocument>
 #include <QTreeView>
+
+#include <algorithm>
 
 namespace
 {
@@ -119,6 +127,42 @@ TEST_F(HostileNamesTest, NoNameMakesTheWindowWider)
     const int width = window->minimumSizeHint().width();
     Show(std::string(300, 'W'), std::string(300, 'W'));
     EXPECT_EQ(width, window->minimumSizeHint().width());
+}
+
+TEST_F(HostileNamesTest, FilesAreNoMarkupInTipsAndOnOneLineInMenus)
+{
+    const auto path = folder.filePath("<b>x\n&.mov");
+    ASSERT_TRUE(QFile::copy(QString::fromStdString(Media::Clip("film.mp4")), path));
+    QSignalSpy opened(&window->Outcome(), &OutcomePane::SourceOpened);
+    window->Outcome().OpenSource(path);
+    ASSERT_TRUE(opened.wait(kPatience));
+    int tips = 0;
+    for (const auto* widget : window->findChildren<QWidget*>())
+        if (const auto tip = widget->toolTip(); tip.contains("x\n&"))
+        {
+            EXPECT_EQ(AsPlainText(path), tip) << qPrintable(widget->objectName());
+            ++tips;
+        }
+    EXPECT_GT(tips, 0);
+    const auto actions = window->findChildren<QAction*>();
+    const auto isRecent = [](const QAction* action) { return action->text().contains("<b>x"); };
+    const auto recent = std::ranges::find_if(actions, isRecent);
+    ASSERT_NE(actions.end(), recent);
+    EXPECT_TRUE((*recent)->text().endsWith("<b>x\uFFFD&&.mov")) << qPrintable((*recent)->text());
+    EXPECT_FALSE((*recent)->statusTip().contains('\n'));
+}
+
+TEST_F(HostileNamesTest, ReasonsAreNoMarkupInTips)
+{
+    OutcomeModel model;
+    OutcomeRow row;
+    row.why = "<b>x</b>";
+    model.SetRows({row});
+    EXPECT_EQ("<b>x</b>", Spoken(model.index(0, OutcomeModel::Output).data(Qt::ToolTipRole).toString()));
+    ElidedLabel label;
+    label.SetWholeText("<b>x</b>");
+    EXPECT_EQ("<b>x</b>", Spoken(label.toolTip()));
+    EXPECT_EQ(Qt::PlainText, The<QLabel>("predictedSize").textFormat());
 }
 
 TEST_F(HostileNamesTest, DeepNamesAreToBeRead)

@@ -51,6 +51,7 @@ ConvertPanel::ConvertPanel(QWidget* parent)
     m_fit->setToolTip(m_fit->accessibleName());
     m_fitLabel->setBuddy(m_fit);
     m_size->setObjectName(QStringLiteral("predictedSize"));
+    m_size->setTextFormat(Qt::PlainText);
     m_size->setWordWrap(true);
     m_size->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_convert->setObjectName(QStringLiteral("convert"));
@@ -135,7 +136,7 @@ void ConvertPanel::UpdateButton()
 {
     const auto reason = Reason();
     m_convert->setEnabled(reason.isEmpty() && !IsConverting());
-    m_convert->setToolTip(reason);
+    m_convert->setToolTip(AsPlainText(reason));
     m_size->setText(reason.isEmpty() ? SizeText() : reason);
 }
 

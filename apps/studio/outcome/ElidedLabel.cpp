@@ -1,5 +1,7 @@
 #include "ElidedLabel.h"
 
+#include "apps/studio/ShownText.h"
+
 namespace Vexlor::Studio
 {
 
@@ -14,7 +16,7 @@ void ElidedLabel::SetWholeText(const QString& text)
 {
     m_whole = text;
     setTextFormat(Qt::PlainText);
-    setToolTip(text);
+    setToolTip(AsPlainText(text));
     setAccessibleName(text);
     Cut();
     updateGeometry();

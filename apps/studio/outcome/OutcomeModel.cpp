@@ -1,5 +1,7 @@
 #include "OutcomeModel.h"
 
+#include "apps/studio/ShownText.h"
+
 #include <QFont>
 
 #include <algorithm>
@@ -73,7 +75,7 @@ QVariant OutcomeModel::data(const QModelIndex& index, int role) const
     if (role == Qt::DisplayRole)
         return TextOf(row, index.column());
     if (role == Qt::ToolTipRole && !row.why.isEmpty())
-        return row.why;
+        return AsPlainText(row.why);
     if (role == Qt::TextAlignmentRole)
         // Reasons may take some lines; a heading stands near what is below it.
         return (Qt::AlignLeft | (row.isHeading ? Qt::AlignBottom : Qt::AlignTop)).toInt();

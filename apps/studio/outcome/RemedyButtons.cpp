@@ -1,5 +1,7 @@
 #include "RemedyButtons.h"
 
+#include "apps/studio/ShownText.h"
+
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
@@ -57,7 +59,7 @@ void RemedyButtons::AddButton(int number)
     auto* button = new QPushButton(this);
     button->setObjectName(QStringLiteral("remedy%1").arg(number));
     button->setAccessibleName(text);
-    button->setToolTip(tr("%1. This changes the preset, and can be undone.").arg(text));
+    button->setToolTip(AsPlainText(tr("%1. This changes the preset, and can be undone.").arg(text)));
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     connect(button, &QPushButton::clicked, this, [this, number] { emit Chosen(number); });
     m_layout->addWidget(button);

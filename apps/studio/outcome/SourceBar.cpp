@@ -1,6 +1,7 @@
 #include "SourceBar.h"
 
 #include "ElidedLabel.h"
+#include "apps/studio/ShownText.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -53,9 +54,10 @@ QLayout* SourceBar::NewStateLine()
 void SourceBar::ShowSource(const QString& path)
 {
     m_path = path;
-    m_name->SetWholeText(path.isEmpty() ? tr("No source") : QFileInfo(path).fileName());
+    m_name->SetWholeText(path.isEmpty() ? tr("No source")
+                                        : ShownText(QFileInfo(path).fileName().toStdString()));
     if (!path.isEmpty())
-        m_name->setToolTip(path);
+        m_name->setToolTip(AsPlainText(path));
 }
 
 void SourceBar::Say(const QString& text)

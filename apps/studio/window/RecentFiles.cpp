@@ -42,10 +42,10 @@ void RecentFiles::Fill()
     int number = 0;
     for (const auto& path : Paths())
     {
-        const auto name = QFileInfo(path).fileName().replace('&', "&&");
+        const auto name = MenuText(QFileInfo(path).fileName());
         auto* action = addAction(QString("&%1  %2").arg(++number).arg(name));
         action->setToolTip(AsPlainText(QDir::toNativeSeparators(path)));
-        action->setStatusTip(QDir::toNativeSeparators(path));
+        action->setStatusTip(ShownText(QDir::toNativeSeparators(path).toStdString()));
         connect(action, &QAction::triggered, this, [this, path] { emit Chosen(path); });
     }
     setEnabled(number > 0);

@@ -2,6 +2,7 @@
 
 #include "BusyLine.h"
 #include "FileActions.h"
+#include "apps/studio/ShownText.h"
 #include "apps/studio/outcome/OutcomePane.h"
 
 #include <QCloseEvent>
@@ -58,9 +59,10 @@ bool StudioWindow::MayLeaveFile()
     auto& files = m_files->Files();
     files.GiveUpReading();
     return !files.IsBusy() ||
-           QMessageBox::question(this, tr("Document"),
-                                 tr("\"%1\" is still being written. Close without waiting for it?")
-                                     .arg(QFileInfo(files.File()).fileName())) == QMessageBox::Yes;
+           QMessageBox::question(
+               this, tr("Document"),
+               AsPlainText(tr("\"%1\" is still being written. Close without waiting for it?")
+                               .arg(QFileInfo(files.File()).fileName()))) == QMessageBox::Yes;
 }
 
 bool StudioWindow::MayStopConversion()
