@@ -9,6 +9,7 @@
 #include <QDropEvent>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QStatusBar>
 
 namespace
 {
@@ -86,6 +87,36 @@ TEST_F(StudioFilesTest, ImportsAnEncodingTargetThatIsDropped)
     EXPECT_TRUE(Drop(file.fileName()));
     EXPECT_TRUE(QTest::qWaitFor([&] { return window->Document().Root()->ChildCount() == categories + 1; },
                                 kPatience));
+}
+
+TEST_F(StudioFilesTest, OpensADocumentThatIsDroppedOnThePaneOfMedia)
+{
+    const auto path = folder.filePath("mine.JSON");
+    SaveTo(path);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path)});
+    QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window->Outcome(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QSignalSpy opened(&window->Files().Files(), &DocumentFiles::Opened);
+    QDropEvent drop({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window->Outcome(), &drop);
+    EXPECT_TRUE(opened.wait(kPatience));
+}
+
+TEST_F(StudioFilesTest, TellsThatNoDocumentIsTakenWhileAnotherIsWritten)
+{
+    window->Files().Files().Save(folder.filePath("written.json"), true);
+    ASSERT_TRUE(window->Files().Files().IsBusy());
+    EXPECT_FALSE(Drop(folder.filePath("mine.json")));
+    EXPECT_TRUE(window->statusBar()->currentMessage().startsWith("\"mine.json\" was not opened"))
+        << qPrintable(window->statusBar()->currentMessage());
+}
+
+TEST_F(StudioFilesTest, TellsWhyNothingCanBeConverted)
+{
+    QTest::keyClick(window.get(), Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ("There is no source to convert.", window->statusBar()->currentMessage());
 }
 
 TEST_F(StudioFilesTest, OpensMediaThatAreDropped)

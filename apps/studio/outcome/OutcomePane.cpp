@@ -7,6 +7,7 @@
 #include "OutcomeView.h"
 #include "RemedyButtons.h"
 #include "SourceBar.h"
+#include "apps/studio/DroppedFile.h"
 #include "apps/studio/document/StudioDocument.h"
 #include "apps/studio/texts/ToolText.h"
 
@@ -32,11 +33,11 @@ namespace
 
 constexpr int kSoon = 20; // milliseconds, in which many changes are one
 
-/// The first file of what is dragged; empty where there is none.
+/// The first media file of what is dragged; empty where there is none. Everything else is the window's.
 QString FileOf(const QMimeData& data)
 {
     for (const auto& url : data.urls())
-        if (url.isLocalFile())
+        if (url.isLocalFile() && KindOfDropped(url.toLocalFile()) == DroppedFile::Media)
             return url.toLocalFile();
     return {};
 }
@@ -115,6 +116,7 @@ void OutcomePane::Connect()
             });
     connect(m_convert, &ConvertPanel::FittingChanged, this, &OutcomePane::Update);
     connect(m_convert, &ConvertPanel::ConversionStarted, this, &OutcomePane::ConversionStarted);
+    connect(m_convert, &ConvertPanel::Refused, this, &OutcomePane::Refused);
     connect(m_convert, &ConvertPanel::ConversionDone, this, &OutcomePane::ConversionDone);
     connect(m_remedies, &RemedyButtons::Chosen, this,
             [this](int number)

@@ -490,6 +490,10 @@
         <source>%1 files (*.%2);;All files (*)</source>
         <translation>%1-Dateien (*.%2);;Alle Dateien (*)</translation>
     </message>
+    <message>
+        <source>A conversion is running already.</source>
+        <translation>Es läuft bereits eine Umwandlung.</translation>
+    </message>
 </context>
 <context>
     <name>Vexlor::Studio::CustomBitrate</name>
@@ -1512,6 +1516,10 @@
     <message>
         <source>&quot;%1&quot; is still being written. Close without waiting for it?</source>
         <translation>„%1“ wird noch geschrieben. Ohne zu warten schließen?</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; was not opened: another document is being read or written.</source>
+        <translation>„%1“ wurde nicht geöffnet: Ein anderes Dokument wird gerade gelesen oder geschrieben.</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,8 @@
 #include "MessageBar.h"
 #include "PresetActions.h"
 #include "StartOptions.h"
+#include "apps/studio/DroppedFile.h"
+#include "apps/studio/ShownText.h"
 #include "apps/studio/outcome/OutcomePane.h"
 #include "apps/studio/tree/TreePane.h"
 
@@ -72,13 +74,17 @@ void StudioWindow::dropEvent(QDropEvent* event)
     if (urls.isEmpty() || !urls.front().isLocalFile())
         return;
     const auto path = urls.front().toLocalFile();
-    if (path.endsWith(".json", Qt::CaseInsensitive))
+    const auto kind = KindOfDropped(path);
+    if (kind != DroppedFile::Media && m_files->Files().IsBusy())
+        return Tell(tr("\"%1\" was not opened: another document is being read or written.")
+                        .arg(ShownText(QFileInfo(path).fileName().toStdString())));
+    event->acceptProposedAction();
+    if (kind == DroppedFile::Document)
         m_files->Open(path);
-    else if (path.endsWith(".gep", Qt::CaseInsensitive))
+    else if (kind == DroppedFile::EncodingTarget)
         m_presets->Import(path);
     else
         m_outcome->OpenSource(path);
-    event->acceptProposedAction();
 }
 
 } // namespace Vexlor::Studio
