@@ -160,7 +160,11 @@ bool OutcomePane::IsConverting() const { return m_convert->IsConverting(); }
 void OutcomePane::TakeSource(const QString& path, const VXMediaFile& media)
 {
     if (!media.parameter)
-        return m_source->ShowError(ToolText(media.error));
+    {
+        const auto reason = ToolText(media.error);
+        m_source->ShowError(reason);
+        return emit SourceFailed(reason);
+    }
     m_path = path;
     m_media = media;
     m_source->ShowSource(path);

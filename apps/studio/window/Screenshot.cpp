@@ -18,11 +18,21 @@ namespace
 constexpr int kInterval = 250;    // milliseconds
 constexpr int kCalmIntervals = 4; // in which what has come is laid out and painted
 
-void End(const QString& path, const char* failure)
+/// Writes the picture. Answers why not, where it is not one of what was asked for.
+QString Write(StudioWindow& window, const QString& path, bool isCalm)
 {
-    if (failure != nullptr)
-        std::fprintf(stderr, "%s: %s\n", qUtf8Printable(path), failure);
-    QApplication::exit(failure == nullptr ? 0 : 1);
+    if (!isCalm)
+        return path + ": not written, for the window did not come to rest";
+    if (!window.Unshown().isEmpty())
+        return window.Unshown().join('\n');
+    return window.grab().save(path) ? QString() : path + ": cannot be written";
+}
+
+void End(const QString& failure)
+{
+    if (!failure.isEmpty())
+        std::fprintf(stderr, "%s\n", qUtf8Printable(failure));
+    QApplication::exit(failure.isEmpty() ? 0 : 1);
 }
 
 } // namespace
@@ -40,9 +50,7 @@ void TakeScreenshotAndEnd(StudioWindow& window, const QString& path, int patienc
                          if (calm < kCalmIntervals && !isLate)
                              return;
                          timer->stop();
-                         End(path, calm < kCalmIntervals ? "not written, for the window did not come to rest"
-                                   : window.grab().save(path) ? nullptr
-                                                              : "cannot be written");
+                         End(Write(window, path, calm >= kCalmIntervals));
                      });
     timer->start(kInterval);
 }

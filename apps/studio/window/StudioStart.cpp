@@ -26,12 +26,18 @@ void StudioWindow::Start(const StartOptions& options)
         m_themes.Use(Themes::ThemeOf(options.theme));
     if (options.size.isValid())
         resize(options.size);
-    const auto show = [this, options]
+    const auto note = [this](const QString& reason) { m_unshown << reason; };
+    connect(&m_files->Files(), &DocumentFiles::Failed, this, note);
+    connect(m_outcome, &OutcomePane::SourceFailed, this, note);
+    const auto show = [this, options, note]
     {
         if (!options.search.isEmpty())
             m_tree->findChild<QLineEdit*>("search")->setText(options.search);
         if (!options.preset.isEmpty() && !m_tree->SelectByPath(options.preset))
-            m_messages->Say(tr("There is no preset \"%1\".").arg(options.preset));
+        {
+            note(tr("There is no preset \"%1\".").arg(options.preset));
+            m_messages->Say(m_unshown.back());
+        }
         if (options.checks)
             m_presets->Check();
     };
