@@ -245,6 +245,8 @@ void Recovery::Recover(const LostDocument& lost, DocumentFiles& files)
         emit Recovered(lost.note);
     };
     files.Read(lost.path.isEmpty() ? lost.recovery : lost.path, read, take);
+    const auto end = [turn] { turn->unlock(); }; // whatever has come of it
+    connect(&files, &DocumentFiles::BusyChanged, this, end, Qt::SingleShotConnection);
 }
 
 void Recovery::Discard(const LostDocument& lost)

@@ -61,10 +61,20 @@ void StudioWindow::OfferLost()
     const auto name = lost->path.isEmpty() ? tr("the built-in presets") : QFileInfo(lost->path).fileName();
     m_lostOffer->Say(tr("The program ended unexpectedly. Changes of %1 were put by on %2.")
                          .arg(name, QLocale().toString(lost->saved, QLocale::ShortFormat)));
-    m_lostOffer->Offer(tr("Discard"), [lost = *lost] { Recovery::Discard(lost); });
-    m_lostOffer->Offer(
-        tr("Restore"), [this, lost = *lost]
-        { m_files->WhenNothingIsLost([this, lost] { m_recovery.Recover(lost, m_files->Files()); }); });
+    m_lostOffer->Offer(tr("Discard"),
+                       [this, lost = *lost]
+                       {
+                           Recovery::Discard(lost);
+                           OfferLost();
+                       });
+    m_lostOffer->Offer(tr("Restore"), [this, lost = *lost] { Restore(lost); });
+}
+
+// What is not restored after all is offered again, and what else there is.
+void StudioWindow::Restore(const LostDocument& lost)
+{
+    m_files->WhenNothingIsLost([this, lost] { m_recovery.Recover(lost, m_files->Files()); });
+    m_files->Files().WhenFree([this] { OfferLost(); });
 }
 
 void StudioWindow::dragEnterEvent(QDragEnterEvent* event)
