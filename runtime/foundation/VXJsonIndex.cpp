@@ -6,6 +6,7 @@
 #include <simdjson.h>
 
 #include <new>
+#include <string>
 #include <utility>
 
 namespace Vexlor
@@ -13,6 +14,15 @@ namespace Vexlor
 
 static_assert(kJsonRoom >= simdjson::SIMDJSON_PADDING);
 static_assert(VXJsonIndex::kMostBytes <= simdjson::SIMDJSON_MAXSIZE_BYTES);
+
+namespace
+{
+
+// simdjson chooses among its implementations when one is first asked for, and ends the program where memory
+// is short then: so one is asked for when the library is loaded.
+const std::string s_implementation = simdjson::get_active_implementation()->name();
+
+} // namespace
 
 // The first of simdjson's two stages; the second would copy every name and text.
 bool VXJsonIndex::Read(std::string_view text)
