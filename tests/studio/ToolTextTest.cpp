@@ -16,6 +16,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
+#include <string>
 
 namespace Vexlor::Studio
 {
@@ -155,11 +157,20 @@ QStringList TextsIn(const QString& path)
     return texts;
 }
 
+/// The piece is one of the pattern's between what it leaves open, or whole words at an end of one.
+bool HasPiece(const QString& pattern, const QString& piece)
+{
+    const auto text = QRegularExpression::escape(piece);
+    const QRegularExpression whole(
+        QStringLiteral("(^|%\\d|\")%1($|%\\d|\"|\\b)|(^|%\\d|\"|[)]|\\b)%1($|%\\d|\")").arg(text));
+    return whole.match(pattern).hasMatch();
+}
+
 bool IsOfPattern(const QString& text)
 {
     for (const auto& patterns : ToolPatterns())
         for (const auto& pattern : patterns)
-            if (QString::fromUtf8(pattern.text).contains(text))
+            if (HasPiece(QString::fromUtf8(pattern.text), text))
                 return true;
     return false;
 }
@@ -180,6 +191,14 @@ QString MissingIn(const QString& path)
         if (!IsBare(text) && !IsOfPattern(text))
             missing += path + ": " + text + '\n';
     return missing;
+}
+
+TEST(ToolPatterns, StandOnce)
+{
+    std::map<std::string, int> counts;
+    for (const auto& patterns : ToolPatterns())
+        for (const auto& pattern : patterns)
+            EXPECT_EQ(1, ++counts[pattern.text]) << pattern.text;
 }
 
 TEST(ToolPatterns, HaveWhatTheToolsTell)
