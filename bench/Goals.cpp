@@ -33,9 +33,6 @@ constexpr double kMilliseconds = 1e-3;
 constexpr std::array kGoals{
     Goal{"text to tree, 1,000 presets", "x", 0, 3.0,
          [](const Results& results) { return LoadRatio(results, "1000"); }, "simdjson's parse of the text"},
-    Goal{"the same, the text copied first", "x", 0, 3.0,
-         [](const Results& results) { return results.Ratio("LoadTreeFromCopy/1000", "ParseText/1000"); },
-         "simdjson's parse of the text"},
     Goal{"its ratio for 20 presets", "of that", 0.75, 1.25,
          [](const Results& results) { return LoadRatio(results, "20") / LoadRatio(results, "1000"); },
          "the ratio for 1,000"},
